@@ -1,0 +1,41 @@
+# What every target of the project shares: warnings as errors, sanitizers, and the two ways to add one.
+
+add_library(pitchcraft_options INTERFACE)
+target_include_directories(pitchcraft_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(pitchcraft_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wcast-qual
+  -Wformat=2 -Werror
+  # A product of two numbers is rounded before it is added to: the same figures on every machine.
+  -ffp-contract=off)
+if(PITCHCRAFT_SANITIZE)
+  target_compile_options(pitchcraft_options INTERFACE
+    -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(PITCHCRAFT_FUZZ)
+  target_compile_options(pitchcraft_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+    -fno-sanitize-recover=all)
+  target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# pitchcraft_room(NAME SOURCES ... USES room ...): one folder under src/ as a library that sees only the rooms named.
+function(pitchcraft_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(pitchcraft_${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(pitchcraft_${name} PRIVATE pitchcraft_options)
+  target_include_directories(pitchcraft_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  foreach(room ${ROOM_USES})
+    target_link_libraries(pitchcraft_${name} PUBLIC pitchcraft_${room})
+  endforeach()
+endfunction()
+
+# pitchcraft_test(NAME SOURCES ... USES lib ...): one test program, run in shuffled order with the seed printed.
+function(pitchcraft_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${name} ${TEST_SOURCES})
+  target_link_libraries(${name} PRIVATE ${TEST_USES} pitchcraft_options GTest::gtest GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE PITCHCRAFT_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests"
+    PITCHCRAFT_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  add_test(NAME ${name} COMMAND ${name} --gtest_shuffle)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+endfunction()
