@@ -1,0 +1,36 @@
+// Measures as text: feet and inches to the nearest sixteenth, inches alone, millimetres, plain numbers.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace pitchcraft {
+
+/// How a measure is shown.
+inline constexpr int kPlainNumber = 0;
+inline constexpr int kInchesAlone = 3;
+inline constexpr int kFeetAndInches = 4;
+inline constexpr int kMillimetres = 6;
+
+/// The unit of a measure's number.
+inline constexpr int kBaseInches = 0;
+inline constexpr int kBaseMillimetres = 1;
+
+/// Turns text into a number in base units and back. Rounding is for the eye: it never touches the number held.
+class FtInConverter {
+ public:
+  int Units = kFeetAndInches;   // kPlainNumber, kInchesAlone, kFeetAndInches or kMillimetres; others show plain
+  int BaseUnits = kBaseInches;  // of the numbers that go in and come out
+  int DecimalPlaces = 4;        // of millimetres and plain numbers: 0 to 7, trailing zeros cut
+  bool Imperial = true;
+
+  /// The number in base units that the text stands for: always finite, 0 where it cannot be read. A unit converts,
+  /// whatever BaseUnits is; a bare number is in base units. See measure_parser.h for what is read.
+  double ToValue(std::string_view text) const;
+
+  /// The text of a number in base units: "12' 6 1/2\"", "19 3/16\"", "3600 mm", "26.5651". An infinity is "inf" or
+  /// "-inf", an undefined number "nan"; a magnitude beyond what a tape reads is a plain number ("1E+30").
+  std::string ToText(double value) const;
+};
+
+}  // namespace pitchcraft
