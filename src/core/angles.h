@@ -1,5 +1,5 @@
-// The two conversion factors between degrees and radians. They are literals of the product, each standing here once:
-// a printed figure depends on their last digits.
+// The two conversion factors between degrees and radians. They are literals of the product, each standing
+// here once: a printed figure depends on their last digits.
 #pragma once
 
 namespace pitchcraft {

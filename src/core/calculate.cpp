@@ -1,23 +1,25 @@
 // Common, hip, valley and shed rafters. The steps run in one order: later ones use what earlier ones stored.
 #include <cmath>
 
-#include "core/angles.h"
-#include "core/number_text.h"
 #include "core/rafter.h"
+#include "core/triangles.h"
 
 namespace pitchcraft {
 namespace {
 
 using Type = RafterType;
 
-// The share of the plumb depth that stays above the seat cut: seven digits, not an exact two thirds.
-constexpr double kDefaultHeelShare = 0.6666667;
-
-double Hypotenuse(double rise, double run) { return std::sqrt(rise * rise + run * run); }
-
 }  // namespace
 
 void CRafter::Calculate() {
+  if (RafterType == Type::kBastardHip) {
+    CalculateBastardHip();
+    return;
+  }
+  if (RafterType == Type::kGambrelBottom || RafterType == Type::kGambrelTop) {
+    CalculateGambrel();
+    return;
+  }
   TakeHipEndFromMainRoof();
   CalculatePlumbCuts();
   CalculateRidgeAllowances();
@@ -44,7 +46,7 @@ void CRafter::TakeHipEndFromMainRoof() {
   HipEndOverhang = Overhang;
   HipValSlope = Slope / HipFactor;
   let(HipValOverhang) = Overhang * HipFactor;
-  let(HipDegrees) = RoundTo(kDegreesPerRadian * std::atan(HipValSlope / SlopeBase), 2);
+  let(HipDegrees) = RoundedDegrees(HipValSlope);
   HipEndDegrees = degrees;
   HipAngle1 = 45;
   HipAngle2 = 45;
@@ -53,8 +55,9 @@ void CRafter::TakeHipEndFromMainRoof() {
 void CRafter::CalculatePlumbCuts() {
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   let(HipValPlumbCut) = PlumbDepth(Slope, HipValDepth, HipRun);
-  if (AdjFasciaHeight > PlumbCut) AdjFasciaHeight = PlumbCut;
-  // A fascia taller than the hip's own plumb depth stays at the limit of the common: one fascia runs round the roof.
+  LimitTo(AdjFasciaHeight, PlumbCut);
+  // A fascia taller than the hip's own plumb depth stays at the limit of the common: one fascia runs round
+  // the roof.
   const bool onHipOrValley = RafterType == Type::kHip || IsValley(RafterType);
   if (onHipOrValley && AdjFasciaHeight > HipValPlumbCut) AdjFasciaHeight = PlumbCut;
 }
@@ -74,32 +77,21 @@ void CRafter::CalculateRidgeAllowances() {
 }
 
 void CRafter::CalculateHeelAndSeat() {
-  ApplyLocks(kDefaultHeelShare);
-  if (Heel > PlumbCut) {
-    Heel = PlumbCut;
-    Seat = 0;
-  } else if (Heel == 0) {
-    Overhang = 0;  // a rafter without a heel cannot carry an overhang
-    Seat = SeatBelowHeel();
-  } else if (Heel < 0) {
-    Heel = PlumbCut * kDefaultHeelShare;
-    Seat = SeatBelowHeel();
-  }
-  CommonHeel = Heel;
-  CommonSeat = Seat;
-  if (Overhang == 0 && AdjFasciaHeight > Heel) AdjFasciaHeight = Heel;
+  ApplyLocks(HeelLocked, SeatLocked, kDefaultHeelShare);
+  LimitHeel(kDefaultHeelShare, ZeroHeel::kClearsOverhang);
+  LimitFasciaWithoutOverhang();
 }
 
 void CRafter::CalculateHipDropAndSeat() {
   let(HipDrop) = 0;
   if (RafterType == Type::kHip) {
-    let(HipDrop) = (HipValThickness / 2) * std::tan(45 * kRadiansPerDegree);
+    let(HipDrop) = (HipValThickness / 2) * TanDegrees(45);
     let(HipDrop) = HipDrop * Slope / HipRun;
     let(HipHeel) = CommonHeel - HipDrop;
     AdjFasciaHeight = AdjFasciaHeight - HipDrop;
-    let(HipValSeat) = ((HipValPlumbCut - HipHeel) * SlopeBase / Slope) * HipFactor;
+    let(HipValSeat) = SeatBelow(HipValPlumbCut, HipHeel, Slope) * HipFactor;
   } else if (IsValley(RafterType)) {
-    let(HipValSeat) = ((HipValPlumbCut - Heel) * SlopeBase / Slope) * HipFactor;
+    let(HipValSeat) = SeatBelow(HipValPlumbCut, Heel, Slope) * HipFactor;
   }
 }
 
@@ -112,9 +104,9 @@ void CRafter::CalculateRunsAndRises() {
   AdjSpanWithOverhang = AdjSpan + Overhang;
   AdjHipSpanWithOverhang = AdjHipSpan + HipValOverhang;
   AdjValSpanWithOverhang = AdjValSpan + HipValOverhang;
-  Rise = Slope * AdjSpan / SlopeBase;
-  RiseWithOverhang = Slope * AdjSpanWithOverhang / SlopeBase;
-  let(KneewallRise) = Slope * Kneewall / SlopeBase;
+  Rise = RiseOver(AdjSpan);
+  RiseWithOverhang = RiseOver(AdjSpanWithOverhang);
+  let(KneewallRise) = RiseOver(Kneewall);
 }
 
 void CRafter::CalculateLengths() {

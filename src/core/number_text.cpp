@@ -48,7 +48,7 @@ double RoundTo(double value, int decimals) {
 
 double LeadingNumber(std::string_view text) {
   text = Trimmed(text);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   double value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   return result.ec == std::errc() && std::isfinite(value) ? value : 0.0;

@@ -1,14 +1,13 @@
 #include "core/rafter.h"
 
-#include <cmath>
-
 #include "core/number_text.h"
+#include "core/triangles.h"
 
 namespace pitchcraft {
 namespace {
 
-// The square root of two is not computed: these two runs of a 45-degree hip are the constants of the product, so
-// that a hip comes out the same as in the rafter tables that they were taken from.
+// The square root of two is not computed: these two runs of a 45-degree hip are the constants of the product,
+// so that a hip comes out the same as in the rafter tables that they were taken from.
 constexpr double kImperialHipRun = 16.970562;
 constexpr double kMetricHipRun = 1414.2135;
 
@@ -25,13 +24,19 @@ void CRafter::SetUnits(int units) {
 
 Single CRafter::PlumbDepth(double slope, double depth, double run) {
   const Single rise = slope * depth / run;
-  return std::sqrt(depth * depth + rise * rise);
+  return Hypotenuse(depth, rise);
 }
 
-void CRafter::ApplyLocks(double share) {
-  if (HeelLocked) {
+void CRafter::LimitTo(Single& height, double limit) {
+  if (height > limit) height = limit;
+}
+
+double CRafter::RoundedDegrees(double slope) const { return RoundTo(DegreesOf(slope / SlopeBase), 2); }
+
+void CRafter::ApplyLocks(bool heelLocked, bool seatLocked, double share) {
+  if (heelLocked) {
     Seat = SeatBelowHeel();
-  } else if (SeatLocked) {
+  } else if (seatLocked) {
     Heel = PlumbCut - Seat * Slope / SlopeBase;
   } else {
     Heel = PlumbCut * share;
@@ -39,14 +44,38 @@ void CRafter::ApplyLocks(double share) {
   }
 }
 
-std::string CRafter::PitchText(double slope) const {
-  return SignedText(IsMetric() ? RoundTo(slope, 0) : slope) + "/" + PlainText(SlopeBase);
+void CRafter::LimitHeel(double share, ZeroHeel zeroHeel) {
+  const bool clearsOverhang = zeroHeel == ZeroHeel::kClearsOverhang;
+  if (Heel > PlumbCut) {
+    Heel = PlumbCut;
+    Seat = 0;
+  } else if (clearsOverhang && Heel == 0) {
+    Overhang = 0;
+    Seat = SeatBelowHeel();
+  } else if (Heel <= 0) {
+    Heel = PlumbCut * share;
+    Seat = SeatBelowHeel();
+  }
+  CommonHeel = Heel;
+  CommonSeat = Seat;
 }
 
+void CRafter::LimitFasciaWithoutOverhang() {
+  if (Overhang == 0) LimitTo(AdjFasciaHeight, Heel);
+}
+
+double CRafter::WholeInMetric(double slope) const { return IsMetric() ? RoundTo(slope, 0) : slope; }
+
+std::string CRafter::PerSlopeBase(const std::string& text) const { return text + "/" + PlainText(SlopeBase); }
+
+std::string CRafter::CutText(const std::string& text, double slope) {
+  return text.substr(0, slope >= 10 ? 5 : 4);
+}
+
+std::string CRafter::PitchText(double slope) const { return PerSlopeBase(SignedText(WholeInMetric(slope))); }
+
 std::string CRafter::HipPitchText() const {
-  const std::string text = PlainText(IsMetric() ? RoundTo(HipValSlope, 0) : double{HipValSlope});
-  // Two decimals of an ordinary hip slope; a longer number is cut, never rounded up past the saw.
-  return " " + text.substr(0, HipValSlope >= 10 ? 5 : 4) + "/" + PlainText(SlopeBase);
+  return " " + PerSlopeBase(CutText(PlainText(WholeInMetric(HipValSlope)), HipValSlope));
 }
 
 }  // namespace pitchcraft

@@ -1,4 +1,5 @@
-// The kinds of members that a rafter's record is made of, beside the plain Single that anybody reads and writes.
+// The kinds of members that a rafter's record is made of, beside the plain Single that anybody reads and
+// writes.
 #pragma once
 
 #include <cstdint>
@@ -20,8 +21,8 @@ struct ExpressionOf<Single> {
   using Type = double;
 };
 
-/// A value that only a calculation gives. A write from outside is accepted and ignored, so that a form can put back
-/// everything that it shows without harm: a derived value changes by recalculating alone.
+/// A value that only a calculation gives. A write from outside is accepted and ignored, so that a form can
+/// put back everything that it shows without harm: a derived value changes by recalculating alone.
 template <typename T>
 class Derived {
  public:

@@ -10,7 +10,8 @@ template <typename Integer>
 Integer NearestInteger(double value) {
   const double nearest = std::nearbyint(value);
   // Written so that a not-a-number fails the test too.
-  const bool fits = nearest >= std::numeric_limits<Integer>::min() && nearest <= std::numeric_limits<Integer>::max();
+  const bool fits =
+      nearest >= std::numeric_limits<Integer>::min() && nearest <= std::numeric_limits<Integer>::max();
   if (!fits) throw RunTimeError::Overflow();
   return static_cast<Integer>(nearest);
 }

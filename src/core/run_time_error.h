@@ -10,7 +10,8 @@ namespace pitchcraft {
 /// An error that a procedure traps and reports as "description - number" under its own name.
 class RunTimeError : public std::runtime_error {
  public:
-  RunTimeError(int number, const std::string& description) : std::runtime_error(description), number_(number) {}
+  RunTimeError(int number, const std::string& description)
+      : std::runtime_error(description), number_(number) {}
 
   int Number() const { return number_; }
   std::string Description() const { return what(); }
@@ -27,7 +28,8 @@ class RunTimeError : public std::runtime_error {
   int number_;
 };
 
-/// The nearest 32-bit integer, ties to even. Raises Overflow for an infinity, a not-a-number or a value out of range.
+/// The nearest 32-bit integer, ties to even. Raises Overflow for an infinity, a not-a-number or a value out
+/// of range.
 std::int32_t ToLong(double value);
 
 /// The nearest 16-bit integer, ties to even. Raises Overflow as ToLong does.
