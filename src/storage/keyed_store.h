@@ -1,0 +1,38 @@
+// A store of texts by application, section and key: what belongs to the user and not to a project.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <tuple>
+
+namespace pitchcraft {
+
+class KeyedStore {
+ public:
+  virtual ~KeyedStore() = default;
+  /// The stored text, or nothing when the key was never written.
+  virtual std::optional<std::string> Get(const std::string& application, const std::string& section,
+                                         const std::string& key) const = 0;
+  virtual void Set(const std::string& application, const std::string& section, const std::string& key,
+                   const std::string& text) = 0;
+};
+
+/// A store that forgets: for tests, and for a program that has no place of its own.
+class MemoryStore : public KeyedStore {
+ public:
+  std::optional<std::string> Get(const std::string& application, const std::string& section,
+                                 const std::string& key) const override {
+    const auto found = values_.find({application, section, key});
+    return found == values_.end() ? std::nullopt : std::optional(found->second);
+  }
+  void Set(const std::string& application, const std::string& section, const std::string& key,
+           const std::string& text) override {
+    values_[{application, section, key}] = text;
+  }
+
+ private:
+  std::map<std::tuple<std::string, std::string, std::string>, std::string> values_;
+};
+
+}  // namespace pitchcraft
