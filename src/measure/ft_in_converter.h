@@ -6,7 +6,7 @@
 
 namespace pitchcraft {
 
-/// How a measure is shown.
+/// How a measure is shown; any other code shows a plain number.
 inline constexpr int kPlainNumber = 0;
 inline constexpr int kInchesAlone = 3;
 inline constexpr int kFeetAndInches = 4;
@@ -16,20 +16,21 @@ inline constexpr int kMillimetres = 6;
 inline constexpr int kBaseInches = 0;
 inline constexpr int kBaseMillimetres = 1;
 
-/// Turns text into a number in base units and back. Rounding is for the eye: it never touches the number held.
+/// Turns text into a number in base units and back. Rounding is for the eye: no number held is touched by it.
 class FtInConverter {
  public:
-  int Units = kFeetAndInches;   // kPlainNumber, kInchesAlone, kFeetAndInches or kMillimetres; others show plain
-  int BaseUnits = kBaseInches;  // of the numbers that go in and come out
-  int DecimalPlaces = 4;        // of millimetres and plain numbers: 0 to 7, trailing zeros cut
+  int Units = kFeetAndInches;
+  int BaseUnits = kBaseInches;
+  int DecimalPlaces = 4;  // of millimetres and plain numbers: 0 to 7, trailing zeros cut
   bool Imperial = true;
 
-  /// The number in base units that the text stands for: always finite, 0 where it cannot be read. A unit converts,
-  /// whatever BaseUnits is; a bare number is in base units. See measure_parser.h for what is read.
+  /// The number in base units that the text stands for: always finite, 0 where it cannot be read. A unit
+  /// converts, whatever BaseUnits is; a bare number is in base units. See measure_parser.h for what is read.
   double ToValue(std::string_view text) const;
 
-  /// The text of a number in base units: "12' 6 1/2\"", "19 3/16\"", "3600 mm", "26.5651". An infinity is "inf" or
-  /// "-inf", an undefined number "nan"; a magnitude beyond what a tape reads is a plain number ("1E+30").
+  /// The text of a number in base units: 12' 6 1/2", 19 3/16", 3600 mm, 26.5651. Half a sixteenth or half a
+  /// last decimal goes to the even neighbour. What is too small to show is 0; from 1e9 on the number stands
+  /// bare with an exponent, as 1E+30. An infinity is "inf" or "-inf", an undefined number "nan".
   std::string ToText(double value) const;
 };
 

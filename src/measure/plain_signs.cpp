@@ -1,0 +1,51 @@
+#include "measure/plain_signs.h"
+
+#include <algorithm>
+#include <array>
+
+namespace pitchcraft {
+namespace {
+
+struct Sign {
+  std::string_view written;  // in UTF-8
+  std::string_view plain;
+};
+
+constexpr std::array kSigns = {
+    Sign{"\u2018", "'"},    Sign{"\u2019", "'"},    Sign{"\u2032", "'"},     // single quotes, prime
+    Sign{"\u00B4", "'"},    Sign{"`", "'"},                                  // accents used as one
+    Sign{"\u201C", "\""},   Sign{"\u201D", "\""},   Sign{"\u201E", "\""},    // double quotes
+    Sign{"\u2033", "\""},                                                    // double prime
+    Sign{"\u00BC", " 1/4"}, Sign{"\u00BD", " 1/2"}, Sign{"\u00BE", " 3/4"},  // quarters
+    Sign{"\u215B", " 1/8"}, Sign{"\u215C", " 3/8"}, Sign{"\u215D", " 5/8"},  // eighths
+    Sign{"\u215E", " 7/8"}, Sign{"\u2153", " 1/3"}, Sign{"\u2154", " 2/3"},  // and thirds
+    Sign{"\u2044", "/"},    Sign{"\u2215", "/"},                             // fraction and division slash
+    Sign{"\u2010", "-"},    Sign{"\u2011", "-"},    Sign{"\u2013", "-"},     // hyphens, en dash
+    Sign{"\u2014", "-"},    Sign{"\u2212", "-"},                             // em dash, minus
+    Sign{"\u00A0", " "},    Sign{"\u2009", " "},    Sign{"\u202F", " "},     // no-break, thin, narrow blank
+    Sign{"\t", " "},        Sign{"\r", " "},        Sign{"\n", " "},
+};
+
+char SmallLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+std::string WithPlainSigns(std::string_view text) {
+  std::string plain;
+  plain.reserve(text.size());
+  while (!text.empty()) {
+    const auto sign = std::find_if(kSigns.begin(), kSigns.end(),
+                                   [&](const Sign& s) { return text.starts_with(s.written); });
+    const char letter = SmallLetter(text.front());
+    const std::string_view next = sign == kSigns.end() ? std::string_view(&letter, 1) : sign->plain;
+    if (next == "'" && plain.ends_with('\'')) {
+      plain.back() = '"';
+    } else {
+      plain += next;
+    }
+    text.remove_prefix(sign == kSigns.end() ? 1 : sign->written.size());
+  }
+  return plain;
+}
+
+}  // namespace pitchcraft
