@@ -1,0 +1,23 @@
+# A fuzz target is one source with LLVMFuzzerTestOneInput, and a folder of seeds under fuzz/corpus/. It is built twice:
+# with libFuzzer, to look for new trouble, and with a plain main among the tests, where it replays the seeds.
+
+set(PITCHCRAFT_FUZZ_DIR ${CMAKE_CURRENT_LIST_DIR})
+
+# pitchcraft_fuzz(NAME SOURCES ... USES lib ...)
+function(pitchcraft_fuzz name)
+  cmake_parse_arguments(FUZZ "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${name} ${FUZZ_SOURCES})
+  target_link_libraries(${name} PRIVATE ${FUZZ_USES} pitchcraft_options)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+endfunction()
+
+# pitchcraft_corpus_test(NAME CORPUS folder SOURCES ... USES lib ...): the sources stand in fuzz/, the folder in
+# fuzz/corpus/.
+function(pitchcraft_corpus_test name)
+  cmake_parse_arguments(FUZZ "" "CORPUS" "SOURCES;USES" ${ARGN})
+  list(TRANSFORM FUZZ_SOURCES PREPEND ${PITCHCRAFT_FUZZ_DIR}/)
+  add_executable(${name} ${FUZZ_SOURCES} ${PITCHCRAFT_FUZZ_DIR}/replay_corpus.cpp)
+  target_link_libraries(${name} PRIVATE ${FUZZ_USES} pitchcraft_options)
+  add_test(NAME ${name} COMMAND ${name} ${PITCHCRAFT_FUZZ_DIR}/corpus/${FUZZ_CORPUS})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
