@@ -1,0 +1,108 @@
+// A target that a recording is played on. What is the same for all targets stands here: the mapping, the pen,
+// the place of a text. A back-end draws a few plain figures in its own units.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "drawing/recording.h"
+#include "drawing/text_meter.h"
+
+namespace pitchcraft {
+
+/// The size of a target in twips (1440 to the inch). A height below 0 is a page whose y grows upward; its
+/// size is the absolute value.
+struct CanvasSize {
+  double ScaleWidth = 0;
+  double ScaleHeight = 0;
+  bool Printer = false;
+};
+
+/// From drawing units to the units of a canvas, whose origin is left above and whose y grows downward: x is
+/// OffsetX + x ScaleX, y is OffsetY + y ScaleY.
+struct CanvasMap {
+  double ScaleX = 1;
+  double ScaleY = 1;
+  double OffsetX = 0;
+  double OffsetY = 0;
+};
+
+struct CanvasPoint {
+  double X = 0;
+  double Y = 0;
+};
+
+/// Width is in canvas units; 0 is the thinnest line that is still clearly seen. Dashes are the lengths of
+/// stroke and gap in turn, in canvas units; none for a solid line.
+struct CanvasPen {
+  DrawColor Color = 0;
+  double Width = 0;
+  std::span<const double> Dashes;
+  int Style = 0;
+};
+
+/// A text ready to be set: Origin is the left end of its base line, Angle turns it counter-clockwise about
+/// Origin.
+struct CanvasText {
+  std::string_view Text;
+  CanvasPoint Origin;
+  double Width = 0;   ///< advance of the whole text, canvas units
+  double Height = 0;  ///< of the cell; the em of the face is Height kEmPerCell
+  double Angle = 0;   ///< degrees
+  DrawColor Color = 0;
+  std::string_view Font;
+  bool Bold = false;
+  bool Italic = false;
+  CanvasPoint At;  ///< the anchor as recorded, mapped
+  int Align = 0;   ///< the flags as recorded
+};
+
+/// Public calls keep the pen and map coordinates once; private virtual ones draw.
+class Canvas {
+ public:
+  /// `unitsPerTwip` is the size of a twip in the back-end's units: 1/15 on a screen of 96 dots to the inch.
+  Canvas(CanvasSize size, const TextMeter& meter, double unitsPerTwip = 1);
+  virtual ~Canvas() = default;
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+
+  const CanvasSize& Size() const { return size_; }
+  double UnitsPerTwip() const { return unitsPerTwip_; }
+  void SetMap(const CanvasMap& map) { map_ = map; }
+  const CanvasMap& Map() const { return map_; }
+
+  void Play(const Recording& recording);
+  void Play(const LineOp& line);
+  void Play(const TextOp& text);
+  void Play(const FillOp& fill);
+  void Play(const EllipseOp& ellipse);
+  void Play(const ArcOp& arc);
+  void Play(const RectangleOp& rectangle);
+
+ private:
+  /// The pen of the outlines that follow; called only when it changes.
+  virtual void doPen(const CanvasPen& pen) = 0;
+  virtual void doLine(CanvasPoint from, CanvasPoint to) = 0;
+  virtual void doText(const CanvasText& text) = 0;
+  virtual void doFill(std::span<const CanvasPoint> points, const DrawnBrush& brush) = 0;
+  /// Boxes come with their left upper corner first.
+  virtual void doEllipse(CanvasPoint from, CanvasPoint to, const DrawnBrush& brush) = 0;
+  virtual void doArc(CanvasPoint from, CanvasPoint to, CanvasPoint start, CanvasPoint end) = 0;
+  /// `corner` holds width and height of the ellipse that rounds a corner.
+  virtual void doRectangle(CanvasPoint from, CanvasPoint to, CanvasPoint corner, const DrawnBrush& brush) = 0;
+
+  CanvasPoint Mapped(DrawnPoint point) const;
+  void UsePen(const DrawnPen& pen);
+
+  CanvasSize size_;
+  const TextMeter& meter_;
+  double unitsPerTwip_;
+  CanvasMap map_;
+  DrawnPen pen_;
+  bool penKnown_ = false;
+  double dashes_[2] = {};
+  std::vector<CanvasPoint> polygon_;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,112 @@
+// What one document draws with: the recording, the two drawing objects, the points, and the dimension lines.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "core/single.h"
+#include "drawing/draw_fx.h"
+#include "drawing/meta_file.h"
+#include "drawing/text_fx.h"
+
+namespace pitchcraft {
+
+/// A point in drawing units.
+struct PointRecord {
+  Single X;
+  Single Y;
+};
+
+/// The named points of a drawing. Raises "Subscript out of range" beside the array.
+class PointArray {
+ public:
+  static constexpr int kCount = 64;
+  PointRecord& operator()(int index);
+  const PointRecord& operator()(int index) const;
+
+ private:
+  std::array<PointRecord, kCount> points_;
+};
+
+/// What the DXF writer repeats: four numbers a stroke; x, y, text, angle in radians and a letter (L, C or R)
+/// a text.
+using DimensionValue = std::variant<Single, std::string>;
+
+enum class DimensionKind { kAligned = 1, kHorizontal = 2, kVertical = 3 };
+
+/// One dimension between two points. Distances are drawing units.
+struct Dimension {
+  int Kind = 1;  ///< 1 aligned with the points, 2 horizontal, 3 vertical
+  int P1 = 0;
+  int P2 = 0;
+  Single Gap;    ///< from the point to the start of its extension line
+  Single Arrow;  ///< length of an arrowhead's stroke; an extension line passes the dimension line by as much
+  Single Leg;    ///< from the start of the shorter extension line to the dimension line
+  Single TextHeight;
+  int ArrowsOutside = 0;
+  int TextMode = 0;  ///< 0 along the line, 1 turned half round, 2 a quarter on, 3 a quarter back
+  int TextFlag = 0;  ///< 1 sets the text of a horizontal dimension below the ends of its extension lines
+  std::optional<std::string> Text;  ///< in place of the measured length
+  Single TextLift;                  ///< an aligned dimension's text stands this much further out
+};
+
+class DraftingBoard {
+ public:
+  /// `lengthText` renders a length in the document's unit.
+  DraftingBoard(const TextMeter& meter, std::function<std::string(double)> lengthText);
+  DraftingBoard(const DraftingBoard&) = delete;
+  DraftingBoard& operator=(const DraftingBoard&) = delete;
+  ~DraftingBoard() { MetaCanvas.Destroy(); }
+
+  CMetaFile MetaCanvas;
+  CDrawFX DrawFX;
+  CTextFX TextFX;
+  PointArray Pts;
+  std::vector<DimensionValue> DimensionPoints;
+  std::function<std::string(double)> LengthText;
+
+  Single PointFactor;     ///< drawing units for one twip at the extents of the outline
+  Single DimGap;          ///< 120 twips
+  Single DimArrow;        ///< 160 twips
+  Single DimLeg;          ///< the step between stacked dimension lines: one DimArrow
+  Single DimTextHeight;   ///< 240 twips
+  int TextFlip = 1;       ///< -1 turns dimension texts the other way, for printers that turn fonts so
+  Single DrawScale = 10;  ///< drawing units for one unit of length: 10 imperial, 1 metric
+  Single DrawingWidth;    ///< of the last finished drawing
+
+  /// Empties canvas and dimension list and puts pen, style, font and text angle back to their plain values.
+  void BeginDrawing(DrawColor backColor, DrawColor lineColor);
+  /// Closes the recording.
+  void EndDrawing();
+  /// Leaves a closed, empty recording: what a figure that cannot be drawn looks like.
+  void AbandonDrawing();
+  /// Sets PointFactor and the dimension measures from the extents so far; hands out the aspect ratio.
+  Single SetMetrics();
+
+  void Move(int point) { DrawFX.MoveToPoint(Pts(point).X, Pts(point).Y); }
+  void Line(int from, int to) { DrawFX.DrawLine(Pts(from).X, Pts(from).Y, Pts(to).X, Pts(to).Y); }
+  void Text(const std::string& text, double x, double y, int align);
+  /// The width of a text at a cell height, plain face.
+  double WidthOf(const std::string& text, double height) const;
+
+  /// The offset of `distance` at `angle` radians.
+  static PointRecord AngleDistance(double angle, double distance);
+  void Dimension2(const Dimension& dimension);
+  void Dimension2(int kind, int p1, int p2, Single gap, Single arrow, Single leg, Single textHeight,
+                  int arrowsOutside, int textMode, int textFlag, std::optional<std::string> text = {});
+  /// Writes at Pts(10). `angle` is in radians; `mode` turns it as Dimension::TextMode says.
+  void DimText(const std::string& text, Single height, Single angle, int mode, int align);
+  /// The length that a dimension would show, as text.
+  std::string DimensionText(int kind, int p1, int p2) const;
+
+ private:
+  void AppendStroke(PointRecord from, PointRecord to);
+
+  friend class DimensionDrafter;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,149 @@
+// The canvas that every drawing records on. It knows how far the drawing reaches and plays the recording on a
+// real target, fitted and centred with its proportions kept.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/single.h"
+#include "drawing/canvas.h"
+#include "drawing/recording.h"
+
+namespace pitchcraft {
+
+class CDrawFX;
+class CTextFX;
+
+inline constexpr int kIsotropic = 7;
+inline constexpr int kAnisotropic = 8;
+
+/// Where on the target a recording is played, in twips. A missing width or height is that of the target.
+struct PlayArea {
+  double Left = 0;
+  double Top = 0;
+  std::optional<double> Width;
+  std::optional<double> Height;
+  double Border = 0;  ///< taken off on every side
+};
+
+/// The size of a twip in drawing units at the present extents.
+struct PointSize {
+  Single Ratio;  ///< (extent width / canvas width) / (extent height / canvas height); below 1 the drawing is
+                 ///< narrow
+  Single Size;   ///< drawing units for one twip: a text of 240 times this is 12 points high
+  bool Landscape = false;  ///< the orientation taken on a printer
+};
+
+/// One recording and its state: empty, open (being recorded) or closed (ready to be played, any number of
+/// times and on any target). Coordinates are drawing units, +Y up. Raises RunTimeError with the messages told
+/// at each call.
+class CMetaFile {
+ public:
+  explicit CMetaFile(const TextMeter& meter);
+  CMetaFile(const CMetaFile&) = delete;
+  CMetaFile& operator=(const CMetaFile&) = delete;
+
+  /// Makes both report what they cover here, and draw here.
+  void Attach(CDrawFX& drawFX, CTextFX& textFX);
+  /// Lets go of both; each is destroyed first, because it holds this object as its canvas.
+  void Destroy();
+
+  // --- The recording
+  // ----------------------------------------------------------------------------------------------
+  /// Opens an empty recording in memory. "Metafile dc already exists!" while one is open.
+  void MetaCreate(std::string_view name = {});
+  /// Ends the recording; nothing happens when none is open.
+  void MetaClose();
+  /// Closes what is open, forgets the recording and zeroes the extents.
+  void MetaDelete();
+  /// Takes a finished recording. "A metafile already exists!" when one stands or is open.
+  void MetaLoad(Recording recording, Single minX, Single minY, Single maxX, Single maxY);
+  /// Empties the canvas: what stands is deleted and a fresh recording is opened.
+  void Cls();
+  bool IsOpen() const { return open_; }
+  bool IsClosed() const { return closed_; }
+  /// What was recorded so far.
+  const Recording& Operations() const { return operations_; }
+  /// The finished recording. "No metafile defined!" when there is none.
+  const Recording& Finished() const;
+  /// Plays the finished recording. "No metafile to play!" when there is none.
+  void MetaPlay(Canvas& target, const PlayArea& area = {}) const;
+  /// The mapping that MetaPlay uses. An extent of 0 counts as 1, on either side.
+  CanvasMap FitInto(const CanvasSize& target, double unitsPerTwip, const PlayArea& area = {}) const;
+
+  std::string Name;
+  int MapMode = kIsotropic;
+  int DrawMode = 13;
+  DrawColor BackColor = 0xFFFFFF;
+
+  // --- Extents, always with the origin in them
+  // ----------------------------------------------------------------------
+  Single MinX() const { return minX_; }
+  Single MinY() const { return minY_; }
+  Single MaxX() const { return maxX_; }
+  Single MaxY() const { return maxY_; }
+  /// Left may exceed Right, and Top may exceed Bottom.
+  void BoundsChanged(double left, double top, double right, double bottom);
+
+  // --- The target
+  // --------------------------------------------------------------------------------------------------
+  /// The target that the drawing is meant for. "Not a valid canvas!" for a size that is no number.
+  void SetCanvas(const CanvasSize& size);
+  void ClearCanvas() { canvas_.reset(); }
+  const std::optional<CanvasSize>& Canvas() const { return canvas_; }
+  /// Without a canvas Size is 0. A denominator of 0 counts as 1.
+  PointSize CalcPointSize() const;
+  /// The technology of this device: 5, a recording.
+  static constexpr int TypeofDC() { return 5; }
+
+  // --- Pen, brush, font
+  // --------------------------------------------------------------------------------------------
+  DrawnPen Pen;
+  DrawnBrush Brush;
+  DrawColor TextColor = 0;
+  int TextAlign = 0;
+  double TextAngle = 0;  ///< degrees
+  std::string FontName = "Arial";
+  std::int32_t FontHeight;  ///< of the cell, drawing units
+  bool FontBold = false;
+  bool FontItalic = false;
+  bool FontUnderline = false;
+  bool FontStrikethru = false;
+  /// Sets FontHeight to that many points of twenty units each; 10 at start.
+  void SetFontSize(double points);
+  double FontSize() const { return fontSize_; }
+
+  /// In drawing units, with the present font.
+  double TextWidth(std::string_view text) const;
+  double TextHeight(std::string_view text) const;
+
+  // --- What the drawing objects record; nothing happens while no recording is open
+  // ----------------------------------
+  void MoveTo(DrawnPoint to) { current_ = to; }
+  void LineTo(DrawnPoint to);
+  void TextOut(DrawnPoint at, std::string_view text);
+  void FillPolygon(std::vector<DrawnPoint> points, const DrawnBrush& brush);
+  void Ellipse(DrawnPoint from, DrawnPoint to);
+  void Arc(DrawnPoint from, DrawnPoint to, DrawnPoint start, DrawnPoint end);
+  void Rectangle(DrawnPoint from, DrawnPoint to, std::int32_t corner = 0);
+  double CurrentX() const { return current_.X; }
+  double CurrentY() const { return current_.Y; }
+  void SetCurrentX(double x);
+  void SetCurrentY(double y);
+
+ private:
+  const TextMeter& meter_;
+  CDrawFX* drawFX_ = nullptr;
+  CTextFX* textFX_ = nullptr;
+  Recording operations_;
+  bool open_ = false;
+  bool closed_ = false;
+  Single minX_, minY_, maxX_, maxY_;
+  std::optional<CanvasSize> canvas_;
+  double fontSize_ = 0;
+  DrawnPoint current_;
+};
+
+}  // namespace pitchcraft

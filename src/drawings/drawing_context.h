@@ -1,0 +1,21 @@
+// What a drawing reads beside the rafter: the document's shared values, checks and colours.
+#pragma once
+
+#include "drawing/recording.h"
+
+namespace pitchcraft {
+
+struct DrawingContext {
+  int RoofType = 0;               ///< code of the roof: 0 gable, 1 hip, 2 valley, 3 shed, 4 dual slope ...
+  double UnitRun = 12;            ///< run to which a slope is a rise: 12 or 1000
+  double UnitHipRun = 16.970562;  ///< the hip's run for it: 16.970562 or 1414.2135
+  int CurrentTab = 0;             ///< page of VSTab(0)
+  bool SquareCut = false;         ///< mnuSettingsSquareCut is checked: the fascia stands square to the rafter
+  bool RiseOverRun = true;  ///< mnuSettingsRiseOverRun is checked: slopes as rise over run, else as degrees
+  DrawColor BackColor = 0;
+  DrawColor LineColor = 0xFFFFFF;
+  DrawColor DimColor = 0xFF;
+  DrawColor TextColor = 0xFFFF;
+};
+
+}  // namespace pitchcraft
