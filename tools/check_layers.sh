@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Rooms use only what stands below them, and only the rooms at the edge see Qt.
+set -euo pipefail
+cd "$(dirname "$0")/../src"
+
+# A room may use the rooms named behind it. They stand above it in this table, so no cycle can be allowed.
+table="
+core     :
+measure  : core
+drawing  : core measure
+output   : core measure drawing
+sheet    : core measure
+drawings : core measure drawing output sheet
+storage  : core measure sheet
+document : core measure drawing output sheet drawings storage
+platform : core measure drawing output sheet drawings storage document Qt
+shell    : core measure drawing output sheet drawings storage document platform Qt
+cli      : core measure drawing output sheet drawings storage document platform Qt
+"
+
+failed=0
+fail() {
+  echo "$*"
+  failed=1
+}
+
+declare -A uses=()
+while read -r room _ allowed; do
+  [ -n "$room" ] || continue
+  for used in $allowed; do
+    [ "$used" = Qt ] || [ -n "${uses[$used]+known}" ] || fail "the table lets $room use $used, which stands below it"
+  done
+  uses[$room]=" $room $allowed "
+done <<<"$table"
+
+for folder in */; do
+  [ -n "${uses[${folder%/}]+known}" ] || fail "src/$folder is not in the table of tools/check_layers.sh"
+done
+
+# file:line:#include "room/header.h" or <QHeader> or <QtModule/QHeader>
+while IFS= read -r hit; do
+  room=${hit%%/*}
+  header=${hit##*#include }
+  case $header in
+    '<Q'*) used=Qt ;;
+    '"'*/*) used=${header#\"} used=${used%%/*} ;;
+    *) fail "src/$hit: name the header with its room" && continue ;;
+  esac
+  [[ "${uses[$room]:-}" == *" $used "* ]] || fail "src/$hit: $room may not use $used"
+done < <(grep -rnE '^ *# *include *("|<Q)' --include='*.h' --include='*.cpp' . | sed -E 's|^\./||; s|# *include *|#include |')
+
+exit "$failed"

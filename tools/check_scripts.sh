@@ -1,0 +1,5 @@
+#!/usr/bin/env bash
+# Every script passes shellcheck.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+git ls-files -z run test .ci/run '*.sh' | xargs -0 shellcheck

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# tools/check_tidy.sh [FILE...]: clang-tidy over the files, or over every source of the asan build.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+commands=build/asan/compile_commands.json
+[ -f "$commands" ] || { echo "$0: cmake --preset asan comes first" >&2; exit 1; }
+
+# Quiet unless a file has something to say: clang-tidy counts the warnings that it does not show.
+tidy() {
+  local said
+  said=$(clang-tidy --quiet -p build/asan "$1" 2>&1) || { echo "$said"; return 1; }
+}
+export -f tidy
+
+sources() {
+  if [ $# -gt 0 ]; then
+    printf '%s\n' "$@"
+  else
+    # What the build generates is not ours to tidy.
+    sed -nE 's/^ *"file": "(.*)",?$/\1/p' "$commands" | grep -E "^$PWD/(src|tests|fuzz)/" | sort -u
+  fi
+}
+# shellcheck disable=SC2016 # $0 is for the inner shell: the file's name
+sources "$@" | xargs -d '\n' -n 1 -P "$(nproc)" bash -c 'tidy "$0"'
