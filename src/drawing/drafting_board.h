@@ -36,8 +36,6 @@ class PointArray {
 /// a text.
 using DimensionValue = std::variant<Single, std::string>;
 
-enum class DimensionKind { kAligned = 1, kHorizontal = 2, kVertical = 3 };
-
 /// One dimension between two points. Distances are drawing units.
 struct Dimension {
   int Kind = 1;  ///< 1 aligned with the points, 2 horizontal, 3 vertical
@@ -90,23 +88,20 @@ class DraftingBoard {
   void Move(int point) { DrawFX.MoveToPoint(Pts(point).X, Pts(point).Y); }
   void Line(int from, int to) { DrawFX.DrawLine(Pts(from).X, Pts(from).Y, Pts(to).X, Pts(to).Y); }
   void Text(const std::string& text, double x, double y, int align);
-  /// The width of a text at a cell height, plain face.
-  double WidthOf(const std::string& text, double height) const;
+  /// The width of a text at a cell height, with the present face.
+  double WidthOf(const std::string& text, double height);
 
   /// The offset of `distance` at `angle` radians.
   static PointRecord AngleDistance(double angle, double distance);
   void Dimension2(const Dimension& dimension);
   void Dimension2(int kind, int p1, int p2, Single gap, Single arrow, Single leg, Single textHeight,
                   int arrowsOutside, int textMode, int textFlag, std::optional<std::string> text = {});
+  /// Draws a stroke of a dimension and appends it to DimensionPoints.
+  void DimensionStroke(PointRecord from, PointRecord to);
   /// Writes at Pts(10). `angle` is in radians; `mode` turns it as Dimension::TextMode says.
   void DimText(const std::string& text, Single height, Single angle, int mode, int align);
   /// The length that a dimension would show, as text.
   std::string DimensionText(int kind, int p1, int p2) const;
-
- private:
-  void AppendStroke(PointRecord from, PointRecord to);
-
-  friend class DimensionDrafter;
 };
 
 }  // namespace pitchcraft

@@ -87,7 +87,6 @@ class CDrawFX {
   bool hasCanvas_ = false;  // once true it stays so: a lost canvas is an error, not a silence
   DrawnPen pen_;
   DrawnBrush brush_;
-  std::vector<DrawnPoint> fillPoints_;
 };
 
 }  // namespace pitchcraft

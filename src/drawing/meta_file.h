@@ -92,7 +92,7 @@ class CMetaFile {
   /// The target that the drawing is meant for. "Not a valid canvas!" for a size that is no number.
   void SetCanvas(const CanvasSize& size);
   void ClearCanvas() { canvas_.reset(); }
-  const std::optional<CanvasSize>& Canvas() const { return canvas_; }
+  const std::optional<CanvasSize>& Target() const { return canvas_; }
   /// Without a canvas Size is 0. A denominator of 0 counts as 1.
   PointSize CalcPointSize() const;
   /// The technology of this device: 5, a recording.

@@ -54,7 +54,6 @@ class CTextFX {
   void ReportBox(std::string_view text, double x, double y) const;
 
   CMetaFile* canvas_ = nullptr;
-  bool hasCanvas_ = false;
   int textAlign_ = 0;
 };
 

@@ -1,0 +1,143 @@
+#include "drawing/drafting_board.h"
+
+#include <cmath>
+#include <utility>
+
+#include "core/angles.h"
+#include "core/run_time_error.h"
+#include "drawing/text_align.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr double kGapTwips = 120;
+constexpr double kArrowTwips = 160;
+constexpr double kTextTwips = 240;  // 12 points
+
+constexpr double kHalfTurn = 3.14159265359;
+constexpr double kQuarterTurn = 1.570796326795;
+constexpr double kWholeTurn = 6.28318530718;
+// Just above a whole turn, so that an angle which is one by rounding is left alone.
+constexpr double kWholeTurnLimit = 6.283185482025;
+
+double TurnedBy(int mode, double angle) {
+  switch (mode) {
+    case 1: return angle - kHalfTurn;
+    case 2: return angle + kQuarterTurn;
+    case 3: return angle - kQuarterTurn;
+    default: return angle;
+  }
+}
+
+const char* LetterOf(AlignSide side) {
+  if (side == AlignSide::kCenter) return "C";
+  return side == AlignSide::kRight ? "R" : "L";
+}
+
+/// Only the flags of the table have a letter; another code is written without one.
+bool IsKnownAlign(int align) {
+  switch (align) {
+    case kAlignLeftTop:
+    case kAlignRightTop:
+    case kAlignCenterTop:
+    case kAlignLeftBottom:
+    case kAlignRightBottom:
+    case kAlignCenterBottom:
+    case kAlignLeftBase:
+    case kAlignRightBase:
+    case kAlignCenterBase: return true;
+    default: return false;
+  }
+}
+
+}  // namespace
+
+PointRecord& PointArray::operator()(int index) {
+  if (index < 0 || index >= kCount) throw RunTimeError::SubscriptOutOfRange();
+  return points_[static_cast<std::size_t>(index)];
+}
+
+const PointRecord& PointArray::operator()(int index) const {
+  if (index < 0 || index >= kCount) throw RunTimeError::SubscriptOutOfRange();
+  return points_[static_cast<std::size_t>(index)];
+}
+
+DraftingBoard::DraftingBoard(const TextMeter& meter, std::function<std::string(double)> lengthText)
+    : MetaCanvas(meter), LengthText(std::move(lengthText)) {
+  MetaCanvas.Attach(DrawFX, TextFX);
+}
+
+void DraftingBoard::BeginDrawing(DrawColor backColor, DrawColor lineColor) {
+  MetaCanvas.BackColor = backColor;
+  MetaCanvas.Cls();
+  DimensionPoints.clear();
+  DrawFX.EntryMode = 0;
+  DrawFX.SetDrawStyle(0);
+  DrawFX.SetDrawWidth(0);
+  DrawFX.SetPenColor(lineColor);
+  TextFX.FontName = "Arial";
+  TextFX.FontBold = false;
+  TextFX.FontItalic = false;
+  TextFX.Angle = 0;
+}
+
+void DraftingBoard::EndDrawing() {
+  MetaCanvas.MetaClose();
+  DrawingWidth = MetaCanvas.MaxX() - MetaCanvas.MinX();
+}
+
+void DraftingBoard::AbandonDrawing() {
+  MetaCanvas.Cls();
+  DimensionPoints.clear();
+  EndDrawing();
+}
+
+Single DraftingBoard::SetMetrics() {
+  const PointSize point = MetaCanvas.CalcPointSize();
+  PointFactor = point.Size;
+  DimGap = PointFactor * kGapTwips;
+  DimArrow = PointFactor * kArrowTwips;
+  DimLeg = DimArrow;
+  DimTextHeight = PointFactor * kTextTwips;
+  return point.Ratio;
+}
+
+void DraftingBoard::Text(const std::string& text, double x, double y, int align) {
+  TextFX.SetTextAlign(align);
+  TextFX.TextLine(text, Single(x), Single(y));
+}
+
+double DraftingBoard::WidthOf(const std::string& text, double height) {
+  TextFX.FontHeight = ToLong(height);
+  return TextFX.TextWidth(text);
+}
+
+PointRecord DraftingBoard::AngleDistance(double angle, double distance) {
+  return {distance * std::cos(angle), distance * std::sin(angle)};
+}
+
+void DraftingBoard::DimensionStroke(PointRecord from, PointRecord to) {
+  DrawFX.DrawLine(from.X, from.Y, to.X, to.Y);
+  for (const Single value : {from.X, from.Y, to.X, to.Y})
+    DimensionPoints.emplace_back(Single(value / DrawScale));
+}
+
+void DraftingBoard::DimText(const std::string& text, Single height, Single angle, int mode, int align) {
+  Single turned = TurnedBy(mode, angle);
+  if (turned > kWholeTurnLimit) turned -= kWholeTurn;
+  if (!text.empty()) {
+    const Single kept = TextFX.Angle;
+    TextFX.SetTextAlign(align);
+    TextFX.FontHeight = ToLong(height);
+    TextFX.Angle = turned * kDegreesPerRadian * TextFlip;
+    TextFX.TextLine(text, Pts(10).X, Pts(10).Y);
+    TextFX.Angle = kept;
+  }
+  DimensionPoints.emplace_back(Single(Pts(10).X / DrawScale));
+  DimensionPoints.emplace_back(Single(Pts(10).Y / DrawScale));
+  DimensionPoints.emplace_back(text);
+  DimensionPoints.emplace_back(turned);
+  if (IsKnownAlign(align)) DimensionPoints.emplace_back(std::string(LetterOf(SideOf(align))));
+}
+
+}  // namespace pitchcraft
