@@ -1,0 +1,412 @@
+// Calculate row by row: every member's rule and every edge of the heel, the fascia and the texts.
+#include <limits>
+
+#include "record_table.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr auto kCalculate = &CRafter::Calculate;
+
+class CalculateTable : public testing::TestWithParam<CalculationRow> {};
+
+TEST_P(CalculateTable, Gives) { CheckRow(GetParam()); }
+
+// The small house: slope 6, run 144, overhang 10 1/2, 2 x 8 rafters, 2 x 10 hip, 1 1/2 ridge.
+const CalculationRow kMembers[] = {
+    {"Common",
+     [](CRafter& r) { r.RafterType = RafterType::kCommon; },
+     kCalculate,
+     {{"Rise", 71.625},
+      {"RiseWithOverhang", 76.875},
+      {"AdjSpan", 143.25},
+      {"AdjSpanWithOverhang", 153.75},
+      {"Length1", 160.15836889},
+      {"Length2", 171.89772577},
+      {"CommonLength1", 160.15836889},
+      {"CommonLength2", 171.89772577},
+      {"HipEndLength1", 160.15836889},
+      {"HipEndLength2", 171.89772577},
+      {"PlumbCut", 8.10574642},
+      {"Heel", 5.40383122},
+      {"Seat", 5.40383041},
+      {"CommonHeel", 5.40383122},
+      {"CommonSeat", 5.40383041},
+      {"AdjFasciaHeight", 7.25},
+      {"RidgeAllowance", 0.75},
+      {"ValRidgeAllowance", 0.0},
+      {"HipDrop", 0.0},
+      {"HipHeel", 0.0},
+      {"HipValSeat", 0.0},
+      {"LedgerSpan", 0.0},
+      {"HipEndSpan", 144.0},
+      {"HipEndSlope", 6.0},
+      {"HipEndOverhang", 10.5},
+      {"HipEndDegrees", 26.57},
+      {"BottomBevelAngle", 0.0},
+      {"TopBevelAngle", 0.0},
+      {"CommonDifference", 1.11803399},
+      {"CommonDifference16", 17.88854382},
+      {"CommonDifference24", 26.83281573},
+      {"HipEndCommonDifference", 1.11803399},
+      {"HipEndCommonDifference16", 17.88854382},
+      {"HipEndCommonDifference24", 26.83281573},
+      {"Pitch", " 6/12"},
+      {"HipEndPitch", " 6/12"},
+      {"HipPitch", " 4.24/12"}}},
+    {"Hip",
+     [](CRafter& r) { r.RafterType = RafterType::kHip; },
+     kCalculate,
+     {{"HipValSpan", 203.646744},
+      {"HipValOverhang", 14.84924175},
+      {"HipValSlope", 4.24264087},
+      {"HipDegrees", 19.47},
+      {"HipAngle1", 45.0},
+      {"HipAngle2", 45.0},
+      {"HipValPlumbCut", 9.81110664},
+      {"HipRidgeAllowance", 1.06066017},
+      {"AdjHipSpan", 202.58608383},
+      {"AdjHipSpanWithOverhang", 217.43532558},
+      {"Length1", 214.87499153},
+      {"Length2", 230.62499091},
+      {"CommonLength1", 160.15836889},
+      {"HipDrop", 0.26516505},
+      {"HipHeel", 5.13866616},
+      {"HipValSeat", 13.21565680},
+      {"AdjFasciaHeight", 6.98483495},
+      {"BottomBevelAngle", 45.0},
+      {"TopBevelAngle", 45.0}}},
+    {"Valley",
+     [](CRafter& r) { r.RafterType = RafterType::kValley; },
+     kCalculate,
+     {{"ValRidgeAllowance", 1.06066017},
+      {"AdjValSpan", 202.58608383},
+      {"AdjValSpanWithOverhang", 217.43532558},
+      {"Length1", 214.87499153},
+      {"Length2", 230.62499091},
+      {"HipDrop", 0.0},
+      {"HipHeel", 0.0},
+      {"HipValSeat", 12.46565680},
+      {"AdjFasciaHeight", 7.25},
+      {"BottomBevelAngle", 45.0},
+      {"TopBevelAngle", 45.0}}},
+    {"LongValley",
+     [](CRafter& r) { r.RafterType = RafterType::kLongValley; },
+     kCalculate,
+     {{"ValRidgeAllowance", 1.06066017},
+      {"Length1", 214.87499153},
+      {"HipValSeat", 12.46565680},
+      {"BottomBevelAngle", 45.0},
+      {"TopBevelAngle", 45.0}}},
+    {"ShortValleyButtsTheLongOne",
+     [](CRafter& r) { r.RafterType = RafterType::kShortValley; },
+     kCalculate,
+     {{"ValRidgeAllowance", 0.75},
+      {"AdjValSpan", 202.896744},
+      {"Length1", 215.16790967},
+      {"Length2", 230.91790735},
+      {"HipValSeat", 12.46565680},
+      {"BottomBevelAngle", 45.0},
+      {"TopBevelAngle", 0.0}}},
+    {"ShedButtsTheWholeRidge",
+     [](CRafter& r) { r.RafterType = RafterType::kShed; },
+     kCalculate,
+     {{"RidgeAllowance", 1.5},
+      {"AdjSpan", 142.5},
+      {"Rise", 71.25},
+      {"RiseWithOverhang", 76.5},
+      {"Length1", 159.31984340},
+      {"Length2", 171.05920028},
+      {"TopBevelAngle", 0.0}}},
+};
+INSTANTIATE_TEST_SUITE_P(Members, CalculateTable, testing::ValuesIn(kMembers), RowName);
+
+void LockHeel(CRafter& r, double heel) {
+  r.HeelLocked = true;
+  r.Heel = heel;
+}
+
+// A seat so long that the heel above it comes out exactly 0: at slope 12 the seat is the plumb cut.
+void LockSeatToNoHeel(CRafter& r) {
+  r.Slope = 12;
+  r.Calculate();
+  r.SeatLocked = true;
+  r.Seat = r.PlumbCut;
+  r.Overhang = 10.5;
+}
+
+const CalculationRow kHeels[] = {
+    {"TwoThirdsOfThePlumbCutWhenUnlocked",
+     [](CRafter& r) { r.Depth = 5.5; },
+     kCalculate,
+     {{"PlumbCut", 6.14918694}, {"Heel", 4.09945817}, {"Seat", 4.09945755}}},
+    {"LockedHeelGivesSeat",
+     [](CRafter& r) { LockHeel(r, 4); },
+     kCalculate,
+     {{"Heel", 4.0}, {"Seat", 8.21149284}, {"CommonHeel", 4.0}, {"CommonSeat", 8.21149284}}},
+    {"LockedSeatGivesHeel",
+     [](CRafter& r) {
+       r.SeatLocked = true;
+       r.Seat = 3.5;
+     },
+     kCalculate,
+     {{"Heel", 6.35574642}, {"Seat", 3.5}, {"CommonHeel", 6.35574642}, {"CommonSeat", 3.5}}},
+    {"HeelLockGoesBeforeSeatLock",
+     [](CRafter& r) {
+       LockHeel(r, 4);
+       r.SeatLocked = true;
+       r.Seat = 1;
+     },
+     kCalculate,
+     {{"Heel", 4.0}, {"Seat", 8.21149284}}},
+    {"ALockOfOneIsNoLock",
+     [](CRafter& r) {
+       LockHeel(r, 4);
+       r.HeelLocked = Flag::FromInteger(1);
+     },
+     kCalculate,
+     {{"Heel", 5.40383122}, {"Seat", 5.40383041}}},
+    {"HeelAboveThePlumbCutIsThePlumbCut",
+     [](CRafter& r) { LockHeel(r, 20); },
+     kCalculate,
+     {{"Heel", 8.10574642}, {"Seat", 0.0}, {"CommonHeel", 8.10574642}, {"CommonSeat", 0.0}}},
+    {"HeelEqualToThePlumbCutStays",
+     [](CRafter& r) {
+       r.Calculate();
+       LockHeel(r, r.PlumbCut);
+     },
+     kCalculate,
+     {{"Heel", 8.10574642}, {"Seat", 0.0}, {"Overhang", 10.5}}},
+    {"LockedZeroHeelClearsTheOverhang",
+     [](CRafter& r) { LockHeel(r, 0); },
+     kCalculate,
+     {{"Heel", 0.0},
+      {"Overhang", 0.0},
+      {"Seat", 16.21149284},
+      {"AdjSpanWithOverhang", 143.25},
+      {"RiseWithOverhang", 71.625},
+      {"Length2", 160.15836889}}},
+    {"SeatLockedToAZeroHeelClearsTheOverhang",
+     LockSeatToNoHeel,
+     kCalculate,
+     {{"Heel", 0.0}, {"Overhang", 0.0}, {"Seat", 10.25304833}, {"AdjFasciaHeight", 0.0}}},
+    {"SeatLockedTooLongIsOverruled",
+     [](CRafter& r) {
+       r.SeatLocked = true;
+       r.Seat = 20;
+     },
+     kCalculate,
+     {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
+    {"LockedNegativeHeelIsOverruled",
+     [](CRafter& r) { LockHeel(r, -1); },
+     kCalculate,
+     {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
+    // The runs of hip and hip end were taken before the heel cleared the overhang; they follow at the next
+    // run.
+    {"ZeroHeelLeavesTheOverhangsOfTheHipThisOnce",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kHip;
+       LockHeel(r, 0);
+     },
+     kCalculate,
+     {{"Overhang", 0.0},
+      {"HipEndOverhang", 10.5},
+      {"HipValOverhang", 14.84924175},
+      {"AdjHipSpanWithOverhang", 217.43532558}}},
+    {"SlopeZeroHasAnEndlessSeat",
+     [](CRafter& r) { r.Slope = 0; },
+     kCalculate,
+     {{"PlumbCut", 7.25},
+      {"Heel", 4.83333358},
+      {"Seat", kInfinity},
+      {"Rise", 0.0},
+      {"Length1", 143.25},
+      {"HipValSlope", 0.0},
+      {"Pitch", " 0/12"},
+      {"HipPitch", " 0/12"}}},
+    {"SlopeSixAfterSlopeZeroIsPlainAgain",
+     [](CRafter& r) {
+       r.Slope = 0;
+       r.Calculate();
+       r.Slope = 6;
+     },
+     kCalculate,
+     {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Length1", 160.15836889}}},
+};
+INSTANTIATE_TEST_SUITE_P(Heels, CalculateTable, testing::ValuesIn(kHeels), RowName);
+
+const CalculationRow kFascias[] = {
+    {"TallerThanThePlumbCut",
+     [](CRafter& r) { r.FasciaHeight = 12; },
+     kCalculate,
+     {{"AdjFasciaHeight", 8.10574642}, {"FasciaHeight", 12.0}}},
+    {"NoOverhangLimitsItToTheHeel",
+     [](CRafter& r) {
+       r.FasciaHeight = 12;
+       r.Overhang = 0;
+     },
+     kCalculate,
+     {{"AdjFasciaHeight", 5.40383122}}},
+    {"NoOverhangLeavesALowFascia",
+     [](CRafter& r) {
+       r.FasciaHeight = 3.5;
+       r.Overhang = 0;
+     },
+     kCalculate,
+     {{"AdjFasciaHeight", 3.5}}},
+    // Lower than the plumb cut of the common but taller than that of the hip: it goes up to the common's.
+    {"TallerThanAShallowHip",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kHip;
+       r.HipValDepth = 5.5;
+     },
+     kCalculate,
+     {{"HipValPlumbCut", 5.83363089}, {"AdjFasciaHeight", 7.84058137}}},
+    {"TallerThanAShallowValley",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kValley;
+       r.HipValDepth = 5.5;
+     },
+     kCalculate,
+     {{"AdjFasciaHeight", 8.10574642}}},
+    {"AShallowHipDoesNotMoveTheCommonsFascia",
+     [](CRafter& r) { r.HipValDepth = 5.5; },
+     kCalculate,
+     {{"AdjFasciaHeight", 7.25}}},
+    {"TheDropOfTheHipLowersIt",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kHip;
+       r.Slope = 12;
+     },
+     kCalculate,
+     {{"HipDrop", 0.53033011}, {"AdjFasciaHeight", 6.71966989}, {"HipHeel", 6.30503578}}},
+};
+INSTANTIATE_TEST_SUITE_P(Fascias, CalculateTable, testing::ValuesIn(kFascias), RowName);
+
+void Metric(CRafter& r, double slope) {
+  r.SetUnits(1);
+  r.Slope = slope;
+}
+
+const CalculationRow kTexts[] = {
+    {"BelowOne",
+     [](CRafter& r) { r.Slope = 0.5; },
+     kCalculate,
+     {{"Pitch", " .5/12"}, {"HipEndPitch", " .5/12"}, {"HipPitch", " 0.35/12"}}},
+    {"HipIsCutNotRounded", [](CRafter& r) { r.Slope = 12; }, kCalculate, {{"HipPitch", " 8.48/12"}}},
+    {"HipOfTenKeepsTwoDecimals",
+     [](CRafter& r) { r.Slope = 15; },
+     kCalculate,
+     {{"Pitch", " 15/12"}, {"HipPitch", " 10.60/12"}}},
+    {"Negative",
+     [](CRafter& r) { r.Slope = -6; },
+     kCalculate,
+     {{"Pitch", "-6/12"}, {"HipPitch", " -4.2/12"}}},
+    {"MetricIsWhole",
+     [](CRafter& r) { Metric(r, 333.3); },
+     kCalculate,
+     {{"Pitch", " 333/1000"}, {"HipPitch", " 236/1000"}}},
+    {"MetricHalfGoesToTheEvenNumberUp",
+     [](CRafter& r) { Metric(r, 499.5); },
+     kCalculate,
+     {{"Pitch", " 500/1000"}}},
+    {"MetricHalfGoesToTheEvenNumberDown",
+     [](CRafter& r) { Metric(r, 500.5); },
+     kCalculate,
+     {{"Pitch", " 500/1000"}}},
+    {"HugeIsCutInTheMiddleOfItsDigits",
+     [](CRafter& r) { r.Slope = 1e30; },
+     kCalculate,
+     {{"Pitch", " 1E+30/12"}, {"HipPitch", " 7.071/12"}}},
+};
+INSTANTIATE_TEST_SUITE_P(Texts, CalculateTable, testing::ValuesIn(kTexts), RowName);
+
+const CalculationRow kRest[] = {
+    {"KneewallRise", [](CRafter& r) { r.Kneewall = 60; }, kCalculate, {{"KneewallRise", 30.0}}},
+    // 16 goes by the millimetre, 24 by two base runs: the two formulas part in metric.
+    {"MetricJackDifferences",
+     [](CRafter& r) { Metric(r, 500); },
+     kCalculate,
+     {{"CommonDifference", 1.11803399},
+      {"CommonDifference16", 17.88854382},
+      {"CommonDifference24", 2236.06797750}}},
+    {"MetricHip",
+     [](CRafter& r) {
+       Metric(r, 1000);
+       r.RafterType = RafterType::kHip;
+       r.Span = 3600;
+     },
+     kCalculate,
+     {{"HipValSpan", 5091.1686},
+      {"HipValSlope", 707.10681860},
+      {"HipDegrees", 35.26},
+      {"HipDrop", 0.53033012}}},
+    {"ClearsWhatABastardHipLeft",
+     [](CRafter& r) {
+       r.HipEndOverhangExcess = 1;
+       r.HipEndDrop = 2;
+       r.HipShift = 3;
+     },
+     kCalculate,
+     {{"HipEndOverhangExcess", 0.0}, {"HipEndDrop", 0.0}, {"HipShift", 0.0}}},
+};
+INSTANTIATE_TEST_SUITE_P(Rest, CalculateTable, testing::ValuesIn(kRest), RowName);
+
+TEST(Calculate, SeatAndHeelMakeUpThePlumbCut) {
+  CRafter rafter;
+  SmallHouse(rafter);
+  rafter.Depth = 5.5;
+  rafter.Calculate();
+  EXPECT_NEAR(rafter.Seat * rafter.Slope / 12 + rafter.Heel, rafter.PlumbCut, 1e-6);
+}
+
+class OtherMembers : public testing::TestWithParam<RafterType> {};
+
+TEST_P(OtherMembers, KeepLengthsBevelsHeelAndSeatOfTheHip) {
+  CRafter rafter;
+  SmallHouse(rafter);
+  rafter.RafterType = RafterType::kHip;
+  rafter.Calculate();
+  const double length1 = rafter.Length1;
+  const double length2 = rafter.Length2;
+  const double hipHeel = rafter.HipHeel;
+  const double hipSeat = rafter.HipValSeat;
+  rafter.RafterType = GetParam();
+  rafter.Span = 100;
+  rafter.Calculate();
+  EXPECT_EQ(rafter.Rise, Single(49.625));
+  EXPECT_NEAR(rafter.CommonLength1, 110.96487335, 1e-5);
+  EXPECT_EQ(rafter.Length1, length1);
+  EXPECT_EQ(rafter.Length2, length2);
+  EXPECT_EQ(rafter.HipHeel, hipHeel);
+  EXPECT_EQ(rafter.HipValSeat, hipSeat);
+  EXPECT_EQ(rafter.HipDrop, 0);
+  EXPECT_EQ(rafter.TopBevelAngle, 45);
+  EXPECT_EQ(rafter.BottomBevelAngle, 45);
+}
+INSTANTIATE_TEST_SUITE_P(Calculate, OtherMembers,
+                         testing::Values(RafterType::kHipEndCommon, RafterType::kOctagonJack,
+                                         RafterType::kOctagonHip, RafterType::kBayCommon));
+
+TEST(Calculate, ResetsTheKindsOfBevel) {
+  CRafter rafter;
+  SmallHouse(rafter);
+  rafter.TopBevelType = 3;
+  rafter.BottomBevelType = 3;
+  rafter.Calculate();
+  EXPECT_EQ(rafter.TopBevelType, 0);
+  EXPECT_EQ(rafter.BottomBevelType, 0);
+}
+
+TEST(Calculate, RaisesItsEventAfterTheLastStore) {
+  CRafter rafter;
+  SmallHouse(rafter);
+  std::string pitch;
+  rafter.Calculated = [&] { pitch = rafter.HipPitch; };
+  rafter.Calculate();
+  EXPECT_EQ(pitch, " 4.24/12");
+}
+
+}  // namespace
+}  // namespace pitchcraft
