@@ -163,4 +163,17 @@ std::vector<MenuItem*> Menus::ItemsUnder(const MenuItem& holder) const {
   return found;
 }
 
+const MenuItem* Menus::HolderOf(const MenuItem& item) const {
+  const MenuItem* holder = nullptr;
+  for (const MenuItem* candidate : items_) {
+    if (candidate->Level == 0) holder = candidate;
+    if (candidate == &item) break;
+  }
+  return holder == &item ? nullptr : holder;
+}
+
+bool Menus::IsPopup(const MenuItem& holder) const {
+  return &holder == &mnuPopUp1 || &holder == &mnuPopUp2 || &holder == &mnuSpin;
+}
+
 }  // namespace pitchcraft

@@ -62,6 +62,10 @@ class Menus {
   /// The items of the menu under a bar item or of a popup.
   std::vector<MenuItem*> ItemsUnder(const MenuItem& holder) const;
 
+  /// The bar item or popup that an item stands under; null for one of the bar itself.
+  const MenuItem* HolderOf(const MenuItem& item) const;
+  bool IsPopup(const MenuItem& holder) const;
+
  private:
   std::vector<MenuItem*> items_;
 };

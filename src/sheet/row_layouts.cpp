@@ -212,4 +212,6 @@ void LayOutRows(Sheet& sheet, int roofType, bool gambrelHasPurlins) {
 
 bool HasSecondSlope(int roofType) { return LayoutOf(roofType).slope2 != kHidden; }
 
+bool HasGableRows(int roofType) { return &LayoutOf(roofType) == &kGableRows; }
+
 }  // namespace pitchcraft

@@ -15,4 +15,7 @@ void LayOutRows(Sheet& sheet, int roofType, bool gambrelHasPurlins);
 /// True when the extra slope of row 2 belongs to the roof type: hip, blind valley, gambrel.
 bool HasSecondSlope(int roofType);
 
+/// True for the roof types that are laid out like a gable: gable, shed, dual slope, valley.
+bool HasGableRows(int roofType);
+
 }  // namespace pitchcraft

@@ -1,0 +1,246 @@
+// From a roof type to two calculated rafters, and from their results back to the sheet.
+#include <cmath>
+
+#include "core/number_text.h"
+#include "document/frm_document.h"
+#include "document/rafter_copies.h"
+
+namespace pitchcraft {
+namespace {
+
+/// Shows a result by its text in base units: the field then holds the seven digits that it was given.
+void ShowResult(FtInText& field, double value) {
+  if (std::isfinite(value)) {
+    field.SetText(PlainText(value));
+  } else {
+    field.SetValue(value);
+  }
+}
+
+}  // namespace
+
+void frmDocument::CalculateRoof(bool FromFile) {
+  if (!CalcEnabled) return;
+  constexpr const char* kProcedure = "CalculateRoof";
+  Try(kProcedure, [&] { StartRoof(FromFile); });
+  Try(kProcedure, [&] { SetHelpContext(); });
+}
+
+void frmDocument::StartRoof(bool FromFile) {
+  switch (RoofType) {
+    case roof::kGable:
+    case roof::kValley:
+    case roof::kShed:
+      Rafter1.RafterType =
+          static_cast<RafterType>(RoofType);  // these three have one code for roof and member
+      Rafter1.Calculate();
+      return NamePages();
+    case roof::kHip:
+      Rafter1.RafterType = RafterType::kHip;
+      Rafter1.Calculate();
+      sheet.FtLastCommon.SetValue(Rafter1.HipEndSpan);
+      return NamePages();
+    case roof::kBastardHip: return StartBastardHip();
+    case roof::kUnequalSpanValley:
+      Rafter1.RafterType = RafterType::kShortValley;
+      Rafter2.RafterType = RafterType::kLongValley;
+      Rafter1.Calculate();  // its event calculates the long valley
+      return NamePages();
+    case roof::kDualSlope: StartDualSlope(FromFile); return NamePages();
+    case roof::kBay:
+      Rafter1.RafterType = RafterType::kBayCommon;
+      return NamePages();  // a bay is computed only when its dimensions are complete
+    case roof::kDutchHip: StartDutchHip(); return NamePages();
+    case roof::kBlindValley:
+      NamePages();
+      Rafter1.RafterType = RafterType::kCommon;
+      Rafter1.Calculate();
+      return Draw(Drawing::kBlindValley, Rafter1);  // the event draws it on the later pages alone
+    case roof::kOctagon:
+      NamePages();
+      Rafter1.RafterType = RafterType::kOctagonHip;
+      Rafter1.HipValSpan = 0;  // so that it follows from the common run
+      return Rafter1.CalculateOctagon();
+    case roof::kGambrel:
+      NamePages();
+      Rafter1.RafterType = RafterType::kGambrelBottom;
+      Rafter2.RafterType = RafterType::kGambrelTop;
+      CopyLumber(Rafter1, Rafter2);
+      Rafter2.Overhang = sheet.FtOverhang[0].Value();
+      return CalculateGambrelDimensions("Heel");
+    default: return;
+  }
+}
+
+void frmDocument::NamePages() {
+  const RoofTypeRow* row = RoofTypeByCode(RoofType);
+  if (row != nullptr) sheet.VSTab[0].SetCaption(row->Pages);
+  CurrentTab = sheet.VSTab[0].Page;
+}
+
+// A bastard hip that comes from a project: from here on it is a hip whose rafter is of type 16.
+void frmDocument::StartBastardHip() {
+  RoofType = roof::kHip;
+  Rafter1.RafterType = RafterType::kBastardHip;
+  sheet.LWSlope[2].SetLeftValue(Rafter1.HipEndSlope);
+  sheet.cboDegrees[2].SetText(PlainText(Rafter1.HipEndDegrees));
+  CalculateBastard();
+  sheet.VSTab[0].SetCaption(kBastardHipPages);
+}
+
+// Picked from the list, the rear roof begins as a copy of the front; from a project it keeps its own values.
+void frmDocument::StartDualSlope(bool FromFile) {
+  Rafter1.RafterType = RafterType::kCommon;
+  Rafter2.RafterType = RafterType::kCommon;
+  if (!FromFile) {
+    sheet.LWSlope[1].SetListIndex(0);
+    sheet.cboDegrees[1].SetListIndex(0);
+    Rafter2.Slope = Rafter1.Slope;
+    Rafter2.degrees = Rafter1.degrees;
+    sheet.cboDegrees[1].SetText(PlainText(Rafter2.degrees));
+    Rafter2.Span = Rafter1.Span;
+    CopyLumber(Rafter1, Rafter2);
+    Rafter2.Overhang = Rafter1.Overhang;
+    CopyLocks(Rafter1, Rafter2);
+    Rafter2.Calculate();
+  }
+  Rafter1.Calculate();
+}
+
+// A Dutch hip is a bay with a square corner across the whole roof end.
+void frmDocument::StartDutchHip() {
+  Rafter1.RafterType = RafterType::kCommon;
+  Rafter1.Calculate();
+  Rafter2.RafterType = RafterType::kBayCommon;
+  sheet.FtProjection.SetValue(sheet.FtSpan[2].Value());
+  sheet.FtBayAngle.SetValue(90);
+  sheet.FtBack.SetValue(2 * Rafter1.Span);
+  sheet.FtFace.SetValue(sheet.FtBack.Value());
+  Rafter2.Heel = Rafter1.Heel;
+  Rafter2.Seat = Rafter1.Seat;
+  CopyLumber(Rafter1, Rafter2);
+  CopyHipLumber(Rafter1, Rafter2);
+  if (menus.mnuDutchLedger[1].Checked) Rafter2.RidgeThickness = 0;
+  Rafter2.Overhang = Rafter1.Overhang;
+  Rafter2.Slope = Rafter1.Slope;
+  CalculateBayDimensions();
+}
+
+void frmDocument::Rafter1_Calculated() {
+  constexpr const char* kProcedure = "Rafter1_Calculated";
+  Try(kProcedure, [&] { ShowFrontRow(); });
+  bool finished = false;
+  Try(kProcedure, [&] { finished = ChainRafter2(); });
+  if (!finished) Try(kProcedure, [&] { RedrawAfterRafter1(); });
+}
+
+void frmDocument::ShowFrontRow() {
+  if (RoofType == roof::kGambrel) {
+    sheet.FtHeel[0].SetValue(Rafter1.Heel);
+    sheet.FtSeat[0].SetValue(Rafter1.Seat);
+    return;
+  }
+  sheet.LWSlope[0].SetValues(Rafter1.Slope, UnitRun);
+  ShowResult(sheet.FtSpan[0], Rafter1.Span);
+  ShowResult(sheet.FtOverhang[0], Rafter1.Overhang);
+  ShowResult(sheet.FtHeel[0], Rafter1.CommonHeel);
+  ShowResult(sheet.FtSeat[0], Rafter1.CommonSeat);
+  sheet.LWRafter[0].SetValues(Rafter1.Thickness, Rafter1.Depth);
+  sheet.LWRidge.SetValues(Rafter1.RidgeThickness, Rafter1.RidgeDepth);
+  sheet.LWFascia[0].SetValues(Rafter1.FasciaThickness, Rafter1.FasciaHeight);
+  sheet.LWHipVal.SetValues(Rafter1.HipValThickness, Rafter1.HipValDepth);
+}
+
+// The second rafter of a roof that has two. True when the event ends with it.
+bool frmDocument::ChainRafter2() {
+  switch (RoofType) {
+    case roof::kDualSlope:
+      Rafter2.Calculate();  // its event draws both
+      return true;
+    case roof::kHip:
+      if (LoadingProject == 0) sheet.LWSlope[2].SetValues(Rafter1.HipEndSlope, UnitRun);
+      return false;
+    case roof::kDutchHip:
+      Rafter2.Slope = Rafter1.Slope;
+      CopyLumber(Rafter1, Rafter2);
+      CopyHipLumber(Rafter1, Rafter2);
+      Rafter2.Heel = Rafter1.CommonHeel;
+      // The heel in both: the seat of the Dutch common follows from its heel, so what stands here is only a
+      // start.
+      Rafter2.Seat = Rafter1.CommonHeel;
+      if (!menus.mnuDutchLedger[0].Checked) Rafter2.RidgeThickness = 0;
+      Rafter2.Overhang = Rafter1.Overhang;
+      CopyLocks(Rafter1, Rafter2);
+      CalculateBayDimensions();
+      Rafter2.CalculateBay();
+      if (sheet.VSTab[0].Page == 0) Draw(Drawing::kDutchPlan, Rafter2);
+      return true;
+    case roof::kUnequalSpanValley:
+      Rafter2.Slope = Rafter1.Slope;
+      Rafter2.Span = sheet.FtSpan[2].Value();
+      CopyLumber(Rafter1, Rafter2);
+      CopyHipLumber(Rafter1, Rafter2);
+      Rafter2.Overhang = Rafter1.Overhang;
+      CopyLocks(Rafter1, Rafter2);
+      Rafter2.Heel = Rafter1.CommonHeel;
+      Rafter2.Seat = Rafter1.CommonSeat;
+      Rafter2.Calculate();
+      return false;
+    case roof::kOctagon: ShowResult(sheet.FtSpan[2], Rafter1.HipValSpan); return false;
+    default: return false;
+  }
+}
+
+void frmDocument::RedrawAfterRafter1() {
+  const bool onDesignPage = sheet.VSTab[0].Page == 0;
+  switch (Rafter1.RafterType) {
+    case RafterType::kCommon:
+    case RafterType::kHip:
+    case RafterType::kValley:
+    case RafterType::kShed:
+      if (RoofType == roof::kBlindValley) {
+        if (!onDesignPage) Draw(Drawing::kBlindValley, Rafter1);
+      } else if (RoofType == roof::kHip && onDesignPage) {
+        Draw(Drawing::kHipPlan, Rafter1);
+      } else {
+        Draw(Drawing::kRafter, Rafter1);
+      }
+      return;
+    case RafterType::kOctagonHip:
+    case RafterType::kOctagonJack: return Draw(Drawing::kOctagonPlan, Rafter1);
+    case RafterType::kBayCommon:
+    case RafterType::kBayHip:
+    case RafterType::kBayLedger:
+    case RafterType::kCenterLedger:
+      if (onDesignPage) Draw(Drawing::kBayPlan, Rafter1);
+      return;
+    case RafterType::kShortValley: return Draw(Drawing::kUnequalSpanValley, Rafter1);
+    case RafterType::kBastardHip:
+      if (onDesignPage) Draw(Drawing::kHipPlan, Rafter1);
+      return;
+    case RafterType::kGambrelBottom: sheet.FtOverhang[0].SetValue(Rafter1.Overhang); return;
+    default: return;
+  }
+}
+
+void frmDocument::Rafter2_Calculated() {
+  constexpr const char* kProcedure = "Rafter2_Calculated";
+  switch (RoofType) {
+    case roof::kDualSlope: Try(kProcedure, [&] { ShowRearRow(); }); return Draw(Drawing::kSaltbox, Rafter1);
+    case roof::kDutchHip: return Draw(Drawing::kDutchPlan, Rafter2);
+    case roof::kUnequalSpanValley: return Draw(Drawing::kUnequalSpanValley, Rafter2);
+    default: return;
+  }
+}
+
+void frmDocument::ShowRearRow() {
+  sheet.LWSlope[1].SetValues(Rafter2.Slope, UnitRun);
+  ShowResult(sheet.FtSpan[1], Rafter2.Span);
+  ShowResult(sheet.FtOverhang[1], Rafter2.Overhang);
+  ShowResult(sheet.FtHeel[1], Rafter2.CommonHeel);
+  ShowResult(sheet.FtSeat[1], Rafter2.CommonSeat);
+  sheet.LWRafter[1].SetValues(Rafter2.Thickness, Rafter2.Depth);
+  sheet.LWFascia[1].SetValues(Rafter2.FasciaThickness, Rafter2.FasciaHeight);
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,225 @@
+// The window's life: start, layout, end.
+#include <algorithm>
+
+#include "document/frm_document.h"
+#include "sheet/row_layouts.h"
+#include "storage/lists.h"
+
+namespace pitchcraft {
+
+frmDocument::frmDocument(const Surroundings& surroundings)
+    : board(meter, [this](double length) { return FtInConverter1.ToText(length); }),
+      surroundings_(surroundings) {
+  menus.mnuSettingsPlumbCut.Checked = true;
+  CheckFasciaCut(FasciaCut::kPlumb);
+  menus.mnuViewToolbar.Checked = true;
+  menus.mnuViewStatusBar.Checked = true;
+  menus.mnuImperial.Checked = true;
+  menus.mnuGambrelPurlins.Checked = menus.mnuPopup2GambrelPurlins.Checked = true;
+  LayOutRows(sheet, RoofType, true);
+  DisableItemsWithoutHandler();
+}
+
+FormLayout frmDocument::Layout() const {
+  return LayOutForm(Window.Width, Window.Height,
+                    {menus.mnuViewToolbar.Checked, menus.mnuViewStatusBar.Checked, sheet.Toolbar1.Visible,
+                     RoofType == roof::kDualSlope});
+}
+
+void frmDocument::Form_Load() {
+  constexpr const char* kProcedure = "Form_Load";
+  Try(kProcedure, [&] { ReadSettingsIntoVariables(); });
+  Try(kProcedure, [&] { ColorFields(); });
+  Try(kProcedure, [&] { CreateRafters(); });
+  Title = "Pitchcraft - [Untitled]";
+  const Settings stored = ReadSettings(surroundings_.store);
+  Window.Width = std::max(Window.Width, kMinimumWidth);
+  Window.Height = std::max(Window.Height, kMinimumHeight);
+  CalcEnabled = true;
+  Try(kProcedure, [&] { ShowStoredOptions(stored); });
+  tbToolBar.PressRoof(0);
+  // The toggle inverts the checks, so they are set to the other system first.
+  Try(kProcedure, [&] {
+    const bool metric = stored.Units != 0;
+    UnitRun = 1000;
+    menus.mnuMetric.Checked = !metric;
+    menus.mnuImperial.Checked = metric;
+    mnuImperial_Click();
+  });
+  Try(kProcedure, [&] { TakeStoredSpacing(stored); });
+  Form_Resize();
+  SetHelpContext();
+}
+
+void frmDocument::ReadSettingsIntoVariables() {
+  const Settings stored = ReadSettings(surroundings_.store);
+  UseSystemColors = stored.UseSystemColors;
+  RotateFonts = stored.RotateFonts;
+  LineWidth = stored.LineWidth;
+  Spacing = stored.Spacing;
+  MetricSpacing = stored.MetricSpacing;
+  Increment = stored.Increment;
+  MetricIncrement = stored.MetricIncrement;
+  CtlBackColor = stored.CtlBackColor;
+  CtlForeColor = stored.CtlForeColor;
+  CtlCalcColor = stored.CtlCalcColor;
+  BackColor = stored.BackColor;
+  LineColor = stored.LineColor;
+  DimColor = stored.DimColor;
+  TextColor = stored.TextColor;
+  DXFBackcolor = stored.DXFBackcolor;
+  DXFTextcolor = stored.DXFTextcolor;
+  DXFLinecolor = stored.DXFLinecolor;
+  DXFDimcolor = stored.DXFDimcolor;
+  DXFTextsize = stored.DXFTextsize;
+  DXFMetricTextsize = stored.DXFMetricTextsize;
+  DXFDimTextsize = stored.DXFDimTextsize;
+  WindowState = stored.WindowState;
+  Window = {stored.MainLeft, stored.MainTop, stored.MainWidth, stored.MainHeight};
+}
+
+void frmDocument::ColorFields() {
+  sheet.ForEachMeasure([this](auto& field) {
+    field.ForeColor = CtlForeColor;
+    field.BackColor = CtlBackColor;
+  });
+}
+
+// The first values of a session: the sheet takes those of the unit switch soon after.
+void frmDocument::CreateRafters() {
+  Rafter1.Calculated = [this] { Rafter1_Calculated(); };
+  Rafter2.Calculated = [this] { Rafter2_Calculated(); };
+  DefaultLumberList();
+  DefaultSlopeList();
+  std::vector<std::string> items;
+  for (const RoofTypeRow& row : RoofTypes()) items.emplace_back(row.Item);
+  sheet.cboType.SetList(items);
+  sheet.cboType.SetListIndex(0);
+  cboType_Click();
+  for (const std::size_t row : {0, 1}) {
+    sheet.LWSlope[row].SetListIndex(0);
+    sheet.cboDegrees[row].SetListIndex(0);
+  }
+  Rafter1.RafterType = RafterType::kCommon;
+  Rafter1.Span = 144;
+  Rafter1.Thickness = Rafter1.HipValThickness = 1.5;
+  Rafter1.Depth = Rafter1.HipValDepth = Rafter1.RidgeDepth = 7.25;
+  Rafter1.FasciaHeight = 5.5;
+  Rafter1.FasciaThickness = 1.5;
+  Rafter1.Overhang = 10.5;
+  Rafter1.RidgeThickness = 1.5;
+  Rafter1.Calculate();
+  sheet.cboLedger.SetListIndex(0);
+  menus.mnuDutchLedger[0].Checked = menus.mnuPopUp1Ledger[0].Checked = true;
+}
+
+void frmDocument::ShowStoredOptions(const Settings& stored) {
+  sheet.FtKneewall[0].SetText(stored.Kneewall1);
+  sheet.FtKneewall[1].SetText(stored.Kneewall2);
+  for (FtInText& field : sheet.FtKneewall) {
+    field.Enabled = false;
+    field.ForeColor = kSystemGrayTextColor;
+  }
+  sheet.FtLastCommon.Enabled = false;
+  sheet.Label[23].Enabled = false;
+  ShowHipLayoutChecks(stored.HipLayout == "Center" ? 0 : stored.HipLayout == "Corner Flush" ? 2 : 1);
+  menus.mnuHipLayoutOverhangsEqual.Checked = menus.mnuPopUp1OverhangsEqual.Checked = stored.OverhangsEqual;
+  menus.mnuHipLayoutJackMeasurement.Checked = menus.mnuPopUp1JackMeasurement.Checked = stored.JackMeasurement;
+  if (stored.Degrees) {
+    mnuSettingsDegrees_Click();
+  } else {
+    mnuSettingsRiseOverRun_Click();
+  }
+}
+
+void frmDocument::Form_Resize() {
+  if (!CalcEnabled || WindowState == 1) return;
+  Window.Width = std::max(Window.Width, kMinimumWidth);
+  Window.Height = std::max(Window.Height, kMinimumHeight);
+  LayOutPictures();
+  RepeatDrawing();
+}
+
+void frmDocument::LayOutPictures() {
+  const FormLayout layout = Layout();
+  Picture1.Place = layout.picture1;
+  Picture3.Place = layout.picture3;
+  sheet.VSElastic[2].Top = layout.picture3.Top;
+  sheet.VSElastic[2].Width = layout.picture3.Width;
+  sheet.VSElastic[2].Height = layout.picture3.Height;
+}
+
+void frmDocument::Form_Unload() {
+  Settings settings = ReadSettings(surroundings_.store);
+  settings.UseSystemColors = UseSystemColors;
+  settings.RotateFonts = RotateFonts;
+  settings.Units = Imperial() ? 0 : 1;
+  settings.LineWidth = LineWidth;
+  settings.Spacing = Spacing;
+  settings.Increment = Increment;
+  settings.MetricIncrement = MetricIncrement;
+  settings.Degrees = menus.mnuSettingsDegrees.Checked;
+  settings.WindowState = WindowState;
+  settings.MainLeft = Window.Left;
+  settings.MainTop = Window.Top;
+  settings.MainWidth = Window.Width;
+  settings.MainHeight = Window.Height;
+  settings.Kneewall1 = sheet.FtKneewall[0].Text();
+  settings.Kneewall2 = sheet.FtKneewall[1].Text();
+  settings.HipLayout = menus.mnuHipLayoutCenter.Checked         ? "Center"
+                       : menus.mnuHipLayoutCornersFlush.Checked ? "Corner Flush"
+                                                                : "Corner";
+  settings.OverhangsEqual = menus.mnuHipLayoutOverhangsEqual.Checked;
+  settings.JackMeasurement = menus.mnuHipLayoutJackMeasurement.Checked;
+  settings.CtlBackColor = CtlBackColor;
+  settings.CtlForeColor = CtlForeColor;
+  settings.CtlCalcColor = CtlCalcColor;
+  settings.BackColor = BackColor;
+  settings.LineColor = LineColor;
+  settings.DimColor = DimColor;
+  settings.TextColor = TextColor;
+  settings.DXFBackcolor = DXFBackcolor;
+  settings.DXFTextcolor = DXFTextcolor;
+  settings.DXFLinecolor = DXFLinecolor;
+  settings.DXFDimcolor = DXFDimcolor;
+  settings.DXFTextsize = DXFTextsize;
+  settings.DXFMetricTextsize = DXFMetricTextsize;
+  settings.DXFDimTextsize = DXFDimTextsize;
+  Try("Form_Unload", [&] { WriteSettings(settings, surroundings_.store); });
+}
+
+void frmDocument::TakeStoredSpacing(const Settings& stored) {
+  Spacing = Imperial() ? stored.Spacing : stored.MetricSpacing;
+  Rafter1.spacing = Rafter2.spacing = Spacing;
+  if (Imperial()) FtInConverter1.Units = kInchesAlone;
+  sheet.cboSpacing.SetText(FtInConverter1.ToText(Spacing));
+  if (Imperial()) FtInConverter1.Units = kFeetAndInches;
+}
+
+void frmDocument::MsgBox(const std::string& text, const std::string& title) {
+  surroundings_.dialogs.MsgBox(title, text);
+}
+
+// --- Lists
+// ----------------------------------------------------------------------------------------------------------
+
+void frmDocument::DefaultLumberList() {
+  const std::vector<std::string> rows = DefaultLumberRows();
+  for (LWCombo* field : {&sheet.LWRafter[0], &sheet.LWRafter[1], &sheet.LWRidge, &sheet.LWFascia[0],
+                         &sheet.LWFascia[1], &sheet.LWHipVal}) {
+    field->Clear();
+    for (const std::string& row : rows) field->AddEntry(row);
+  }
+}
+
+void frmDocument::DefaultSlopeList() {
+  for (LWCombo& slope : sheet.LWSlope) slope.Clear();
+  for (ComboControl& degrees : sheet.cboDegrees) degrees.SetList(DefaultDegreeRows());
+  // The list of row 2 stays empty: an end slope is typed, and any slope is as likely as another.
+  for (const std::string& row : DefaultSlopeRows(UnitRun)) {
+    sheet.LWSlope[0].AddEntry(row);
+    sheet.LWSlope[1].AddEntry(row);
+  }
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,215 @@
+// The numbers of a gambrel, kept consistent: told what was changed, the others follow.
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+
+#include "core/angles.h"
+#include "core/number_text.h"
+#include "document/frm_document.h"
+
+namespace pitchcraft {
+namespace {
+
+// A regular gambrel fits a circle: 22.5 and 67.5 degrees. Its slopes are literals; the fields show them
+// rounded.
+struct RegularSlopes {
+  double upperShown, lowerShown, upper, lower;
+};
+constexpr RegularSlopes kImperialSlopes{5, 29, 4.970562934875, 28.97056388855};
+constexpr RegularSlopes kMetricSlopes{414, 2414, 414.213562011719, 2414.21337890625};
+
+constexpr std::string_view kFields[] = {"LOWER SPAN",  "UPPER SPAN",  "LOWER HEIGHT", "UPPER HEIGHT",
+                                        "LOWER SLOPE", "UPPER SLOPE", "HEEL",         "SEAT",
+                                        "RAFTER",      "OVERHANG",    "FASCIA",       "RIDGE"};
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return upper;
+}
+
+}  // namespace
+
+void frmDocument::CalculateGambrelDimensions(std::string_view ChangedField) {
+  constexpr const char* kProcedure = "CalculateGambrelDimensions";
+  const std::string changed = UpperCase(ChangedField);
+  Single upperSpan;
+  Try(kProcedure, [&] {
+    if (Rafter1.Heel == 0) {
+      Rafter1.Overhang = 0;
+      sheet.FtOverhang[0].SetValue(0);
+    }
+    if (menus.mnuGambrelRegular.Checked) {
+      upperSpan = SolveRegularGambrel(std::find(std::begin(kFields), std::end(kFields), changed) !=
+                                      std::end(kFields));
+    } else {
+      upperSpan = SolveCustomGambrel(changed);
+      SetUpperBearing();
+    }
+  });
+  Try(kProcedure, [&] {
+    if (Rafter1.Heel == 0) Rafter1.Overhang = 0;
+    Rafter1.Calculate();
+    Rafter2.Calculate();
+    sheet.FtSpan[2].SetValue(upperSpan);
+    sheet.FtRidge[0].SetValue(Rafter2.RiseToSpan + Rafter2.Heel);
+    sheet.FtRidge[1].SetValue(Rafter1.RiseToSpan + Rafter1.Heel);
+  });
+  Draw(Drawing::kGambrelPreview, Rafter1);
+}
+
+// The roof fits the circle through the ends of the overhangs and the ridge. Gives the upper span.
+double frmDocument::SolveRegularGambrel(bool knownField) {
+  const RegularSlopes& slopes = Imperial() ? kImperialSlopes : kMetricSlopes;
+  sheet.LWSlope[0].SetValues(slopes.upperShown, UnitRun);
+  sheet.LWSlope[2].SetValues(slopes.lowerShown, UnitRun);
+  Rafter2.Slope = Rafter1.HipValSlope = slopes.upper;
+  Rafter1.Slope = Rafter2.HipValSlope = slopes.lower;
+  sheet.cboDegrees[0].SetText(PlainText(22.5));
+  sheet.cboDegrees[2].SetText(PlainText(67.5));
+  Rafter1.degrees = 67.5;
+  Rafter2.degrees = 22.5;
+  const Single width = sheet.FtSpan[0].Value();
+  Single half;
+  if (knownField) {
+    const Single radius = sheet.FtOverhang[0].Value() + width / 2;
+    half = std::sqrt(radius * radius / 2);
+  }
+  const Single upper = 2 * half;
+  Rafter1.Span = (width - upper) / 2;
+  Rafter2.Span = half;
+  Rafter2.Heel = 0;
+  Rafter2.Overhang = 0;
+  return upper;
+}
+
+// Gives the upper span; the two runs follow from it and the whole width.
+double frmDocument::SolveCustomGambrel(const std::string& changed) {
+  Rafter2.Slope = Rafter1.HipValSlope = sheet.LWSlope[0].LeftValue();
+  Rafter1.Slope = Rafter2.HipValSlope = sheet.LWSlope[2].LeftValue();
+  for (CRafter* rafter : {&Rafter1, &Rafter2}) {
+    rafter->degrees = kDegreesPerRadian * std::atan(rafter->Slope / UnitRun);
+  }
+  const Single width = sheet.FtSpan[0].Value();
+  Single upper = sheet.FtSpan[2].Value();
+  if (changed == "LOWER SPAN" || changed == "LOWER HEIGHT") {
+    const Single lowerHeight = sheet.FtRidge[1].Value();
+    Rafter1.Span = UnitRun * (lowerHeight - Rafter1.Heel) / Rafter1.Slope;
+    upper = width - (Rafter1.Span + Rafter1.Span);
+  } else if (changed == "UPPER HEIGHT") {
+    const Single upperHeight = sheet.FtRidge[0].Value();
+    Rafter2.Slope = UnitRun * upperHeight / (upper / 2);
+    Rafter1.HipValSlope = Rafter2.Slope;
+    sheet.LWSlope[0].SetValues(Rafter2.Slope, UnitRun);
+    sheet.cboDegrees[0].SetText(PlainText(DegreesOfRow(0)));
+  } else if (changed == "UPPER SLOPE") {
+    sheet.FtRidge[0].SetValue((upper / 2) * Rafter2.Slope / UnitRun);
+  }
+  Rafter1.Span = (width - upper) / 2;
+  Rafter2.Span = upper / 2;
+  return upper;
+}
+
+// A raised wall support gives the upper rafter a heel of its fascia's plumb height; else it sits on the lower
+// one.
+void frmDocument::SetUpperBearing() {
+  Rafter2.Heel = 0;
+  Rafter2.Overhang = 0;
+  if (!menus.mnuGambrelWallSupportRaised.Checked) return;
+  const Single fascia = FtInConverter1.ToValue(sheet.FTUpperFascia.Text());
+  const Single rise = fascia * Rafter2.Slope / UnitRun;
+  Rafter2.Heel = std::sqrt(fascia * fascia + rise * rise);
+  const double angle = std::atan(Rafter2.Slope / UnitRun) + 1.570796326795;
+  Rafter2.Overhang = std::abs(DraftingBoard::AngleDistance(angle, fascia).X);
+}
+
+void frmDocument::FTUpperFascia_Click(int) {
+  Try("FTUpperFascia_Click", [&] {
+    if (Imperial()) FtInConverter1.Units = kInchesAlone;
+    const double height = FtInConverter1.ToValue(sheet.FTUpperFascia.Text());
+    sheet.FTUpperFascia.SetText(FtInConverter1.ToText(std::min(height, double{Rafter1.Depth})));
+    if (Imperial()) FtInConverter1.Units = kFeetAndInches;
+    CalculateGambrelDimensions("Heel");
+    const int page = sheet.VSTab[0].Page;
+    if (page == 1 || page == 2) Draw(Drawing::kGambrelRafter, page == 1 ? Rafter1 : Rafter2);
+  });
+}
+
+// --- Menus of the gambrel
+// -------------------------------------------------------------------------------------------
+
+void frmDocument::mnuGambrelRegular_Click(int) {
+  Try("mnuGambrelRegular_Click", [&] {
+    SetGambrelKind(true);
+    CalculateGambrelDimensions("Heel");
+  });
+}
+
+void frmDocument::mnuGambrelCustom_Click(int) {
+  Try("mnuGambrelCustom_Click", [&] {
+    SetGambrelKind(false);
+    if (menus.mnuGambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
+    CalculateGambrelDimensions("Heel");
+  });
+}
+
+void frmDocument::SetGambrelKind(bool regular) {
+  menus.mnuGambrelRegular.Checked = menus.mnuPopup2GambrelRegular.Checked = regular;
+  menus.mnuGambrelCustom.Checked = menus.mnuPopup2GambrelCustom.Checked = !regular;
+  for (const std::size_t index : {2, 4, 7}) sheet.Spin[index].Enabled = !regular;
+  sheet.Spin[3].Enabled = true;
+  for (const std::size_t row : {0, 2}) {
+    sheet.LWSlope[row].Locked = regular;
+    sheet.cboDegrees[row].Locked = regular;
+  }
+  for (CheckControl* box : GambrelLocks()) box->Visible = !regular;
+  // The upper roof of a regular gambrel cannot stand on raised walls: its circle leaves no room for them.
+  const bool canRaise = !regular;
+  menus.mnuGambrelWallSupportRaised.Enabled = menus.mnuPopup2GambrelWallSupportRaised.Enabled = canRaise;
+  if (regular && menus.mnuGambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
+}
+
+void frmDocument::mnuGambrelPurlins_Click(int) { ChooseGambrelSupport(GambrelSupport::kPurlins); }
+void frmDocument::mnuGambrelWallSupport_Click(int) { ChooseGambrelSupport(GambrelSupport::kWall); }
+void frmDocument::mnuGambrelWallSupportRaised_Click(int) { ChooseGambrelSupport(GambrelSupport::kRaised); }
+
+void frmDocument::ChooseGambrelSupport(GambrelSupport support) {
+  Try("mnuGambrelPurlins_Click", [&] {
+    SetGambrelSupport(support);
+    CalculateGambrelDimensions("Heel");
+  });
+}
+
+void frmDocument::SetGambrelSupport(GambrelSupport support) {
+  const auto check = [support](MenuItem& item, MenuItem& twin, GambrelSupport own) {
+    item.Checked = twin.Checked = own == support;
+  };
+  check(menus.mnuGambrelPurlins, menus.mnuPopup2GambrelPurlins, GambrelSupport::kPurlins);
+  check(menus.mnuGambrelWallSupport, menus.mnuPopup2GambrelWallSupport, GambrelSupport::kWall);
+  check(menus.mnuGambrelWallSupportRaised, menus.mnuPopup2GambrelWallSupportRaised, GambrelSupport::kRaised);
+  Rafter1.Purlins = Rafter2.Purlins = support == GambrelSupport::kPurlins;
+  const bool raised = support == GambrelSupport::kRaised;
+  sheet.txtUpperFascia.Visible = raised;
+  sheet.FTUpperFascia.Visible = raised;
+  if (raised) sheet.FTUpperFascia.SetListIndex(0);
+  sheet.Label[22].Caption = support == GambrelSupport::kPurlins ? "Purlins:" : "Ridge:";
+}
+
+std::array<CheckControl*, 5> frmDocument::GambrelLocks() {
+  return {&sheet.chkUpperSlope, &sheet.chkLowerSlope, &sheet.chkUpperSpan, &sheet.chkUpperHeight,
+          &sheet.chkLowerHeight};
+}
+
+// The box that is ticked names the derived quantity: one of the five follows from the others.
+void frmDocument::GambrelLock_Click(std::size_t which) {
+  const auto locks = GambrelLocks();
+  const CheckControl* clicked = locks[which];
+  const int others = clicked->Ticked() ? 0 : 1;
+  for (CheckControl* box : locks) {
+    if (box != clicked) box->Value = others;
+  }
+}
+
+}  // namespace pitchcraft
