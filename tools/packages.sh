@@ -33,4 +33,6 @@ done
 
 echo "Installing ${missing[*]}"
 ./as_root.sh apt-get -qq update
-./as_root.sh env DEBIAN_FRONTEND=noninteractive apt-get -qq -y --no-install-recommends install "${missing[@]}"
+# What it unpacks is of no interest; its errors are, and go to standard error.
+./as_root.sh env DEBIAN_FRONTEND=noninteractive \
+  apt-get -qq -y --no-install-recommends install "${missing[@]}" >/dev/null
