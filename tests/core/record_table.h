@@ -28,6 +28,7 @@ inline double Number(const CRafter& rafter, const std::string& name) {
   if (const auto* single = std::get_if<Single>(&value)) return *single;
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* integer = std::get_if<int>(&value)) return *integer;
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag ? -1 : 0;
   ADD_FAILURE() << name << " is no number";
   return 0;
 }
