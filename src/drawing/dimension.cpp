@@ -176,6 +176,10 @@ void DimensionDrafter::DrawArrowheads() {
 
 void DimensionDrafter::PlaceText() {
   PointRecord& anchor = board_.Pts(10);
+  if (dim_.TextAt) {
+    anchor = *dim_.TextAt;
+    return;
+  }
   anchor = {(end1_.X + end2_.X) / 2, (end1_.Y + end2_.Y) / 2};
   if (dim_.Kind == kAligned) PlaceAlignedText(anchor);
   if (dim_.Kind == kHorizontal) PlaceHorizontalText(anchor);
@@ -185,7 +189,6 @@ void DimensionDrafter::PlaceText() {
 void DimensionDrafter::PlaceAlignedText(PointRecord& anchor) const {
   anchor = anchor + gap_;
   if (p1_.X > p2_.X) anchor = anchor + gap_;
-  anchor = anchor + DraftingBoard::AngleDistance(across_, dim_.TextLift);
 }
 
 void DimensionDrafter::PlaceHorizontalText(PointRecord& anchor) {
@@ -223,8 +226,8 @@ void DraftingBoard::Dimension2(const Dimension& dimension) { DimensionDrafter(*t
 void DraftingBoard::Dimension2(int kind, int p1, int p2, Single gap, Single arrow, Single leg,
                                Single textHeight, int arrowsOutside, int textMode, int textFlag,
                                std::optional<std::string> text) {
-  Dimension2(Dimension{kind, p1, p2, gap, arrow, leg, textHeight, arrowsOutside, textMode, textFlag,
-                       std::move(text), 0});
+  Dimension2(Dimension{
+      kind, p1, p2, gap, arrow, leg, textHeight, arrowsOutside, textMode, textFlag, std::move(text), {}});
 }
 
 std::string DraftingBoard::DimensionText(int kind, int p1, int p2) const {

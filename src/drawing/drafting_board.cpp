@@ -5,6 +5,7 @@
 
 #include "core/angles.h"
 #include "core/run_time_error.h"
+#include "drawing/clear_space.h"
 #include "drawing/text_align.h"
 
 namespace pitchcraft {
@@ -70,6 +71,7 @@ DraftingBoard::DraftingBoard(const TextMeter& meter, std::function<std::string(d
 void DraftingBoard::BeginDrawing(DrawColor backColor, DrawColor lineColor) {
   MetaCanvas.BackColor = backColor;
   MetaCanvas.Cls();
+  Pts.Clear();
   DimensionPoints.clear();
   DrawFX.EntryMode = 0;
   DrawFX.SetDrawStyle(0);
@@ -105,6 +107,19 @@ Single DraftingBoard::SetMetrics() {
 void DraftingBoard::Text(const std::string& text, double x, double y, int align) {
   TextFX.SetTextAlign(align);
   TextFX.TextLine(text, Single(x), Single(y));
+}
+
+bool DraftingBoard::IsClear(const std::string& text, double x, double y, int align, double margin) {
+  const TextOp op{{ToLong(x), ToLong(y)},
+                  text,
+                  TextFX.FontHeight,
+                  TextFX.Angle,
+                  align,
+                  0,
+                  TextFX.FontName,
+                  TextFX.FontBold,
+                  TextFX.FontItalic};
+  return pitchcraft::IsClear(MetaCanvas.Operations(), MetaCanvas.Meter(), op, margin);
 }
 
 double DraftingBoard::WidthOf(const std::string& text, double height) {

@@ -27,6 +27,7 @@ class PointArray {
   static constexpr int kCount = 64;
   PointRecord& operator()(int index);
   const PointRecord& operator()(int index) const;
+  void Clear() { points_ = {}; }
 
  private:
   std::array<PointRecord, kCount> points_;
@@ -48,8 +49,8 @@ struct Dimension {
   int ArrowsOutside = 0;
   int TextMode = 0;  ///< 0 along the line, 1 turned half round, 2 a quarter on, 3 a quarter back
   int TextFlag = 0;  ///< 1 sets the text of a horizontal dimension below the ends of its extension lines
-  std::optional<std::string> Text;  ///< in place of the measured length
-  Single TextLift;                  ///< an aligned dimension's text stands this much further out
+  std::optional<std::string> Text;    ///< in place of the measured length
+  std::optional<PointRecord> TextAt;  ///< centre of the text's base line, in place of the usual one
 };
 
 class DraftingBoard {
@@ -76,7 +77,8 @@ class DraftingBoard {
   Single DrawScale = 10;  ///< drawing units for one unit of length: 10 imperial, 1 metric
   Single DrawingWidth;    ///< of the last finished drawing
 
-  /// Empties canvas and dimension list and puts pen, style, font and text angle back to their plain values.
+  /// Empties canvas, points and dimension list and puts pen, style, font and text angle back to their plain
+  /// values.
   void BeginDrawing(DrawColor backColor, DrawColor lineColor);
   /// Closes the recording.
   void EndDrawing();
@@ -88,6 +90,8 @@ class DraftingBoard {
   void Move(int point) { DrawFX.MoveToPoint(Pts(point).X, Pts(point).Y); }
   void Line(int from, int to) { DrawFX.DrawLine(Pts(from).X, Pts(from).Y, Pts(to).X, Pts(to).Y); }
   void Text(const std::string& text, double x, double y, int align);
+  /// Whether a text would stand clear of all that is drawn, by `margin` drawing units, in the present face.
+  bool IsClear(const std::string& text, double x, double y, int align, double margin);
   /// The width of a text at a cell height, with the present face.
   double WidthOf(const std::string& text, double height);
 

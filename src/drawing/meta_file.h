@@ -118,6 +118,7 @@ class CMetaFile {
   /// In drawing units, with the present font.
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
+  const TextMeter& Meter() const { return meter_; }
 
   // --- What the drawing objects record; nothing happens while no recording is open
   // ----------------------------------

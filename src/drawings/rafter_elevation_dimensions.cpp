@@ -1,0 +1,171 @@
+// The dimensions along the top edge, at the tail and below the wood, and how they are stacked.
+//
+// No text is struck by a line: where a measure is too short for its text, the text moves to where nothing
+// runs.
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "drawings/rafter_elevation_drafter.h"
+#include "drawings/rafter_elevation_measures.h"
+
+namespace pitchcraft {
+
+using namespace elevation;
+
+namespace {
+
+constexpr double kNoLimit = std::numeric_limits<double>::infinity();
+
+}  // namespace
+
+Dimension RafterElevationDrafter::Plain(int kind, int p1, int p2, double leg) const {
+  Dimension dimension;
+  dimension.Kind = kind;
+  dimension.P1 = p1;
+  dimension.P2 = p2;
+  dimension.Gap = board_.DimGap;
+  dimension.Arrow = board_.DimArrow;
+  dimension.Leg = leg;
+  dimension.TextHeight = board_.DimTextHeight;
+  return dimension;
+}
+
+double RafterElevationDrafter::WidthOfLength(int kind, int p1, int p2) {
+  return board_.WidthOf(board_.DimensionText(kind, p1, p2), board_.DimTextHeight);
+}
+
+// --- Along the top edge
+// ---------------------------------------------------------------------------------------------
+
+/// A text that is too long for its line moves down the rafter, clear of the extension lines that the outer
+/// dimensions have at the upper end, and over its own lower one.
+void RafterElevationDrafter::Along(int p1, int p2, double tier) {
+  const double dx = X(p2) - X(p1);
+  const double dy = Y(p2) - Y(p1);
+  const double length = std::hypot(dx, dy);
+  if (length == 0) return;
+  Dimension dimension = Plain(kAligned, p1, p2, tier * board_.DimLeg);
+  const double excess = WidthOfLength(kAligned, p1, p2) + Twips(2 * kClear) - length;
+  if (excess > 0) {
+    const double along = (length - excess) / 2;
+    const double out = dimension.Gap + dimension.Leg + Twips(2 * kGap);
+    const double cosine = dx / length;
+    const double sine = dy / length;
+    dimension.TextAt = PointRecord{X(p1) + cosine * along - sine * out, Y(p1) + sine * along + cosine * out};
+  }
+  board_.Dimension2(dimension);
+}
+
+void RafterElevationDrafter::DimensionAlongRafter() {
+  double tier = kFirstTier;
+  if (geometry_.Kneewall) {
+    Along(27, 0, tier);
+    tier = kSecondTier;
+  }
+  if (member_.Overhang > 0) {
+    Along(1, 0, tier);
+    tier = geometry_.Kneewall ? kThirdTier : kSecondTier;
+  }
+  Along(2, 0, tier);
+  board_.Pts(14).Y = board_.Pts(12).Y;
+}
+
+// --- Tail
+// -----------------------------------------------------------------------------------------------------------
+
+/// The height of a plumb tail cut, left of it. The text stands between the two arrows or below them.
+void RafterElevationDrafter::DimensionTail() {
+  if (!(member_.Overhang > 0) || geometry_.SquareCut || Y(3) == Y(2)) return;
+  Dimension dimension = Plain(kVertical, 3, 2, TailLeg());
+  dimension.ArrowsOutside = 1;
+  dimension.TextMode = 3;
+  board_.Dimension2(dimension);
+  board_.Pts(13).X = board_.Pts(11).X;
+}
+
+/// Far enough out that the text, which is centred on the line, ends clear of the arrows of the overhang
+/// below.
+double RafterElevationDrafter::TailLeg() {
+  const double half = WidthOfLength(kVertical, 3, 2) / 2;
+  return std::max(kTailTier * board_.DimLeg, half + Twips(kOutsideArrow + kClear - kGap));
+}
+
+/// On the later pages the height of the ridge above the tail, in line with the height of the tail cut.
+void RafterElevationDrafter::DimensionWholeRise() {
+  if (!member_.IsCommon() || context_.CurrentTab <= 0) return;
+  board_.Pts(14) = {board_.Pts(2).X, board_.Pts(0).Y};
+  const double length = Y(14) - Y(2);
+  if (!(length > 0)) return;
+  const bool besideTail = member_.Overhang > 0 && !geometry_.SquareCut;
+  Dimension dimension = Plain(kVertical, 2, 14, besideTail ? TailLeg() : kTailTier * board_.DimLeg);
+  dimension.TextFlag = 1;
+  const double width = WidthOfLength(kVertical, 2, 14);
+  if (width + Twips(2 * kClear) > length) {
+    const double base = X(2) - dimension.Gap - dimension.Leg - Twips(2 * kGap);
+    dimension.TextAt = PointRecord{base, Y(2) + Twips(kClear) + width / 2};
+  }
+  board_.Dimension2(dimension);
+}
+
+// --- Runs below
+// -----------------------------------------------------------------------------------------------------
+
+/// The lines below all hang from the lowest corner at tail and wall, so that those of one tier meet end to
+/// end.
+double RafterElevationDrafter::LevelBelow(double tier) const {
+  return std::min(Y(3), Y(geometry_.WallFoot)) - board_.DimGap - tier * board_.DimLeg;
+}
+
+/// The text is turned upright: the line runs from right to left.
+Dimension RafterElevationDrafter::BelowWood(int right, int left, double tier) const {
+  const double lower = std::min(Y(right), Y(left));
+  Dimension dimension = Plain(kHorizontal, right, left, lower - board_.DimGap - LevelBelow(tier));
+  dimension.TextMode = 1;
+  return dimension;
+}
+
+void RafterElevationDrafter::Below(int right, int left, double tier, double leftLimit, double rightLimit) {
+  if (!(X(right) > X(left))) return;
+  Dimension dimension = BelowWood(right, left, tier);
+  dimension.TextFlag = 1;
+  const double half = WidthOfLength(kHorizontal, right, left) / 2;
+  const double middle = (X(right) + X(left)) / 2;
+  const double centre = std::min(std::max(middle, leftLimit + half), rightLimit - half);
+  if (centre != middle) dimension.TextAt = PointRecord{centre, LevelBelow(tier) - Twips(kTextUnderLine)};
+  board_.Dimension2(dimension);
+}
+
+bool RafterElevationDrafter::RunNeedsOwnTier() {
+  if (geometry_.Kneewall) return true;
+  if (!(member_.Overhang > 0)) return false;
+  const int foot = geometry_.WallFoot;
+  const double overhangEnd = (X(TailEnd()) + X(foot) + WidthOfLength(kHorizontal, foot, TailEnd())) / 2;
+  const double runBegin = (X(foot) + X(8) - WidthOfLength(kHorizontal, 8, foot)) / 2;
+  return overhangEnd + Twips(2 * kClear) > runBegin;
+}
+
+/// Over the line where it fits between the extension lines of a plumb tail, else under it.
+void RafterElevationDrafter::DimensionOverhang() {
+  if (!(member_.Overhang > 0)) return;
+  const int foot = geometry_.WallFoot;
+  const double length = X(foot) - X(TailEnd());
+  const double width = WidthOfLength(kHorizontal, foot, TailEnd());
+  if (!geometry_.SquareCut && length > std::max(width + Twips(2 * kClear), Twips(kRoomForArrows))) {
+    board_.Dimension2(BelowWood(foot, TailEnd(), kFirstTierBelow));
+    return;
+  }
+  const double rightLimit = RunNeedsOwnTier() ? X(foot) - Twips(kClear) : kNoLimit;
+  Below(foot, TailEnd(), kFirstTierBelow, -kNoLimit, rightLimit);
+}
+
+void RafterElevationDrafter::DimensionRuns() {
+  const int foot = geometry_.WallFoot;
+  if (geometry_.Kneewall) {
+    Below(30, foot, kFirstTierBelow, X(foot) + Twips(kClear), X(8) - Twips(kClear));
+  }
+  Below(8, foot, RunNeedsOwnTier() ? kSecondTierBelow : kFirstTierBelow, -kNoLimit, kNoLimit);
+  board_.Pts(13).Y = board_.Pts(11).Y;
+}
+
+}  // namespace pitchcraft

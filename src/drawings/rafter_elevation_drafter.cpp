@@ -1,0 +1,135 @@
+// Outline, angle labels and title of the side view, and the order of all its steps.
+#include "drawings/rafter_elevation_drafter.h"
+
+#include <array>
+#include <charconv>
+
+#include "core/run_time_error.h"
+#include "drawing/text_align.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kDashed = 2;
+constexpr double kTitleTwips = 360;  // 18 points
+constexpr const char* kDegreeSign = "\u00BA";
+
+/// One decimal, and the degree sign of the lettering.
+std::string AngleText(double degrees) {
+  std::array<char, 64> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), degrees, std::chars_format::fixed, 1);
+  return std::string(digits.data(), end.ptr) + kDegreeSign;
+}
+
+}  // namespace
+
+RafterElevationDrafter::RafterElevationDrafter(DraftingBoard& board, const CRafter& rafter,
+                                               const DrawingContext& context)
+    : board_(board),
+      context_(context),
+      type_(rafter.RafterType),
+      member_(ChooseElevationMember(rafter, context)) {}
+
+void RafterElevationDrafter::Draw() {
+  board_.BeginDrawing(context_.BackColor, context_.LineColor);
+  geometry_ = LayOutElevation(member_, context_.SquareCut, board_.DrawScale, board_.Pts);
+  DrawOutline();
+  WidenByMargin();
+  ratio_ = board_.SetMetrics();
+  ChooseLettering();
+  DimensionAlongRafter();
+  DimensionTail();
+  DimensionOverhang();
+  DimensionHeel();
+  DimensionHeights();
+  DimensionRuns();
+  DimensionWholeRise();
+  LabelAngles();
+  WriteTitle();
+  DrawEndView();
+  board_.EndDrawing();
+}
+
+void RafterElevationDrafter::DrawOutline() {
+  board_.Line(0, 1);
+  DrawTail();
+  DrawHeelLines();
+  for (std::size_t at = 0; at < geometry_.StrokeCount; ++at) {
+    const auto [from, to] = geometry_.Strokes[at];
+    if (X(from) != X(to) || Y(from) != Y(to)) board_.Line(from, to);
+  }
+}
+
+/// The tail of a hip's square cut is measured from the corner that the roof planes meet in: it counts towards
+/// the extents, unseen, and the wood ends a little short of it.
+void RafterElevationDrafter::DrawTail() {
+  if (member_.Overhang == 0) return;
+  const PointRecord& first = geometry_.FirstTail;
+  if (first.X != X(2) || first.Y != Y(2)) {
+    board_.DrawFX.SetPenColor(context_.BackColor);
+    board_.DrawFX.DrawLine(X(1), Y(1), first.X, first.Y);
+    board_.DrawFX.SetPenColor(context_.LineColor);
+  }
+  board_.Line(1, 2);
+}
+
+void RafterElevationDrafter::DrawHeelLines() {
+  if (member_.Heel == 0) return;
+  board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.Line(1, 5);
+  if (geometry_.Kneewall) board_.Line(27, 28);
+  board_.DrawFX.SetPenColor(context_.LineColor);
+  board_.DrawFX.SetDrawStyle(0);
+}
+
+void RafterElevationDrafter::WidenByMargin() {
+  const double margin = member_.PlumbCut * board_.DrawScale;
+  const CMetaFile& canvas = board_.MetaCanvas;
+  const double left = canvas.MinX() - margin;
+  const double bottom = canvas.MinY() - margin;
+  const double right = canvas.MaxX() + margin;
+  const double top = canvas.MaxY() + margin;
+  board_.DrawFX.MoveToPoint(left, bottom);
+  board_.DrawFX.MoveToPoint(right, top);
+}
+
+void RafterElevationDrafter::ChooseLettering() {
+  board_.TextFX.TextColor = context_.TextColor;
+  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.TextFX.SetTextAlign(kAlignLeftBase);
+  board_.DrawFX.SetPenColor(context_.DimColor);
+}
+
+/// The plumb angle stands on the extension line that starts at the ridge; the angle of a square tail hangs
+/// beside the tail's end.
+void RafterElevationDrafter::LabelAngles() {
+  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
+  if (!geometry_.SquareCut || member_.IsCommon()) return;
+  board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
+}
+
+/// In the left upper corner; above everything where a line or a text stands there.
+void RafterElevationDrafter::WriteTitle() {
+  const double height = Twips(kTitleTwips);
+  const CMetaFile& canvas = board_.MetaCanvas;
+  board_.Pts(14).X =
+      X(0) + 2 * board_.DimTextHeight + static_cast<double>(member_.SlopeText.size()) * board_.DimTextHeight;
+  board_.TextFX.FontBold = true;
+  board_.TextFX.FontHeight = ToLong(height);
+  const double left = canvas.MinX();
+  double top = canvas.MaxY();
+  if (!board_.IsClear(member_.SlopeText, left, top, kAlignLeftTop, board_.DimGap)) top += height;
+  board_.Text(member_.SlopeText, left, top, kAlignLeftTop);
+  board_.TextFX.FontBold = false;
+  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Pts(9) = board_.Pts(10);
+}
+
+double RafterElevationDrafter::AngleLabelEnd() {
+  return X(0) + board_.DimGap + board_.WidthOf(AngleText(geometry_.PlumbAngle), board_.DimTextHeight);
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,77 @@
+// The steps of one rafter's side view, in the order in which they are recorded.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "drawing/drafting_board.h"
+#include "drawings/drawing_context.h"
+#include "drawings/elevation_member.h"
+#include "drawings/rafter_elevation_geometry.h"
+
+namespace pitchcraft {
+
+class RafterElevationDrafter {
+ public:
+  RafterElevationDrafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+  void Draw();
+
+ private:
+  // Outline.
+  void DrawOutline();
+  void DrawTail();
+  void DrawHeelLines();
+  void WidenByMargin();
+  void ChooseLettering();
+
+  // Dimensions, in the order of their recording.
+  void DimensionAlongRafter();
+  void DimensionTail();
+  void DimensionOverhang();
+  void DimensionHeel();
+  void DimensionHeights();
+  void DimensionRuns();
+  void DimensionWholeRise();
+
+  /// A dimension with the measures of this drawing.
+  Dimension Plain(int kind, int p1, int p2, double leg) const;
+  /// `p1` up to `p2` along the top edge.
+  void Along(int p1, int p2, double tier);
+  double TailLeg();
+  /// Below the wood, with the text under the line; its centre stands between two limits.
+  void Below(int right, int left, double tier, double leftLimit, double rightLimit);
+  Dimension BelowWood(int right, int left, double tier) const;
+  double LevelBelow(double tier) const;
+  /// True where the overhang's text and the run's would meet on one line.
+  bool RunNeedsOwnTier();
+  int TailEnd() const { return geometry_.SquareCut ? 2 : 3; }
+  std::optional<double> HeelColumnInside(double start, double textWidth) const;
+  void WholeHeight();
+  void KneewallHeights();
+  /// A height at the right: `column` is the x of its dimension line.
+  Dimension RightOfRidge(int upper, int lower, double column) const;
+  bool ArrowsStandOutside(int upper, int lower) const;
+  bool TextStandsAside(int upper, int lower);
+
+  double WidthOfLength(int kind, int p1, int p2);
+  double Twips(double twips) const { return twips * board_.PointFactor; }
+
+  // Lettering.
+  void LabelAngles();
+  double AngleLabelEnd();
+  void WriteTitle();
+  void DrawEndView();
+
+  double X(int point) const { return board_.Pts(point).X; }
+  double Y(int point) const { return board_.Pts(point).Y; }
+
+  DraftingBoard& board_;
+  const DrawingContext& context_;
+  RafterType type_;
+  ElevationMember member_;
+  ElevationGeometry geometry_;
+  Single ratio_;
+  double heelColumnEnd_ = 0;  // right end of a heel dimension that stands right of the ridge; else 0
+};
+
+}  // namespace pitchcraft
