@@ -75,7 +75,9 @@ std::string CRafter::CutText(const std::string& text, double slope) {
 std::string CRafter::PitchText(double slope) const { return PerSlopeBase(SignedText(WholeInMetric(slope))); }
 
 std::string CRafter::HipPitchText() const {
-  return " " + PerSlopeBase(CutText(PlainText(WholeInMetric(HipValSlope)), HipValSlope));
+  std::string text = " ";
+  text += PerSlopeBase(CutText(PlainText(WholeInMetric(HipValSlope)), HipValSlope));
+  return text;
 }
 
 }  // namespace pitchcraft

@@ -263,6 +263,15 @@ const CalculationRow kFascias[] = {
      },
      kCalculate,
      {{"HipValPlumbCut", 5.83363089}, {"AdjFasciaHeight", 7.84058137}}},
+    {"AsTallAsAShallowHipStays",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kHip;
+       r.HipValDepth = 5.5;
+       r.Calculate();
+       r.FasciaHeight = r.HipValPlumbCut;
+     },
+     kCalculate,
+     {{"AdjFasciaHeight", 5.56846584}}},
     {"TallerThanAShallowValley",
      [](CRafter& r) {
        r.RafterType = RafterType::kValley;
