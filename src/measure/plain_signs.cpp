@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace pitchcraft {
 namespace {
@@ -26,6 +27,22 @@ constexpr std::array kSigns = {
     Sign{"\t", " "},        Sign{"\r", " "},        Sign{"\n", " "},
 };
 
+constexpr std::size_t At(char c) { return static_cast<unsigned char>(c); }
+
+// Most bytes begin no sign of the table, and need no look at it.
+constexpr auto kBeginsASign = [] {
+  std::array<bool, 256> begins{};
+  for (const Sign& sign : kSigns) begins[At(sign.written.front())] = true;
+  return begins;
+}();
+
+const Sign* SignAtTheFront(std::string_view text) {
+  if (!kBeginsASign[At(text.front())]) return nullptr;
+  const auto sign =
+      std::find_if(kSigns.begin(), kSigns.end(), [&](const Sign& s) { return text.starts_with(s.written); });
+  return sign == kSigns.end() ? nullptr : &*sign;
+}
+
 char SmallLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 }  // namespace
@@ -34,16 +51,15 @@ std::string WithPlainSigns(std::string_view text) {
   std::string plain;
   plain.reserve(text.size());
   while (!text.empty()) {
-    const auto sign = std::find_if(kSigns.begin(), kSigns.end(),
-                                   [&](const Sign& s) { return text.starts_with(s.written); });
+    const Sign* sign = SignAtTheFront(text);
     const char letter = SmallLetter(text.front());
-    const std::string_view next = sign == kSigns.end() ? std::string_view(&letter, 1) : sign->plain;
+    const std::string_view next = sign == nullptr ? std::string_view(&letter, 1) : sign->plain;
     if (next == "'" && plain.ends_with('\'')) {
       plain.back() = '"';
     } else {
       plain += next;
     }
-    text.remove_prefix(sign == kSigns.end() ? 1 : sign->written.size());
+    text.remove_prefix(sign == nullptr ? 1 : sign->written.size());
   }
   return plain;
 }
