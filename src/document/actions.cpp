@@ -122,8 +122,6 @@ Refusal Actions::Reach(std::string_view name, const AnyControl*& control) const 
   const Control& common = ControlOf(*control);
   if (!common.Visible) return Refuse(name, "is hidden");
   if (!common.Enabled) return Refuse(name, "is disabled");
-  const bool rear = common.Host == Host::kRearPage;
-  if (rear && document_.sheet.VSTab[1].OnePageOnly) return Refuse(name, "stands on a page that is not there");
   if (common.Host == Host::kBayStrip && !document_.sheet.Toolbar1.Visible) return Refuse(name, "is hidden");
   return std::nullopt;
 }

@@ -192,6 +192,7 @@ class frmDocument {
   void mnuHipLayoutCornersFlush_Click(int = 0);
   void mnuHipLayoutJackMeasurement_Click(int = 0);
   void mnuHipLayoutOverhangsEqual_Click(int = 0);
+  void mnuSpinCancel_Click(int = 0) {}  ///< the popup closes by itself
   void mnuGambrelRegular_Click(int = 0);
   void mnuGambrelCustom_Click(int = 0);
   void mnuGambrelPurlins_Click(int = 0);

@@ -53,6 +53,7 @@ constexpr MenuHandlerRow kMenuHandlers[] = {
     {&Menus::mnuPopup2GambrelWallSupport, &D::mnuGambrelWallSupport_Click},
     {&Menus::mnuGambrelWallSupportRaised, &D::mnuGambrelWallSupportRaised_Click},
     {&Menus::mnuPopup2GambrelWallSupportRaised, &D::mnuGambrelWallSupportRaised_Click},
+    {&Menus::mnuSpinCancel, &D::mnuSpinCancel_Click},
 };
 
 }  // namespace

@@ -74,8 +74,6 @@ void frmDocument::ResetRows() {
   LayOutRows(sheet, RoofType, menus.mnuGambrelPurlins.Checked);
   ShowSlopeRow(0);
   if (RoofType == roof::kDualSlope) ShowSlopeRow(1);
-  sheet.LWSlope[2].Visible = false;
-  sheet.cboDegrees[2].Visible = false;
   if (HasSecondSlope(RoofType)) ShowSlopeRow(2);
 }
 

@@ -126,6 +126,7 @@ bool HasHipOrValleyLumber(int roofType) {
 }
 
 void PutFields(Sheet& sheet, const RowLayout& rows, int roofType) {
+  sheet.LWSlope[2].Visible = sheet.cboDegrees[2].Visible = false;
   sheet.LWSlope[2].Top = sheet.cboDegrees[2].Top = rows.slope2 == kHidden ? 860 : rows.slope2;
   Put(sheet.FtSpan[0], rows.span0);
   Put(sheet.FtSpan[2], rows.span2);
@@ -183,6 +184,14 @@ void PutKneewallRows(Sheet& sheet, int roofType) {
   sheet.Label[0].Top = 3570;
 }
 
+// The rear page belongs to a dual slope alone.
+void PutRearPage(Sheet& sheet, int roofType) {
+  for (const AnyControl& any : sheet.Controls()) {
+    Control& control = ControlOf(any);
+    if (control.Host == Host::kRearPage) control.Visible = roofType == roof::kDualSlope;
+  }
+}
+
 void SetUsualCaptions(Sheet& sheet) {
   constexpr std::pair<std::size_t, const char*> kUsual[] = {
       {10, "Slope:"}, {11, "Run:"},   {12, "Overhang:"}, {13, "Heel:"},
@@ -200,6 +209,7 @@ void LayOutRows(Sheet& sheet, int roofType, bool gambrelHasPurlins) {
   PutFields(sheet, rows, roofType);
   PutLabels(sheet, rows, roofType);
   PutKneewallRows(sheet, roofType);
+  PutRearPage(sheet, roofType);
   if (roofType == roof::kGambrel) PutGambrelLabels(sheet, gambrelHasPurlins);
   for (const RowCaption& row : kCaptions) {
     if (row.roofType == roofType) sheet.Label[row.label].Caption = row.caption;

@@ -194,6 +194,8 @@ void Sheet::PlaceControls() {
   Label[23].Top = kLastCommonTop + kLabelDrop;
   Place(VSElastic[1], Host::kNone, 420, 0, 0);
   Place(VSElastic[2], Host::kNone, 0, 0, 0);
+  for (ContainerControl* box : {&Toolbar1, &VSElastic[1], &VSElastic[2]}) box->Height = 0;
+  Toolbar1.Visible = false;
 }
 
 void Sheet::FillConstants() {
@@ -224,6 +226,8 @@ void Sheet::FillConstants() {
   chkLastCommon.ToolTip =
       "Check here to layout the main roof jack rafters from the center of the last common rafter.";
   for (SpinControl& spin : Spin) spin.ToolTip = "Right click on the field to change the increment";
+  for (LabelControl* box : {&txtUpperFascia, &txtSpacing, &txtLedger}) box->Visible = false;
+  for (ComboControl* box : {&FTUpperFascia, &cboSpacing, &cboLedger}) box->Visible = false;
   // A slope is a plain number in both boxes, never a length; so is an angle.
   for (LWCombo& slope : LWSlope) slope.Format.Units = kPlainNumber;
   FtBayAngle.Format.Units = kPlainNumber;

@@ -30,6 +30,11 @@ class MemoryStore : public KeyedStore {
            const std::string& text) override {
     values_[{application, section, key}] = text;
   }
+  /// Runs action(application, section, key, text) for all that is stored, in order.
+  template <typename Action>
+  void ForEach(Action action) const {
+    for (const auto& [address, text] : values_) std::apply(action, std::tuple_cat(address, std::tie(text)));
+  }
 
  private:
   std::map<std::tuple<std::string, std::string, std::string>, std::string> values_;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <string_view>
 #include <variant>
 
 #include "core/number_text.h"
@@ -67,7 +68,7 @@ const SettingRow kRows[] = {
 };
 
 const char* ApplicationOf(const SettingRow& row) {
-  return row.section == kOptionsSection ? kOptionsApplication : kApplication;
+  return std::string_view(row.section) == kOptionsSection ? kOptionsApplication : kApplication;
 }
 
 template <typename Integer>
