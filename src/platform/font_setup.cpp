@@ -1,0 +1,65 @@
+#include "platform/font_setup.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <clocale>
+
+namespace pitchcraft {
+namespace {
+
+const QString& FamilyName() {
+  static const QString name = QStringLiteral("Liberation Sans");
+  return name;
+}
+
+bool IsThere() { return QFontInfo(QFont(FamilyName())).family() == FamilyName(); }
+
+void IgnoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+}  // namespace
+
+QFont DrawingFont() {
+  constexpr int kPixels = 100;
+  QFont font(FamilyName());
+  font.setPixelSize(kPixels);
+  font.setKerning(false);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setStyleHint(QFont::SansSerif);
+  return font;
+}
+
+bool EnsureDrawingFont() {
+  if (IsThere()) return true;
+  const QStringList folders{QCoreApplication::applicationDirPath() + "/fonts",
+                            "/usr/share/fonts/truetype/liberation", "/usr/share/fonts/liberation-sans",
+                            "/usr/share/fonts/liberation"};
+  for (const QString& folder : folders) {
+    const QDir dir(folder);
+    for (const QString& file : dir.entryList({"LiberationSans-*.ttf"}, QDir::Files)) {
+      QFontDatabase::addApplicationFont(dir.filePath(file));
+    }
+  }
+  return IsThere();
+}
+
+void EnsureGui() {
+  if (QCoreApplication::instance() != nullptr) return;
+  static int argumentCount = 1;
+  static char name[] = "pitchcraft";
+  static char* arguments[] = {name, nullptr};
+  // The pictures are painted in memory: a display, even one that is there, is none of their business, and so
+  // are the toolkit's remarks about the desktop.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QtMessageHandler handler = qInstallMessageHandler(IgnoreMessage);
+  // Lives until the process ends: fonts and images must not outlive their application.
+  [[maybe_unused]] static const auto* const application = new QGuiApplication(argumentCount, arguments);
+  qInstallMessageHandler(handler);
+  // The toolkit takes over the user's locale; numbers in files keep their decimal point.
+  std::setlocale(LC_NUMERIC, "C");
+  EnsureDrawingFont();
+}
+
+}  // namespace pitchcraft

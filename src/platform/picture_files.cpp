@@ -1,0 +1,103 @@
+#include "platform/picture_files.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSaveFile>
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include "document/frm_document.h"
+#include "platform/colors.h"
+#include "platform/font_setup.h"
+#include "platform/painter_canvas.h"
+#include "platform/svg_canvas.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kPngWidth = 1600;
+constexpr int kTallestPng = 16000;
+
+using Outcome = std::optional<std::string>;
+
+std::string TextOf(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+QByteArray PngOf(const Picture& picture) {
+  EnsureGui();
+  const double width = std::fabs(picture.Size.ScaleWidth);
+  const double height = std::fabs(picture.Size.ScaleHeight);
+  const double pixelsPerTwip = kPngWidth / width;
+  const int rows =
+      std::clamp(static_cast<int>(std::lround(std::min(height * pixelsPerTwip, 1e6))), 1, kTallestPng);
+  QImage image(kPngWidth, rows, QImage::Format_RGB32);
+  const Rgb ground = RgbOf(static_cast<std::uint32_t>(picture.Background));
+  image.fill(QColor(ground.Red, ground.Green, ground.Blue));
+  {
+    QPainter painter(&image);
+    PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), pixelsPerTwip);
+    picture.Drawing.MetaPlay(canvas);
+  }
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  return bytes;
+}
+
+QByteArray SvgOf(const Picture& picture) {
+  SvgCanvas canvas(picture.Size, picture.Drawing.Meter());
+  picture.Drawing.MetaPlay(canvas);
+  return QByteArray::fromStdString(canvas.Document(picture.Background, picture.Title));
+}
+
+struct FormatRow {
+  const char* extension;
+  QByteArray (*contents)(const Picture&);
+};
+constexpr FormatRow kFormats[] = {
+    {".png", &PngOf},
+    {".svg", &SvgOf},
+};
+
+const FormatRow* FormatOf(const std::filesystem::path& file) {
+  std::string extension = file.extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
+  for (const FormatRow& row : kFormats) {
+    if (extension == row.extension) return &row;
+  }
+  return nullptr;
+}
+
+Outcome Save(const QByteArray& bytes, const std::filesystem::path& file) {
+  QSaveFile target(QString::fromStdString(TextOf(file)));
+  const bool done =
+      target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() && target.commit();
+  if (done) return std::nullopt;
+  return "The picture cannot be written to " + TextOf(file) + ": " + target.errorString().toStdString() + ".";
+}
+
+}  // namespace
+
+Picture ShownPicture(const frmDocument& document) {
+  const PictureBox& box = document.CurrentTab == 0 ? document.Picture1 : document.Picture3;
+  return {document.board.MetaCanvas, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
+}
+
+std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file) {
+  const FormatRow* format = FormatOf(file);
+  if (format == nullptr) {
+    return "The format of " + TextOf(file) + " is not known: a picture is a .png or an .svg file.";
+  }
+  if (!picture.Drawing.IsClosed()) return "There is no drawing to write.";
+  if (picture.Size.ScaleWidth == 0 || picture.Size.ScaleHeight == 0) return "The picture has no size.";
+  return Save(format->contents(picture), file);
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,30 @@
+// Writes a drawing to a picture file.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "drawing/meta_file.h"
+
+namespace pitchcraft {
+
+class frmDocument;
+
+/// A finished drawing and the area that it is shown on.
+struct Picture {
+  const CMetaFile& Drawing;
+  CanvasSize Size;  ///< of the area, in twips
+  DrawColor Background = 0;
+  std::string Title;
+};
+
+/// The drawing that the document shows, on the colour of its views.
+Picture ShownPicture(const frmDocument& document);
+
+/// Writes the picture to a file whose ending tells the format: .png is 1600 pixels wide with the proportions
+/// of the area, .svg scalable. The file is replaced whole or not touched at all. Nothing on success; else
+/// what went wrong, as a sentence for the person.
+std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file);
+
+}  // namespace pitchcraft

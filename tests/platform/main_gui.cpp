@@ -1,0 +1,10 @@
+// The tests of this room paint, so the toolkit starts before them.
+#include <gtest/gtest.h>
+
+#include "platform/font_setup.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  pitchcraft::EnsureGui();
+  return RUN_ALL_TESTS();
+}
