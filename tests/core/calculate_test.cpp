@@ -351,6 +351,22 @@ const CalculationRow kRest[] = {
       {"HipValSlope", 707.10681860},
       {"HipDegrees", 35.26},
       {"HipDrop", 0.53033012}}},
+    {"ClearsWhatAValleyLeft",
+     [](CRafter& r) {
+       r.RafterType = RafterType::kValley;
+       r.Calculate();
+       r.RafterType = RafterType::kHip;
+     },
+     kCalculate,
+     {{"ValRidgeAllowance", 0.0}, {"AdjValSpan", 203.646744}}},
+    {"ClearsWhatABayLeft",
+     [](CRafter& r) {
+       r.BayAngle = r.Back = r.Face = r.Projection = r.HipRunFactor = r.LedgerRunFactor = 12;
+       r.CalculateBay();
+       ASSERT_EQ(r.LedgerSpan, 12);
+     },
+     kCalculate,
+     {{"LedgerSpan", 0.0}}},
     {"ClearsWhatABastardHipLeft",
      [](CRafter& r) {
        r.HipEndOverhangExcess = 1;

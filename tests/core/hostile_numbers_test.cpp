@@ -1,0 +1,84 @@
+// What no carpenter types and a script may: every calculation ends, raises its event, and recovers with the
+// next sensible numbers.
+#include <limits>
+
+#include "random_roof.h"
+
+namespace pitchcraft {
+namespace {
+
+using Procedure = void (CRafter::*)();
+
+constexpr Procedure kProcedures[] = {
+    &CRafter::Calculate,        &CRafter::CalculateBastardHip, &CRafter::CalculateAdjustedBastardHip,
+    &CRafter::CalculateGambrel, &CRafter::CalculateBay,        &CRafter::CalculateOctagon};
+
+constexpr Single CRafter::*kInputs[] = {&CRafter::Slope,       &CRafter::Span,
+                                        &CRafter::Overhang,    &CRafter::Thickness,
+                                        &CRafter::Depth,       &CRafter::FasciaHeight,
+                                        &CRafter::Kneewall,    &CRafter::RidgeThickness,
+                                        &CRafter::RidgeDepth,  &CRafter::HipValThickness,
+                                        &CRafter::HipValDepth, &CRafter::spacing,
+                                        &CRafter::HipEndSlope, &CRafter::HipValSlope,
+                                        &CRafter::HipValSpan,  &CRafter::Heel,
+                                        &CRafter::Seat,        &CRafter::Back,
+                                        &CRafter::Face,        &CRafter::Projection,
+                                        &CRafter::BayAngle,    &CRafter::LedgerRunFactor,
+                                        &CRafter::HipRunFactor};
+
+double HostileNumber() {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  return *rc::gen::element(0.0, -0.0, 1.0, -7.25, 90.0, 1e-30, 1e30, -1e30, 3.4e38, 1e-45, kInfinity,
+                           -kInfinity, std::numeric_limits<double>::quiet_NaN());
+}
+
+void FillHostile(CRafter& rafter) {
+  rafter.SetUnits(*rc::gen::inRange(0, 2));
+  for (const auto input : kInputs) rafter.*input = HostileNumber();
+  rafter.RafterType = static_cast<RafterType>(*rc::gen::inRange(-1, 22));
+  rafter.HeelLocked = Flag::FromInteger(*rc::gen::element<std::int16_t>(-1, 0, 1));
+  rafter.SeatLocked = Flag::FromInteger(*rc::gen::element<std::int16_t>(-1, 0, 1));
+  rafter.Purlins = *rc::gen::arbitrary<bool>();
+  rafter.OverhangsEqual = *rc::gen::arbitrary<bool>();
+}
+
+RC_GTEST_PROP(HostileNumbers, EveryCalculationEndsWithItsEvent, ()) {
+  CRafter rafter;
+  FillHostile(rafter);
+  const Procedure procedure =
+      *rc::gen::elementOf(std::vector<Procedure>(std::begin(kProcedures), std::end(kProcedures)));
+  const bool leftAlone = procedure == &CRafter::CalculateBay &&
+                         rafter.Projection * rafter.Face * rafter.Back * rafter.BayAngle == 0;
+  int events = 0;
+  rafter.Calculated = [&events] { ++events; };
+  (rafter.*procedure)();
+  RC_ASSERT(events == (leftAlone ? 0 : 1));
+}
+
+// Nothing of a hopeless roof sticks: with sensible inputs again, the same record gives what a fresh one
+// gives.
+RC_GTEST_PROP(HostileNumbers, TheNextSensibleRoofIsPlainAgain, ()) {
+  CRafter worn;
+  FillHostile(worn);
+  worn.Calculate();
+  CRafter fresh;
+  for (CRafter* rafter : {&worn, &fresh}) {
+    rafter->SetUnits(0);
+    for (const auto input : kInputs) rafter->*input = 8;
+    rafter->Span = 144;
+    rafter->HeelLocked = false;
+    rafter->SeatLocked = false;
+    rafter->RafterType = RafterType::kHip;
+    rafter->Calculate();
+  }
+  RC_ASSERT(worn.Length1 == fresh.Length1);
+  RC_ASSERT(worn.Length2 == fresh.Length2);
+  RC_ASSERT(worn.Heel == fresh.Heel);
+  RC_ASSERT(worn.Seat == fresh.Seat);
+  RC_ASSERT(worn.HipValSeat == fresh.HipValSeat);
+  RC_ASSERT(worn.AdjFasciaHeight == fresh.AdjFasciaHeight);
+  RC_ASSERT(worn.CommonDifference24 == fresh.CommonDifference24);
+}
+
+}  // namespace
+}  // namespace pitchcraft
