@@ -1,43 +1,13 @@
 // Where the 32 bits come in: each formula in 64 bits from stored 32-bit members, rounded once at its store. A
 // version carried in 32 bits throughout, or one that skips a store, gives other last digits on many roofs;
 // these tests walk over roofs until they have seen that it does.
-#include <gtest/gtest.h>
-
-#include <bit>
 #include <cmath>
-#include <cstdint>
 
 #include "core/rafter.h"
+#include "store_comparison.h"
 
 namespace pitchcraft {
 namespace {
-
-std::uint32_t Bits(double stored) { return std::bit_cast<std::uint32_t>(static_cast<float>(stored)); }
-
-// What the record holds must be `expected`, rounded once; how often would the other way have differed?
-class Comparison {
- public:
-  explicit Comparison(const char* member) : member_(member) {}
-  ~Comparison() {
-    EXPECT_GT(roofs_, 1000) << member_;
-    EXPECT_GT(differing_, roofs_ / 20) << member_ << ": these roofs do not tell the two ways apart";
-  }
-  Comparison(const Comparison&) = delete;
-  Comparison& operator=(const Comparison&) = delete;
-
-  void Check(double stored, double expected, float otherWay) {
-    ++roofs_;
-    ASSERT_EQ(Bits(stored), Bits(expected)) << member_ << " of roof " << roofs_;
-    if (Bits(otherWay) != Bits(expected)) ++differing_;
-  }
-
- private:
-  const char* member_;
-  int roofs_ = 0;
-  int differing_ = 0;
-};
-
-float F(double value) { return static_cast<float>(value); }
 
 template <typename Action>
 void ForManyRoofs(RafterType type, Action action) {
