@@ -1,0 +1,52 @@
+#include "sheet/menus.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace pitchcraft {
+namespace {
+
+TEST(Menus, EveryItemHasANameOfItsOwn) {
+  const Menus menus;
+  std::set<std::string> names;
+  for (const MenuItem* item : menus.Items()) {
+    EXPECT_FALSE(item->Name.empty()) << item->Caption;
+    EXPECT_TRUE(names.insert(item->Name).second) << item->Name;
+  }
+}
+
+TEST(Menus, AreFoundByTheirNames) {
+  const Menus menus;
+  EXPECT_EQ(menus.Find("mnuMetric"), &menus.mnuMetric);
+  EXPECT_EQ(menus.Find("mnufileSaveAs"), &menus.mnufileSaveAs);
+  EXPECT_EQ(menus.Find("mnuDutchLedger(1)"), &menus.mnuDutchLedger[1]);
+  EXPECT_EQ(menus.Find("mnuNothing"), nullptr);
+}
+
+TEST(Menus, TheBarHoldsItsMenusInOrder) {
+  const Menus menus;
+  std::vector<std::string> bar;
+  for (const MenuItem* item : menus.Items()) {
+    if (item->Level == 0) bar.push_back(item->Name);
+  }
+  const std::vector<std::string> expected{"mnuFile",   "mnuSettings",  "mnuView",    "mnuTools",
+                                          "mnuDutch",  "mnuHipLayout", "mnuGambrel", "mnuHelp",
+                                          "mnuPopUp1", "mnuPopUp2",    "mnuSpin"};
+  EXPECT_EQ(bar, expected);
+}
+
+TEST(Menus, AnItemKnowsItsHolder) {
+  const Menus menus;
+  EXPECT_EQ(menus.HolderOf(menus.mnuMetric), &menus.mnuSettings);
+  EXPECT_EQ(menus.HolderOf(menus.mnuPopUp1Print), &menus.mnuPopUp1);
+  EXPECT_EQ(menus.HolderOf(menus.mnuFile), nullptr);
+  EXPECT_TRUE(menus.IsPopup(menus.mnuPopUp2));
+  EXPECT_FALSE(menus.IsPopup(menus.mnuView));
+  const auto view = menus.ItemsUnder(menus.mnuView);
+  ASSERT_EQ(view.size(), 2U);
+  EXPECT_EQ(view[1], &menus.mnuViewStatusBar);
+}
+
+}  // namespace
+}  // namespace pitchcraft
