@@ -51,7 +51,7 @@ void Canvas::UsePen(const DrawnPen& pen) {
   doPen(mapped);
 }
 
-void Canvas::Play(const Recording& recording) {
+void Canvas::Play(std::span<const DrawOp> recording) {
   penKnown_ = false;
   for (const DrawOp& operation : recording) {
     std::visit([this](const auto& figure) { Play(figure); }, operation);

@@ -72,7 +72,7 @@ class Canvas {
   void SetMap(const CanvasMap& map) { map_ = map; }
   const CanvasMap& Map() const { return map_; }
 
-  void Play(const Recording& recording);
+  void Play(std::span<const DrawOp> recording);
   void Play(const LineOp& line);
   void Play(const TextOp& text);
   void Play(const FillOp& fill);

@@ -40,7 +40,7 @@ void TakeCommon(ElevationMember& member, const CRafter& rafter, const DrawingCon
   // nothing.
   const bool carries =
       context.RoofType == kGable || context.RoofType == kShed || context.RoofType == kDualSlope;
-  if (carries && rafter.Kneewall > 0 && rafter.Kneewall < rafter.AdjSpan) {
+  if (carries && rafter.Kneewall > 0 && rafter.Kneewall < rafter.AdjSpan && rafter.KneewallRise > 0) {
     member.Kneewall = rafter.Kneewall;
     member.KneewallRise = rafter.KneewallRise;
   }

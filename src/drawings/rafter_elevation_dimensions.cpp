@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "drawing/extents_canvas.h"
+#include "drawing/text_align.h"
 #include "drawings/rafter_elevation_drafter.h"
 #include "drawings/rafter_elevation_measures.h"
 
@@ -58,6 +60,7 @@ void RafterElevationDrafter::Along(int p1, int p2, double tier) {
 }
 
 void RafterElevationDrafter::DimensionAlongRafter() {
+  const std::size_t first = board_.MetaCanvas.Operations().size();
   double tier = kFirstTier;
   if (geometry_.Kneewall) {
     Along(27, 0, tier);
@@ -69,6 +72,10 @@ void RafterElevationDrafter::DimensionAlongRafter() {
   }
   Along(2, 0, tier);
   board_.Pts(14).Y = board_.Pts(12).Y;
+
+  ExtentsCanvas reach({}, board_.MetaCanvas.Meter());
+  reach.Play(std::span(board_.MetaCanvas.Operations()).subspan(first));
+  if (!reach.Empty()) ChooseTailColumn(reach.Left());
 }
 
 // --- Tail
@@ -77,34 +84,64 @@ void RafterElevationDrafter::DimensionAlongRafter() {
 /// The height of a plumb tail cut, left of it. The text stands between the two arrows or below them.
 void RafterElevationDrafter::DimensionTail() {
   if (!(member_.Overhang > 0) || geometry_.SquareCut || Y(3) == Y(2)) return;
-  Dimension dimension = Plain(kVertical, 3, 2, TailLeg());
+  Dimension dimension = Plain(kVertical, 3, 2, tailGap_ + tailLeg_ - board_.DimGap);
   dimension.ArrowsOutside = 1;
   dimension.TextMode = 3;
+  const bool arrowAbove = WholeRiseIsShown() && Y(0) - Y(2) <= Twips(kRoomForArrows);
+  if (arrowAbove) {  // it comes down where the text would stand
+    const double column = X(2) - dimension.Gap - dimension.Leg;
+    const double half = WidthOfLength(kVertical, 3, 2) / 2;
+    const bool fits = Y(2) - Y(3) >= Twips(kCapital + 2 * kClear);
+    const double base = fits ? (Y(2) + Y(3) - Twips(kCapital)) / 2 : Y(3) - Twips(kClear + kCapital);
+    dimension.TextAt = PointRecord{column - Twips(kArrow + kClear) - half, base};
+  }
   board_.Dimension2(dimension);
   board_.Pts(13).X = board_.Pts(11).X;
 }
 
-/// Far enough out that the text, which is centred on the line, ends clear of the arrows of the overhang
-/// below.
-double RafterElevationDrafter::TailLeg() {
-  const double half = WidthOfLength(kVertical, 3, 2) / 2;
-  return std::max(kTailTier * board_.DimLeg, half + Twips(kOutsideArrow + kClear - kGap));
+/// The heights at the tail share one line. It stands far enough out that the tail's text, which is centred on
+/// it, ends clear of the arrows of the overhang below; and beside a steep rafter clear of the lengths along
+/// the top edge.
+void RafterElevationDrafter::ChooseTailColumn(double lengthsLeft) {
+  tailGap_ = board_.DimGap;
+  tailLeg_ = kTailTier * board_.DimLeg;
+  if (member_.Overhang > 0 && !geometry_.SquareCut) {
+    const double half = WidthOfLength(kVertical, 3, 2) / 2;
+    tailLeg_ = std::max(tailLeg_, half + Twips(kOutsideArrow + kClear - kGap));
+  }
+  if (!WholeRiseIsShown() || lengthsLeft > X(2) - tailGap_ - tailLeg_) return;
+  const bool steep = Y(0) - Y(2) > X(0) - X(2);
+  const PointRecord text = WholeRiseText();
+  board_.TextFX.Angle = 90;
+  const bool clear = board_.IsClear(board_.LengthText((Y(0) - Y(2)) / board_.DrawScale), text.X, text.Y,
+                                    kAlignCenterBase, Twips(kClear));
+  board_.TextFX.Angle = 0;
+  if (!steep && clear) return;
+  tailGap_ = X(2) - lengthsLeft;
+  tailLeg_ = board_.DimArrow;
+}
+
+/// Centre of the base line, left of the line; further left where the text is longer than the line.
+PointRecord RafterElevationDrafter::WholeRiseText() {
+  const double line = X(2) - tailGap_ - tailLeg_;
+  const double length = Y(0) - Y(2);
+  const double width = board_.WidthOf(board_.LengthText(length / board_.DrawScale), board_.DimTextHeight);
+  if (width + Twips(2 * kClear) <= length) return {line - board_.DimGap, (Y(0) + Y(2)) / 2};
+  return {line - Twips(2 * kGap), Y(2) + Twips(kClear) + width / 2};
+}
+
+bool RafterElevationDrafter::WholeRiseIsShown() const {
+  return member_.IsCommon() && context_.CurrentTab > 0 && Y(0) > Y(2);
 }
 
 /// On the later pages the height of the ridge above the tail, in line with the height of the tail cut.
 void RafterElevationDrafter::DimensionWholeRise() {
-  if (!member_.IsCommon() || context_.CurrentTab <= 0) return;
+  if (!WholeRiseIsShown()) return;
   board_.Pts(14) = {board_.Pts(2).X, board_.Pts(0).Y};
-  const double length = Y(14) - Y(2);
-  if (!(length > 0)) return;
-  const bool besideTail = member_.Overhang > 0 && !geometry_.SquareCut;
-  Dimension dimension = Plain(kVertical, 2, 14, besideTail ? TailLeg() : kTailTier * board_.DimLeg);
+  Dimension dimension = Plain(kVertical, 2, 14, tailLeg_);
+  dimension.Gap = tailGap_;
   dimension.TextFlag = 1;
-  const double width = WidthOfLength(kVertical, 2, 14);
-  if (width + Twips(2 * kClear) > length) {
-    const double base = X(2) - dimension.Gap - dimension.Leg - Twips(2 * kGap);
-    dimension.TextAt = PointRecord{base, Y(2) + Twips(kClear) + width / 2};
-  }
+  dimension.TextAt = WholeRiseText();
   board_.Dimension2(dimension);
 }
 
@@ -131,7 +168,9 @@ void RafterElevationDrafter::Below(int right, int left, double tier, double left
   dimension.TextFlag = 1;
   const double half = WidthOfLength(kHorizontal, right, left) / 2;
   const double middle = (X(right) + X(left)) / 2;
-  const double centre = std::min(std::max(middle, leftLimit + half), rightLimit - half);
+  double centre = std::min(std::max(middle, leftLimit + half), rightLimit - half);
+  if (centre - half < leftLimit)
+    centre = rightLimit + Twips(2 * kClear) + half;  // too wide: past the right limit
   if (centre != middle) dimension.TextAt = PointRecord{centre, LevelBelow(tier) - Twips(kTextUnderLine)};
   board_.Dimension2(dimension);
 }

@@ -37,7 +37,9 @@ class RafterElevationDrafter {
   Dimension Plain(int kind, int p1, int p2, double leg) const;
   /// `p1` up to `p2` along the top edge.
   void Along(int p1, int p2, double tier);
-  double TailLeg();
+  void ChooseTailColumn(double lengthsLeft);
+  PointRecord WholeRiseText();
+  bool WholeRiseIsShown() const;
   /// Below the wood, with the text under the line; its centre stands between two limits.
   void Below(int right, int left, double tier, double leftLimit, double rightLimit);
   Dimension BelowWood(int right, int left, double tier) const;
@@ -46,8 +48,10 @@ class RafterElevationDrafter {
   bool RunNeedsOwnTier();
   int TailEnd() const { return geometry_.SquareCut ? 2 : 3; }
   std::optional<double> HeelColumnInside(double start, double textWidth) const;
+  double LowestLineRight() const;
   void WholeHeight();
   void KneewallHeights();
+  PointRecord BesideHeight(double begin, int upper, int lower, bool above);
   /// A height at the right: `column` is the x of its dimension line.
   Dimension RightOfRidge(int upper, int lower, double column) const;
   bool ArrowsStandOutside(int upper, int lower) const;
@@ -71,6 +75,8 @@ class RafterElevationDrafter {
   ElevationMember member_;
   ElevationGeometry geometry_;
   Single ratio_;
+  double tailGap_ = 0;  // of the heights left of the tail
+  double tailLeg_ = 0;
   double heelColumnEnd_ = 0;  // right end of a heel dimension that stands right of the ridge; else 0
 };
 

@@ -30,7 +30,7 @@ void RafterElevationDrafter::DimensionHeel() {
   const double start = inside ? wayOut : X(0);
   double column = inside.value_or(X(0) + board_.DimGap + kHeelTier * board_.DimLeg);
   if (!inside && Y(1) + Twips(kOutsideArrow) > Y(0))
-    column = std::max(column, AngleLabelEnd() + Twips(kClear));
+    column = std::max(column, AngleLabelEnd() + Twips(kArrow));
 
   board_.Pts(kHeelTop) = {start, Y(1)};
   board_.Pts(kHeelFoot) = {start, Y(5)};
@@ -39,11 +39,15 @@ void RafterElevationDrafter::DimensionHeel() {
   dimension.TextMode = 2;
   // Beside the arrows, half-way up, but clear of the line that runs on at the seat's level.
   const double textBegin = column + Twips(kArrow + kClear);
-  const double base = std::max((Y(1) + Y(5)) / 2 - Twips(kCapital / 2), Y(5) + Twips(kClear));
+  double base = std::max((Y(1) + Y(5)) / 2 - Twips(kCapital / 2), Y(5) + Twips(kClear));
+  if (!inside && base + Twips(kCapital + kClear) > LowestLineRight()) base = Y(5) - Twips(kClear + kCapital);
   dimension.TextAt = PointRecord{textBegin + width / 2, base};
   board_.Dimension2(dimension);
   if (!inside) heelColumnEnd_ = textBegin + width;
 }
+
+/// The lowest of the extension lines that run out from the ridge above the seat's level.
+double RafterElevationDrafter::LowestLineRight() const { return geometry_.Kneewall ? Y(29) : Y(0); }
 
 /// The x of the heel's dimension line under the rafter: its upper arrow ends below the underside, and its
 /// text clear of the extension lines that run down from kneewall and ridge.
@@ -96,33 +100,51 @@ void RafterElevationDrafter::WholeHeight() {
   board_.Dimension2(dimension);
 }
 
+/// A level text right of a height's line: half-way up where it fits between the extension lines, else beyond
+/// the one that nothing stands on.
+PointRecord RafterElevationDrafter::BesideHeight(double begin, int upper, int lower, bool above) {
+  const double half = WidthOfLength(kVertical, upper, lower) / 2;
+  double base = (Y(upper) + Y(lower)) / 2 - Twips(kCapital / 2);
+  if (Y(upper) - Y(lower) < Twips(kCapital + 2 * kClear)) {
+    base = above ? Y(upper) + Twips(kClear) : Y(lower) - Twips(kClear + kCapital);
+    if (above) begin = std::max(begin, AngleLabelEnd() + Twips(2 * kClear));
+  }
+  return {begin + half, base};
+}
+
 /// The kneewall's height above the plate and the rest up to the ridge share one line; the whole stands
 /// outside of it.
 void RafterElevationDrafter::KneewallHeights() {
   board_.Pts(31) = {board_.Pts(0).X, board_.Pts(29).Y};
   const double half = WidthOfLength(kVertical, 31, 7) / 2;
+  const bool upperOutside = ArrowsStandOutside(0, 31);
   double column = X(0) + std::max(board_.DimGap + kKneewallTier * board_.DimLeg, half + Twips(kClear));
-  if (ArrowsStandOutside(0, 31)) column = std::max(column, AngleLabelEnd() + Twips(kArrow));
+  if (upperOutside) column = std::max(column, AngleLabelEnd() + Twips(kArrow));
   if (heelColumnEnd_ > 0) column = std::max(column, heelColumnEnd_ + Twips(kClear) + half);
+  const double beside = column + Twips(kArrow + kClear);
+  double end = column + half;
 
   Dimension lower = RightOfRidge(31, 7, column);
   lower.ArrowsOutside = 1;
   lower.TextMode = 2;
+  if (upperOutside) {  // the arrow of the rest comes down where the text would stand
+    lower.TextAt = BesideHeight(beside, 31, 7, false);
+    end = lower.TextAt->X + half;
+  }
   board_.Dimension2(lower);
 
   Dimension upper = RightOfRidge(0, 31, column);
   upper.TextMode = 1;
-  double end = column + std::max(half, Twips(kArrow));
   if (TextStandsAside(0, 31)) {
-    // Under the extension line of the whole height, which runs over it.
-    const double width = WidthOfLength(kVertical, 0, 31);
-    upper.TextAt = PointRecord{column + Twips(kAsideBase), Y(0) - Twips(kClear) - width / 2};
-    end = std::max(end, column + Twips(kAsideBase));
+    upper.TextMode = 2;
+    upper.TextAt = BesideHeight(beside, 0, 31, true);
+    end = std::max(end, upper.TextAt->X + WidthOfLength(kVertical, 0, 31) / 2);
   }
   board_.Dimension2(upper);
 
+  const double leftOfLine = TextStandsAside(0, 7) ? kArrow : kGap + kCapital;
   const double whole = std::max(X(0) + board_.DimGap + kWholeHeightTier * board_.DimLeg,
-                                end + Twips(kClear + kGap + kCapital));
+                                std::max(end, column + board_.DimArrow) + Twips(kClear + leftOfLine));
   Dimension dimension = RightOfRidge(0, 7, whole);
   dimension.TextMode = 1;
   board_.Dimension2(dimension);
