@@ -48,6 +48,7 @@ void frmDocument::Form_Load() {
   });
   Try(kProcedure, [&] { TakeStoredSpacing(stored); });
   Form_Resize();
+  FocusSlope(0);
   SetHelpContext();
 }
 

@@ -1,0 +1,113 @@
+// The driver from outside: arguments, exit statuses, files.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+
+namespace {
+
+struct Result {
+  int status = -1;
+  std::string output;
+};
+
+class DriverTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    folder =
+        std::filesystem::temp_directory_path() /
+        ("pitchcraft-driver-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder / "data");
+  }
+  void TearDown() override { std::filesystem::remove_all(folder); }
+
+  Result Run(const std::string& arguments) const {
+    const std::string command =
+        "cd '" + folder.string() + "' && QT_QPA_PLATFORM=offscreen '" PITCHCRAFT_DRIVER "' " + arguments;
+    FILE* pipe = popen(command.c_str(), "r");
+    Result result;
+    std::array<char, 4096> buffer{};
+    for (std::size_t n = 0; (n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+      result.output.append(buffer.data(), n);
+    }
+    const int status = pclose(pipe);
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+  }
+  std::string Write(const char* name, const std::string& text) const {
+    std::ofstream(folder / name, std::ios::binary) << text;
+    return name;
+  }
+  std::string Read(const char* name) const {
+    std::ifstream stream(folder / name, std::ios::binary);
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+  }
+
+  std::filesystem::path folder;
+};
+
+TEST_F(DriverTest, RunsAScriptFromAFileAndFromStandardInput) {
+  Write("a.txt", "type LWSlope(0) 6 | 12\ndump Rafter1\n");
+  const Result file = Run("run --data data a.txt");
+  EXPECT_EQ(file.status, 0);
+  EXPECT_EQ(nlohmann::json::parse(file.output)["Rafter1"]["Rise"], 71.625);
+  EXPECT_EQ(Run("run --data data - < a.txt").output, file.output);
+  EXPECT_EQ(Run("run --data data < a.txt").output, file.output);
+}
+
+TEST_F(DriverTest, SettingsStayInTheDataFolder) {
+  Write("a.txt", "click mnuMetric\n");
+  EXPECT_EQ(Run("run --data data a.txt").status, 0);
+  Write("b.txt", "dump document\n");
+  EXPECT_EQ(nlohmann::json::parse(Run("run --data data b.txt").output)["document"]["UnitRun"], 1000);
+}
+
+TEST_F(DriverTest, ExitStatusTellsWhatWentWrong) {
+  EXPECT_EQ(Run("2>/dev/null").status, 2) << "no command";
+  EXPECT_EQ(Run("igloo 2>/dev/null").status, 2) << "no such command";
+  EXPECT_EQ(Run("run --data nowhere 2>/dev/null </dev/null").status, 2) << "no such folder";
+  EXPECT_EQ(Run("run --data data missing.txt 2>/dev/null").status, 1) << "a script that is not there";
+  EXPECT_EQ(Run("run --data data data 2>/dev/null").status, 1) << "a folder for a script";
+  Write("bad.txt", "igloo\n");
+  EXPECT_EQ(Run("run --data data bad.txt").status, 2) << "a line that is not understood";
+  Write("format.txt", "picture x.igloo\n");
+  EXPECT_EQ(Run("run --data data format.txt").status, 1) << "a format that is not known";
+  EXPECT_EQ(Run("--help").status, 0);
+  EXPECT_NE(Run("--version").output.find("pitchcraft-cli "), std::string::npos);
+}
+
+TEST_F(DriverTest, DiagnosticsAreOneLine) {
+  const Result result = Run("run --data nowhere 2>&1 >/dev/null </dev/null");
+  EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 1) << result.output;
+}
+
+TEST_F(DriverTest, PicturesAreWritten) {
+  Write("a.txt", "type LWSlope(0) 6 | 12\npicture a.svg\npicture a.png\npicture nowhere/a.png\n");
+  const Result result = Run("run --data data a.txt");
+  EXPECT_EQ(result.status, 1) << "the last folder does not exist";
+  EXPECT_NE(Read("a.svg").find("<svg"), std::string::npos);
+  EXPECT_EQ(Read("a.png").substr(1, 3), "PNG");
+}
+
+TEST_F(DriverTest, TheFirstRafterOfTheReadmeHoldsItsPromises) {
+  const Result result = Run("run --data data '" PITCHCRAFT_SOURCE_DIR "/examples/first-rafter.txt'");
+  EXPECT_EQ(result.status, 0);
+  const auto rafter = nlohmann::json::parse(result.output)["Rafter1"];
+  EXPECT_EQ(rafter["Rise"], 71.625);
+  EXPECT_NEAR(rafter["Length1"].get<double>(), 160.158, 0.0005);
+  EXPECT_NEAR(rafter["Length2"].get<double>(), 171.898, 0.0005);
+  EXPECT_NEAR(rafter["PlumbCut"].get<double>(), 8.106, 0.0005);
+  EXPECT_FALSE(Read("first-rafter.png").empty());
+}
+
+}  // namespace
