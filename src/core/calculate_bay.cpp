@@ -52,7 +52,8 @@ void CRafter::CalculateBayHeel() {
   ApplyLocks(HeelLocked.Stored() != 0, SeatLocked.Stored() != 0, kDefaultHeelShare);
   LimitHeel(kDefaultHeelShare, ZeroHeel::kTakesDefault);
   LimitTo(AdjFasciaHeight, PlumbCut);
-  // A bay without an overhang closes its rafter ends down to the wall, however low the fascia.
+  // A bay without an overhang closes its rafter ends down to the wall, however low the fascia: the fascia of
+  // the common is its heel then, and those of hip and ledger, each less its drop, are their heels.
   if (Overhang == 0) AdjFasciaHeight = PlumbCut;
   LimitFasciaWithoutOverhang();
 }
@@ -63,7 +64,6 @@ void CRafter::CalculateBayHip() {
   let(HipValPlumbCut) = PlumbDepth(Slope, HipValDepth, HipRunFactor);
   let(HipValSeat) = SeatBelow(HipValPlumbCut, HipHeel, HipValSlope);
   LimitTo(HipFasciaHeight, HipValPlumbCut);
-  if (Overhang == 0) LimitTo(HipFasciaHeight, HipHeel);
 }
 
 void CRafter::CalculateBayLedger() {
@@ -72,7 +72,6 @@ void CRafter::CalculateBayLedger() {
   let(LedgerPlumbCut) = PlumbDepth(Slope, RidgeDepth, LedgerRunFactor);  // it is cut from ridge lumber
   let(LedgerSeat) = SeatBelow(LedgerPlumbCut, LedgerHeel, LedgerSlope);
   LimitTo(LedgerFasciaHeight, LedgerPlumbCut);
-  if (Overhang == 0) LimitTo(LedgerFasciaHeight, LedgerHeel);
 }
 
 void CRafter::CalculateBayRuns() {

@@ -114,6 +114,14 @@ const CalculationRow kMembers[] = {
       {"HipCommonDifference24", 26.83281573},
       {"LedgerCommonDifference16", 0.0},
       {"LedgerCommonDifference24", 0.0}}},
+    {"SquareCornerClearsWhatAnAngledOneLeft",
+     [](CRafter& r) {
+       Bay(r);
+       r.CalculateBay();
+       DutchHip(r);
+     },
+     kBay,
+     {{"LedgerCommonDifference16", 0.0}, {"LedgerCommonDifference24", 0.0}}},
     {"DutchHipWithoutALedger",
      [](CRafter& r) {
        DutchHip(r);
