@@ -21,6 +21,10 @@ namespace {
 constexpr int kPngWidth = 1600;
 constexpr int kTallestPng = 16000;
 
+// So that no stroke is lost at the edge.
+constexpr double kBorderTwips = 120;
+const PlayArea kArea{0, 0, {}, {}, kBorderTwips};
+
 using Outcome = std::optional<std::string>;
 
 std::string TextOf(const std::filesystem::path& path) {
@@ -40,8 +44,7 @@ QByteArray PngOf(const Picture& picture) {
   image.fill(QColor(ground.Red, ground.Green, ground.Blue));
   {
     QPainter painter(&image);
-    PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), pixelsPerTwip);
-    picture.Drawing.MetaPlay(canvas);
+    PaintPicture(painter, picture, pixelsPerTwip);
   }
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -52,7 +55,7 @@ QByteArray PngOf(const Picture& picture) {
 
 QByteArray SvgOf(const Picture& picture) {
   SvgCanvas canvas(picture.Size, picture.Drawing.Meter());
-  picture.Drawing.MetaPlay(canvas);
+  picture.Drawing.MetaPlay(canvas, kArea);
   return QByteArray::fromStdString(canvas.Document(picture.Background, picture.Title));
 }
 
@@ -88,6 +91,11 @@ Outcome Save(const QByteArray& bytes, const std::filesystem::path& file) {
 Picture ShownPicture(const frmDocument& document) {
   const PictureBox& box = document.CurrentTab == 0 ? document.Picture1 : document.Picture3;
   return {document.board.MetaCanvas, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
+}
+
+void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip) {
+  PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), unitsPerTwip);
+  picture.Drawing.MetaPlay(canvas, kArea);
 }
 
 std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file) {

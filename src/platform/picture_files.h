@@ -7,6 +7,8 @@
 
 #include "drawing/meta_file.h"
 
+class QPainter;
+
 namespace pitchcraft {
 
 class frmDocument;
@@ -21,6 +23,10 @@ struct Picture {
 
 /// The drawing that the document shows, on the colour of its views.
 Picture ShownPicture(const frmDocument& document);
+
+/// Paints the picture, its proportions kept, with a narrow border of its ground about it. The ground itself
+/// is there already. `unitsPerTwip` is the size of a twip in the painter's coordinates.
+void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip);
 
 /// Writes the picture to a file whose ending tells the format: .png is 1600 pixels wide with the proportions
 /// of the area, .svg scalable. The file is replaced whole or not touched at all. Nothing on success; else

@@ -1,0 +1,53 @@
+#include "shell/choice_field.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "shell/field_look.h"
+
+namespace pitchcraft {
+
+ChoiceField::ChoiceField(Session& session, ComboControl& combo, QWidget* host)
+    : QComboBox(host), ControlView(session, combo), combo_(combo) {
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  connect(this, &QComboBox::activated, this, [this](int row) {
+    const std::string caption = itemText(row).toStdString();
+    TheSession().Do([&](Actions& actions) { actions.Pick(Name(), caption); });
+  });
+}
+
+void ChoiceField::ShowState() {
+  const QSignalBlocker quiet(this);
+  const frmDocument& document = TheSession().Document();
+  const bool isField = combo_.Host != Host::kTabStrip;
+  const std::uint32_t fore = isField ? document.CtlForeColor : kSystemWindowTextColor;
+  const std::uint32_t back = isField ? document.CtlBackColor : kSystemWindowColor;
+  if (!colored_ || fore != fore_ || back != back_) {
+    colored_ = true;
+    fore_ = fore;
+    back_ = back;
+    setPalette(FieldPalette(fore, back, parentWidget()->palette()));
+  }
+  if (rows_ != combo_.List()) {
+    rows_ = combo_.List();
+    clear();
+    for (const std::string& row : rows_) addItem(QString::fromStdString(row));
+    setMaxVisibleItems(count());
+  }
+  if (currentIndex() != combo_.ListIndex()) setCurrentIndex(combo_.ListIndex());
+}
+
+void ChoiceField::FitTo(const QRect& place) {
+  setFont(FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6));
+}
+
+// A wheel that only passes over must not change the roof.
+void ChoiceField::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace pitchcraft

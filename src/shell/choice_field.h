@@ -1,0 +1,32 @@
+// A list of which one row shows, without typing.
+#pragma once
+
+#include <QComboBox>
+
+#include "shell/control_view.h"
+
+namespace pitchcraft {
+
+class ChoiceField : public QComboBox, public ControlView {
+  Q_OBJECT
+
+ public:
+  ChoiceField(Session& session, ComboControl& combo, QWidget* host);
+
+  QWidget& Widget() override { return *this; }
+  std::vector<QWidget*> TabStops() override { return {this}; }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void ShowState() override;
+  void FitTo(const QRect& place) override;
+
+  ComboControl& combo_;
+  std::vector<std::string> rows_;
+  std::uint32_t fore_ = 0, back_ = 0;
+  bool colored_ = false;
+};
+
+}  // namespace pitchcraft

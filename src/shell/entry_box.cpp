@@ -1,0 +1,65 @@
+#include "shell/entry_box.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace pitchcraft {
+
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
+  // Not textEdited: assistive programs put their text in as a whole.
+  connect(this, &QLineEdit::textChanged, this, [this] {
+    if (showing_) return;
+    modified_ = true;
+    emit Edited();
+  });
+}
+
+void EntryBox::ShowText(const std::string& text) {
+  if (modified_) return;
+  const QString shown = QString::fromStdString(text);
+  if (shown == this->text()) return;
+  showing_ = true;
+  setText(shown);
+  setCursorPosition(0);  // of a text that is too long, the beginning shows
+  if (hasFocus()) selectAll();
+  showing_ = false;
+}
+
+void EntryBox::CommitFocused() {
+  auto* box = qobject_cast<EntryBox*>(QApplication::focusWidget());
+  if (box != nullptr) emit box->Left();
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event) {
+  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  const int key = event->key();
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    emit Entered();
+    selectAll();
+  } else if (key == Qt::Key_F4 || (key == Qt::Key_Down && modifiers == Qt::AltModifier)) {
+    emit ListAsked();
+  } else if ((key == Qt::Key_Up || key == Qt::Key_Down) && modifiers == Qt::NoModifier) {
+    emit Stepped(key == Qt::Key_Up);
+  } else if (key == Qt::Key_Escape && modified_) {
+    emit Escaped();
+    selectAll();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+bool EntryBox::focusNextPrevChild(bool next) {
+  emit Tabbed();
+  return QLineEdit::focusNextPrevChild(next);
+}
+
+// A menu, a list or another program's window only borrows the focus.
+void EntryBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  const bool lent = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
+                    reason == Qt::ActiveWindowFocusReason;
+  if (!lent) emit Left();
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,19 @@
+// The colours of the fields, from the colour values of their controls.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <cstdint>
+
+namespace pitchcraft {
+
+/// A colour value; a system colour code is what the desktop has for it.
+QColor ColorOf(std::uint32_t value, const QPalette& desktop);
+
+/// The palette of a field with those colours; a disabled field is grey on the colour of the window.
+QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop);
+
+/// `font`, made smaller as far as the text would not fit into the width or the height otherwise.
+QFont FittedFont(QFont font, const QString& text, int width, int height);
+
+}  // namespace pitchcraft

@@ -1,0 +1,103 @@
+// Fields with a list below them: one or two text boxes and an arrow.
+#pragma once
+
+#include <QPointer>
+
+#include "sheet/combo.h"
+#include "sheet/lw_combo.h"
+#include "shell/control_view.h"
+#include "shell/entry_box.h"
+
+namespace pitchcraft {
+
+class ArrowButton;
+class DropList;
+
+/// What both have in common: boxes, arrow, keyboard, list. Nothing is committed while the focus goes from one
+/// box to the other.
+class ListField : public QWidget, public ControlView {
+  Q_OBJECT
+
+ public:
+  QWidget& Widget() override { return *this; }
+  std::vector<QWidget*> TabStops() override { return {boxes_.begin(), boxes_.end()}; }
+
+ protected:
+  ListField(Session& session, Control& control, QWidget* host, std::size_t boxes);
+
+  EntryBox& Box(std::size_t index) { return *boxes_[index]; }
+  bool Modified() const;
+  void Settle();
+  void Color(std::uint32_t fore, std::uint32_t back);
+  void SetLocked(bool locked);
+
+  virtual std::string Entry() const = 0;
+  virtual QStringList Rows() const = 0;
+  virtual int Row() const = 0;
+  /// Keeps the control as it is before an entry, for Escape.
+  virtual void Remember() = 0;
+  virtual void Restore() = 0;
+  /// Tab confirms the entry as Enter does before it moves on.
+  virtual bool TabEnters() const { return false; }
+  void FitTo(const QRect& place) override;
+  std::string TextOf(std::size_t index) const { return boxes_[index]->Entry(); }
+
+ private:
+  void Connect(EntryBox& box);
+  void Enter();
+  void OpenList();
+  void Step(bool up);
+  void Pick(int row);
+
+  std::vector<EntryBox*> boxes_;
+  ArrowButton* arrow_;
+  QPointer<DropList> list_;
+  std::uint32_t fore_ = 0, back_ = 0;
+  bool colored_ = false;
+  bool locked_ = false;
+  bool editing_ = false;
+};
+
+/// Two values with a list: lumber, or a slope.
+class PairField : public ListField {
+  Q_OBJECT
+
+ public:
+  PairField(Session& session, LWCombo& pair, QWidget* host);
+
+ private:
+  void ShowState() override;
+  void ShowName(const QString& name) override;
+  std::string Entry() const override;
+  QStringList Rows() const override;
+  int Row() const override { return pair_.ListIndex(); }
+  void Remember() override { before_ = pair_; }
+  void Restore() override { pair_ = before_; }
+  bool TabEnters() const override { return isSlope_; }
+
+  LWCombo& pair_;
+  LWCombo before_;
+  bool isSlope_;
+};
+
+/// One text with a list.
+class ComboField : public ListField {
+  Q_OBJECT
+
+ public:
+  ComboField(Session& session, ComboControl& combo, QWidget* host);
+
+ private:
+  void ShowState() override;
+  void ShowName(const QString& name) override;
+  std::string Entry() const override { return TextOf(0); }
+  QStringList Rows() const override;
+  int Row() const override { return combo_.ListIndex(); }
+  void Remember() override { before_ = combo_.Text(); }
+  void Restore() override { combo_.SetText(before_); }
+
+  ComboControl& combo_;
+  std::string before_;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,84 @@
+// Starts the window.
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "platform/font_setup.h"
+#include "platform/qt_store.h"
+#include "shell/main_window.h"
+#include "shell/qt_dialogs.h"
+
+namespace {
+
+constexpr const char* kHelp =
+    "Usage: pitchcraft [--help] [--version]\n"
+    "\n"
+    "Opens the window of Pitchcraft, the roof-framing calculator.\n"
+    "For scripts and for machines without a display there is pitchcraft-cli.\n";
+
+constexpr const char* kNoDisplay =
+    "pitchcraft: there is no display to open a window on. Start it from a desktop, or use pitchcraft-cli.\n";
+
+// The toolkit gives up with a fatal message where it finds no display that works.
+void Report(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtFatalMsg) {
+    std::fputs(kNoDisplay, stderr);
+    std::_Exit(1);
+  }
+  if (type != QtDebugMsg && type != QtInfoMsg) std::fprintf(stderr, "pitchcraft: %s\n", qPrintable(message));
+}
+
+#if defined(Q_OS_LINUX) || defined(Q_OS_FREEBSD)
+bool DisplayIsNamed() {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    if (!qEnvironmentVariableIsEmpty(name)) return true;
+  }
+  return false;
+}
+#else
+bool DisplayIsNamed() { return true; }
+#endif
+
+/// The executable's folder where it can be written, else the user's own.
+std::filesystem::path ProgramFolder() {
+  QString folder = QCoreApplication::applicationDirPath();
+  if (!QFileInfo(folder).isWritable()) {
+    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+  }
+  return QDir(folder).filesystemPath();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argument == "--help" || argument == "-h") return std::fputs(kHelp, stdout) < 0 ? 1 : 0;
+    if (argument == "--version") return std::puts("pitchcraft " PITCHCRAFT_VERSION) < 0 ? 1 : 0;
+  }
+  if (!DisplayIsNamed()) {
+    std::fputs(kNoDisplay, stderr);
+    return 1;
+  }
+  qInstallMessageHandler(Report);
+  QApplication::setStyle("Fusion");
+  QApplication application(argc, argv);
+  // The toolkit takes over the user's locale; measures keep their decimal point.
+  std::setlocale(LC_NUMERIC, "C");
+  QCoreApplication::setOrganizationName("Pitchcraft");
+  QCoreApplication::setApplicationName("Pitchcraft");
+  pitchcraft::EnsureDrawingFont();
+
+  pitchcraft::QtDialogs dialogs;
+  pitchcraft::QtStore store;
+  pitchcraft::MainWindow window({dialogs, store, ProgramFolder()});
+  dialogs.SetOwner(&window);
+  window.Open();
+  return QApplication::exec();
+}

@@ -1,0 +1,191 @@
+#include "shell/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTimer>
+
+#include "shell/icons.h"
+#include "shell/twips.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kNormal = 0;
+constexpr int kMinimized = 1;
+constexpr int kMaximized = 2;
+
+}  // namespace
+
+MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings) {
+  setObjectName("frmDocument");
+  Document().Form_Load();
+  menus_ = new MenuStrip(session_, this);
+  tools_ = new ToolStrip(session_, this);
+  bay_ = new BayStrip(session_, this);
+  tabs_ = new TabStrip(session_, this);
+  sheet_ = new SheetPanel(session_, this);
+  picture1_ = new PictureView(session_, 1, this);
+  picture3_ = new PictureView(session_, 3, this);
+  status_ = new QLabel(this);
+  status_->setObjectName("StatusBar");
+  status_->setAccessibleName(tr("Status"));
+  status_->setTextFormat(Qt::PlainText);
+  status_->setMargin(4);
+  setWindowIcon(ProgramIcon());
+  setMinimumSize(ToPixels(kMinimumWidth), ToPixels(kMinimumHeight));
+  resize(ToPixels(Document().Window.Width), ToPixels(Document().Window.Height));
+  ChainTabOrder();
+  connect(&session_, &Session::Changed, this, &MainWindow::Sync);
+  connect(&session_, &Session::StatusChanged, this, &MainWindow::SyncStatus);
+  Sync();
+}
+
+template <typename Action>
+void MainWindow::ForEachView(Action action) {
+  for (const auto* views : {&sheet_->Views(), &tabs_->Views(), &bay_->Views()}) {
+    for (const auto& view : *views) action(*view);
+  }
+}
+
+// Tab follows the order of the sheet, then reaches the captions of the pages.
+void MainWindow::ChainTabOrder() {
+  std::vector<QWidget*> stops;
+  ForEachView([&](ControlView& view) {
+    for (QWidget* stop : view.TabStops()) stops.push_back(stop);
+  });
+  stops.push_back(&tabs_->Pages());
+  stops.push_back(&sheet_->RoofTabs());
+  for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
+}
+
+void MainWindow::Open() {
+  const frmDocument& document = Document();
+  QPoint place(ToPixels(document.Window.Left), ToPixels(document.Window.Top));
+  const QScreen* screen = QGuiApplication::screenAt(place);
+  // The screen of the last time may be gone.
+  if (screen == nullptr) place = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+  move(place);
+  if (document.WindowState == kMaximized) {
+    showMaximized();
+  } else {
+    Document().WindowState = kNormal;
+    show();
+  }
+}
+
+// --- The document's state into the widgets
+// --------------------------------------------------------------------------
+
+// A widget that takes its state may end another one's entry; that is shown afterwards.
+void MainWindow::Sync() {
+  again_ = true;
+  if (syncing_) return;
+  syncing_ = true;
+  while (again_) {
+    again_ = false;
+    SyncOnce();
+  }
+  syncing_ = false;
+}
+
+void MainWindow::SyncOnce() {
+  menus_->Sync();
+  tools_->Sync();
+  PlaceParts();
+  picture1_->update();
+  picture3_->update();
+  SyncStatus();
+  // A title's own brackets with a star are no mark of the toolkit.
+  const QString title = QString::fromStdString(Document().Title).replace("[*]", "[*][*]");
+  if (title != windowTitle()) setWindowTitle(title);
+  GiveFocus();
+  if (Document().CloseRequested && !closed_) QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void MainWindow::SyncStatus() {
+  const QString text = QString::fromStdString(Document().StatusText);
+  if (text != status_->text()) status_->setText(text);
+}
+
+void MainWindow::PlaceParts() {
+  const FormLayout layout = Document().Layout();
+  const auto put = [](QWidget& part, const Area& area, bool shown) {
+    if (shown) part.setGeometry(ToRect(area));
+    if (part.isHidden() == shown) part.setVisible(shown);
+  };
+  const bool design = Document().sheet.VSTab[0].Page == 0;
+  put(*menus_, layout.menuBar, true);
+  put(*tools_, layout.toolBar, layout.toolBar.Height > 0);
+  put(*bay_, layout.bayStrip, layout.bayStrip.Height > 0);
+  put(*tabs_, layout.tabStrip, true);
+  put(*sheet_, layout.sheet, design);
+  put(*picture1_, layout.picture1, design);
+  put(*picture3_, layout.picture3, !design);
+  put(*status_, layout.statusBar, layout.statusBar.Height > 0);
+  bay_->Sync();
+  tabs_->Sync();
+  if (design) sheet_->Sync(layout);
+}
+
+// A dialog keeps the focus, and a control that does not show cannot take it.
+void MainWindow::GiveFocus() {
+  std::string wanted;
+  std::swap(wanted, Document().FocusRequest);
+  if (wanted.empty() || Document().DialogIsActive || QApplication::activeModalWidget() != nullptr) return;
+  ForEachView([&](ControlView& view) {
+    if (view.Of().Name != wanted || view.TabStops().empty()) return;
+    QWidget* stop = view.TabStops().front();
+    if (!stop->isVisibleTo(this) || !stop->isEnabled()) return;
+    stop->setFocus(Qt::OtherFocusReason);
+    if (auto* box = qobject_cast<QLineEdit*>(stop)) box->selectAll();
+  });
+}
+
+// --- The window's own events
+// ----------------------------------------------------------------------------------------
+
+void MainWindow::FollowSize() {
+  Area& place = Document().Window;
+  const Area now{place.Left, place.Top, width() * kTwipsPerPixel, height() * kTwipsPerPixel};
+  // A size in twips that is no whole number of pixels is the same window.
+  const bool same = ToRect(now).size() == ToRect(place).size();
+  if (same) return;
+  place = now;
+  session_.Do([this](Actions&) { Document().Form_Resize(); });
+}
+
+void MainWindow::resizeEvent(QResizeEvent*) { FollowSize(); }
+
+void MainWindow::moveEvent(QMoveEvent*) {
+  if (isMaximized() || isMinimized() || !isVisible()) return;
+  Document().Window.Left = x() * kTwipsPerPixel;
+  Document().Window.Top = y() * kTwipsPerPixel;
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange) {
+    Document().WindowState = isMinimized() ? kMinimized : isMaximized() ? kMaximized : kNormal;
+  }
+  QWidget::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!closed_) {
+    closed_ = true;
+    Document().Form_Unload();
+  }
+  event->accept();
+}
+
+bool MainWindow::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  if (event->type() == QEvent::UpdateRequest && !painted_) {
+    painted_ = true;
+    emit Painted();
+  }
+  return handled;
+}
+
+}  // namespace pitchcraft

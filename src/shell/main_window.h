@@ -1,0 +1,63 @@
+// The one window: it gives every part its place and hands the document's state round.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <optional>
+
+#include "shell/menu_strip.h"
+#include "shell/picture_view.h"
+#include "shell/session.h"
+#include "shell/sheet_panel.h"
+#include "shell/strips.h"
+#include "shell/tool_strip.h"
+
+namespace pitchcraft {
+
+class MainWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(const Surroundings& surroundings);
+
+  frmDocument& Document() { return session_.Document(); }
+  /// Shows the window where and how it stood when it was last closed.
+  void Open();
+
+ signals:
+  void Painted();  ///< the first picture of the window stands
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void Sync();
+  void SyncOnce();
+  void SyncStatus();
+  void PlaceParts();
+  void ChainTabOrder();
+  void GiveFocus();
+  void FollowSize();
+  template <typename Action>
+  void ForEachView(Action action);
+
+  Session session_;
+  MenuStrip* menus_;
+  ToolStrip* tools_;
+  BayStrip* bay_;
+  TabStrip* tabs_;
+  SheetPanel* sheet_;
+  PictureView* picture1_;
+  PictureView* picture3_;
+  QLabel* status_;
+  bool syncing_ = false;
+  bool again_ = false;
+  bool closed_ = false;
+  bool painted_ = false;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,81 @@
+#include "shell/measure_field.h"
+
+#include <QContextMenuEvent>
+
+#include "shell/field_look.h"
+#include "shell/popup_menu.h"
+
+namespace pitchcraft {
+namespace {
+
+bool HasIncrement(const std::string& name) {
+  return name.starts_with("FtSpan") || name.starts_with("FtOverhang") || name.starts_with("FtRidge");
+}
+
+}  // namespace
+
+MeasureField::MeasureField(Session& session, FtInText& field, QWidget* host)
+    : EntryBox(host), ControlView(session, field), field_(field) {
+  connect(this, &EntryBox::Edited, this, [this] {
+    if (!editing_) before_ = field_;
+    editing_ = true;
+    TheSession().Do([this](Actions& actions) { actions.Edit(Name(), Entry()); });
+  });
+  connect(this, &EntryBox::Entered, this, [this] {
+    EndEntry();
+    TheSession().Do([this](Actions& actions) { actions.Enter(Name(), Entry()); });
+  });
+  connect(this, &EntryBox::Left, this, [this] {
+    if (!Modified()) return;
+    EndEntry();
+    TheSession().Do([this](Actions& actions) { actions.Type(Name(), Entry()); });
+  });
+  connect(this, &EntryBox::Escaped, this, [this] {
+    EndEntry();
+    // The entry is taken back, and then the number itself: its text is rounded.
+    TheSession().Do([this](Actions& actions) {
+      const FtInText before = before_;
+      actions.Edit(Name(), before.Text());
+      field_ = before;
+    });
+  });
+  connect(this, &EntryBox::Stepped, this, &MeasureField::Step);
+}
+
+void MeasureField::EndEntry() {
+  Settle();
+  editing_ = false;
+}
+
+// The spin button that stands in the field's row.
+void MeasureField::Step(bool up) {
+  for (const SpinControl& spin : TheSession().Document().sheet.Spin) {
+    const bool beside = spin.Visible && spin.Host == field_.Host && spin.Top == field_.Top;
+    if (!beside) continue;
+    emit Left();
+    TheSession().Do([&](Actions& actions) { actions.Spin(spin.Name, up); });
+    return selectAll();
+  }
+}
+
+void MeasureField::ShowState() {
+  if (!colored_ || fore_ != field_.ForeColor || back_ != field_.BackColor) {
+    colored_ = true;
+    fore_ = field_.ForeColor;
+    back_ = field_.BackColor;
+    setPalette(FieldPalette(fore_, back_, parentWidget()->palette()));
+  }
+  if (isReadOnly() != field_.ReadOnly) setReadOnly(field_.ReadOnly);
+  ShowText(field_.Text());
+}
+
+void MeasureField::FitTo(const QRect& place) {
+  setFont(FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6));
+}
+
+void MeasureField::contextMenuEvent(QContextMenuEvent* event) {
+  if (!HasIncrement(Name())) return EntryBox::contextMenuEvent(event);
+  ShowPopup(TheSession(), TheSession().Document().menus.mnuSpin, event->globalPos());
+}
+
+}  // namespace pitchcraft

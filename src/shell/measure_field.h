@@ -1,0 +1,35 @@
+// The measurement field as a text box.
+#pragma once
+
+#include "sheet/ft_in_text.h"
+#include "shell/control_view.h"
+#include "shell/entry_box.h"
+
+namespace pitchcraft {
+
+class MeasureField : public EntryBox, public ControlView {
+  Q_OBJECT
+
+ public:
+  MeasureField(Session& session, FtInText& field, QWidget* host);
+
+  QWidget& Widget() override { return *this; }
+  std::vector<QWidget*> TabStops() override { return {this}; }
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  void ShowState() override;
+  void FitTo(const QRect& place) override;
+  void EndEntry();
+  void Step(bool up);
+
+  FtInText& field_;
+  FtInText before_;  ///< as it was before the present entry, for Escape
+  bool editing_ = false;
+  std::uint32_t fore_ = 0, back_ = 0;
+  bool colored_ = false;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,30 @@
+#include "shell/menu_strip.h"
+
+#include "shell/popup_menu.h"
+
+namespace pitchcraft {
+
+MenuStrip::MenuStrip(Session& session, QWidget* window) : QMenuBar(window) {
+  setObjectName("MenuBar");
+  const Menus& menus = session.Document().menus;
+  for (MenuItem* item : menus.Items()) {
+    if (item->Level != 0 || menus.IsPopup(*item)) continue;
+    if (menus.ItemsUnder(*item).empty()) {
+      rows_.emplace_back(item, MakeMenuAction(session, *item, this));
+      addAction(rows_.back().second);
+      continue;
+    }
+    auto* menu = new QMenu(QString::fromStdString(item->Caption), this);
+    menu->setObjectName(QString::fromStdString(item->Name));
+    rows_.emplace_back(item, addMenu(menu));
+    const auto below = FillMenu(session, *item, *menu);
+    rows_.insert(rows_.end(), below.begin(), below.end());
+  }
+  Sync();
+}
+
+void MenuStrip::Sync() {
+  for (const auto& [item, action] : rows_) SyncMenuAction(*action, *item);
+}
+
+}  // namespace pitchcraft

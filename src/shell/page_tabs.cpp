@@ -1,0 +1,47 @@
+#include "shell/page_tabs.h"
+
+#include <QSignalBlocker>
+
+#include "shell/entry_box.h"
+
+namespace pitchcraft {
+
+PageTabs::PageTabs(Session& session, int index, QWidget* host)
+    : QTabBar(host), session_(session), index_(index) {
+  setObjectName(QString("VSTab(%1)").arg(index));
+  setAccessibleName(index == 0 ? tr("Pages") : tr("Front or rear roof"));
+  setExpanding(false);
+  setDrawBase(false);
+  setUsesScrollButtons(true);
+  connect(this, &QTabBar::currentChanged, this, [this](int page) {
+    EntryBox::CommitFocused();
+    session_.Do([&](Actions& actions) { actions.Page(objectName().toStdString(), page); });
+  });
+}
+
+void PageTabs::Sync() {
+  const QSignalBlocker quiet(this);
+  const IndexTab& tab = session_.Document().sheet.VSTab[static_cast<std::size_t>(index_)];
+  if (caption_ != tab.Caption()) {
+    caption_ = tab.Caption();
+    while (count() > tab.PageCount()) removeTab(count() - 1);
+    for (int page = 0; page < tab.PageCount(); ++page) {
+      const QString text = QString::fromStdString(tab.Pages()[static_cast<std::size_t>(page)]);
+      if (page < count()) {
+        setTabText(page, text);
+      } else {
+        addTab(text);
+      }
+    }
+  }
+  if (currentIndex() != tab.Page) setCurrentIndex(tab.Page);
+}
+
+// As high as the strip that it stands in.
+QSize PageTabs::tabSizeHint(int tab) const {
+  QSize size = QTabBar::tabSizeHint(tab);
+  if (height() > 0) size.setHeight(height());
+  return size;
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,48 @@
+// The document behind the window, and the one way to it: an action, then the news that something changed.
+#pragma once
+
+#include <QObject>
+#include <string>
+#include <string_view>
+
+#include "document/actions.h"
+#include "document/frm_document.h"
+
+namespace pitchcraft {
+
+class Session : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Session(const Surroundings& surroundings) : document_(surroundings), actions_(document_) {}
+
+  frmDocument& Document() { return document_; }
+
+  /// Runs `action` with the actions of the document; the widgets take the new state after it. While an action
+  /// waits for its message to be read, no other one can begin.
+  template <typename Action>
+  void Do(Action action) {
+    if (acting_) return;
+    acting_ = true;
+    action(actions_);
+    acting_ = false;
+    emit Changed();
+  }
+
+  /// The pointer or the focus came to something; an empty name when it left.
+  void Hint(std::string_view name) {
+    document_.Hint(name);
+    emit StatusChanged();
+  }
+
+ signals:
+  void Changed();
+  void StatusChanged();
+
+ private:
+  frmDocument document_;
+  Actions actions_;
+  bool acting_ = false;
+};
+
+}  // namespace pitchcraft

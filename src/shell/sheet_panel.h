@@ -1,0 +1,28 @@
+// The design sheet: its rows at the places that the document gives them.
+#pragma once
+
+#include <QWidget>
+
+#include "shell/control_view.h"
+#include "shell/page_tabs.h"
+
+namespace pitchcraft {
+
+class SheetPanel : public QWidget {
+ public:
+  SheetPanel(Session& session, QWidget* window);
+
+  const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
+  PageTabs& RoofTabs() { return *roofTabs_; }
+  /// The panel itself stands where the layout says; its rows follow the layout's scale and origin.
+  void Sync(const FormLayout& layout);
+
+ private:
+  bool IsShown(const Control& control) const;
+
+  Session& session_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  PageTabs* roofTabs_;
+};
+
+}  // namespace pitchcraft

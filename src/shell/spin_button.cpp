@@ -1,0 +1,73 @@
+#include "shell/spin_button.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "shell/arrow_button.h"
+#include "shell/entry_box.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kFirstRepeat = 400;  // milliseconds
+constexpr int kNextRepeats = 60;
+
+}  // namespace
+
+SpinView::SpinView(Session& session, SpinControl& spin, QWidget* host)
+    : QWidget(host), ControlView(session, spin) {
+  setFocusPolicy(Qt::NoFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void SpinView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  EntryBox::CommitFocused();
+  up_ = event->position().y() < height() / 2.0;
+  down_ = !up_;
+  repeat_.start(kFirstRepeat, this);
+  Step();
+}
+
+void SpinView::mouseReleaseEvent(QMouseEvent*) { Stop(); }
+
+void SpinView::timerEvent(QTimerEvent*) {
+  const bool held = QApplication::mouseButtons().testFlag(Qt::LeftButton) && isVisible() &&
+                    QApplication::activeModalWidget() == nullptr;
+  if (!held) return Stop();
+  repeat_.start(kNextRepeats, this);
+  Step();
+}
+
+void SpinView::Step() {
+  const bool up = up_;
+  TheSession().Do([&](Actions& actions) { actions.Spin(Name(), up); });
+  update();
+}
+
+void SpinView::Stop() {
+  repeat_.stop();
+  up_ = down_ = false;
+  update();
+}
+
+void SpinView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF upper(0, 0, width(), height() / 2.0);
+  const QRectF lower = upper.translated(0, height() / 2.0);
+  if (underMouse() && isEnabled()) {
+    painter.setPen(Qt::NoPen);
+    for (const bool up : {true, false}) {
+      const bool pressed = up ? up_ : down_;
+      painter.setBrush(palette().color(pressed ? QPalette::Mid : QPalette::Midlight));
+      painter.drawRoundedRect((up ? upper : lower).adjusted(1, 0.5, -1, -0.5), 2, 2);
+    }
+  }
+  const QColor color = palette().color(QPalette::WindowText);
+  DrawArrow(painter, upper, true, color);
+  DrawArrow(painter, lower, false, color);
+}
+
+}  // namespace pitchcraft

@@ -1,0 +1,79 @@
+#include "shell/tool_strip.h"
+
+#include <QPainter>
+
+#include "shell/entry_box.h"
+#include "shell/hint_watcher.h"
+#include "shell/icons.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kMargin = 4;
+constexpr int kGroupGap = 9;
+constexpr int kIcon = 20;
+
+}  // namespace
+
+ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), session_(session) {
+  setObjectName("tbToolBar");
+  setAccessibleName(tr("Tool bar"));
+  for (const ToolButton& row : session.Document().tbToolBar.Buttons()) {
+    auto* button = new QToolButton(this);
+    const QString key = QString::fromUtf8(row.Key.data(), qsizetype(row.Key.size()));
+    const QString tip = QString::fromUtf8(row.ToolTip.data(), qsizetype(row.ToolTip.size()));
+    button->setObjectName(key);
+    button->setAccessibleName(tip);
+    button->setToolTip(tip);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setIconSize({kIcon, kIcon});
+    button->setIcon(IconOf(row.Key));
+    button->installEventFilter(new HintWatcher(session, row.Key, button));
+    connect(button, &QToolButton::clicked, this, [this, key = row.Key] {
+      EntryBox::CommitFocused();
+      session_.Do([&](Actions& actions) { actions.Press(key); });
+    });
+    buttons_.push_back(button);
+  }
+}
+
+void ToolStrip::Sync() {
+  const auto rows = session_.Document().tbToolBar.Buttons();
+  bool moved = false;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    QToolButton& button = *buttons_[i];
+    const bool checkable = rows[i].RoofListIndex >= 0 || i + 3 >= rows.size();
+    moved = moved || button.isHidden() == rows[i].Visible;
+    button.setCheckable(checkable);
+    button.setChecked(rows[i].Pressed);
+    button.setEnabled(session_.Document().ToolButtonEnabled(rows[i]));
+    button.setVisible(rows[i].Visible);
+  }
+  if (moved) Place();
+}
+
+void ToolStrip::Place() {
+  const auto rows = session_.Document().tbToolBar.Buttons();
+  const int side = height() - 2;
+  int left = kMargin;
+  gaps_.clear();
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (!rows[i].Visible) continue;
+    if (rows[i].StartsGroup && left > kMargin) {
+      gaps_.push_back(left + kGroupGap / 2);
+      left += kGroupGap;
+    }
+    buttons_[i]->setGeometry(left, 1, side, side);
+    left += side;
+  }
+  update();
+}
+
+void ToolStrip::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Mid));
+  for (const int gap : gaps_) painter.drawLine(gap, 5, gap, height() - 6);
+}
+
+}  // namespace pitchcraft

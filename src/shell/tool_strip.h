@@ -1,0 +1,27 @@
+// The tool bar.
+#pragma once
+
+#include <QToolButton>
+
+#include "shell/session.h"
+
+namespace pitchcraft {
+
+class ToolStrip : public QWidget {
+ public:
+  ToolStrip(Session& session, QWidget* window);
+  void Sync();
+
+ protected:
+  void resizeEvent(QResizeEvent*) override { Place(); }
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Place();
+
+  Session& session_;
+  std::vector<QToolButton*> buttons_;
+  std::vector<int> gaps_;  ///< where groups begin
+};
+
+}  // namespace pitchcraft
