@@ -33,6 +33,16 @@ struct Direction {
 
 PointRecord operator+(PointRecord a, PointRecord b) { return {a.X + b.X, a.Y + b.Y}; }
 
+/// The quarter turns are Singles, and what their cosines leave over would tip a level line by a unit where
+/// its ends lie half-way between two: a part in a million is nothing.
+PointRecord Offset(double angle, double distance) {
+  constexpr double kNothing = 1e-6;
+  PointRecord offset = DraftingBoard::AngleDistance(angle, distance);
+  if (std::fabs(offset.X) < kNothing * std::fabs(distance)) offset.X = 0;
+  if (std::fabs(offset.Y) < kNothing * std::fabs(distance)) offset.Y = 0;
+  return offset;
+}
+
 Direction Horizontal(double x1, double x2) { return x1 > x2 ? Direction{kLeft, 180} : Direction{0, 0}; }
 
 Direction Vertical(double y1, double y2) {
@@ -124,20 +134,20 @@ class DimensionDrafter {
 void DimensionDrafter::LayOut() {
   across_ = direction_.Radians + 90 * kRadiansPerDegree;
   forward_ = direction_.Reversed ? direction_.Radians + kLeft : double{direction_.Radians};
-  gap_ = DraftingBoard::AngleDistance(across_, dim_.Gap);
+  gap_ = Offset(across_, dim_.Gap);
   Single leg1 = dim_.Leg;
   Single leg2 = dim_.Leg;
   if (dim_.Kind == kHorizontal || dim_.Kind == kVertical) {
     std::tie(leg1, leg2) = EvenLegs(direction_, p1_, p2_, dim_.Leg);
   }
-  leg1_ = DraftingBoard::AngleDistance(across_, leg1);
-  leg2_ = DraftingBoard::AngleDistance(across_, leg2);
+  leg1_ = Offset(across_, leg1);
+  leg2_ = Offset(across_, leg2);
   end1_ = p1_ + gap_ + leg1_;
   end2_ = p2_ + gap_ + leg2_;
 }
 
 void DimensionDrafter::DrawExtensionLines() {
-  const PointRecord past = DraftingBoard::AngleDistance(across_, dim_.Arrow);
+  const PointRecord past = Offset(across_, dim_.Arrow);
   board_.DimensionStroke(p1_ + gap_, p1_ + gap_ + leg1_ + past);
   board_.DimensionStroke(p2_ + gap_, p2_ + gap_ + leg2_ + past);
 }
@@ -156,7 +166,7 @@ void DimensionDrafter::DrawDimensionLine() {
     board_.DimensionStroke(end1_, end2_);
     return;
   }
-  const PointRecord tail = DraftingBoard::AngleDistance(forward_, 2 * dim_.Arrow);
+  const PointRecord tail = Offset(forward_, 2 * dim_.Arrow);
   board_.DimensionStroke(end1_, {end1_.X - tail.X, end1_.Y - tail.Y});
   board_.DimensionStroke(end2_, end2_ + tail);
 }
@@ -167,10 +177,10 @@ void DimensionDrafter::DrawArrowheads() {
   const double atFirst = outside_ ? kArrowBackHalf : kArrowHalf;
   const double atSecond = outside_ ? kArrowHalf : kArrowBackHalf;
   for (const double half : {atFirst, -atFirst}) {
-    board_.DimensionStroke(end1_, end1_ + DraftingBoard::AngleDistance(forward_ + half, dim_.Arrow));
+    board_.DimensionStroke(end1_, end1_ + Offset(forward_ + half, dim_.Arrow));
   }
   for (const double half : {atSecond, -atSecond}) {
-    board_.DimensionStroke(end2_, end2_ + DraftingBoard::AngleDistance(forward_ + half, dim_.Arrow));
+    board_.DimensionStroke(end2_, end2_ + Offset(forward_ + half, dim_.Arrow));
   }
 }
 

@@ -49,9 +49,10 @@ void TakeCommon(ElevationMember& member, const CRafter& rafter, const DrawingCon
 void TakeHipOrValley(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
   const bool hip = member.Family == ElevationFamily::kHip;
   member.Run = hip ? double{rafter.AdjHipSpan} : double{rafter.AdjValSpan};
-  member.Overhang = rafter.HipValOverhang;
-  member.RunWithOverhang =
-      hip ? double{rafter.AdjHipSpanWithOverhang} : double{rafter.AdjValSpanWithOverhang};
+  // A heel of 0 takes the overhang away after the hip's was worked out from it: the rises then end at the
+  // wall.
+  if (rafter.Overhang != 0) member.Overhang = rafter.HipValOverhang;
+  member.RunWithOverhang = member.Run + member.Overhang;
   member.PlumbCut = rafter.HipValPlumbCut;
   member.Heel = hip ? double{rafter.HipHeel} : double{rafter.Heel};
   member.Seat = rafter.HipValSeat;

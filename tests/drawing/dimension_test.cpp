@@ -131,6 +131,20 @@ TEST_F(DimensionTest, DrawsExtensionLinesOfDifferentLengths) {
   ExpectStroke(1, {300, 12, 300, 94});
 }
 
+TEST_F(DimensionTest, KeepsLevelLinesLevelBetweenTwoUnits) {
+  for (const int kind : {2, 3}) {
+    for (const auto& [p1, p2] : {std::pair<PointRecord, PointRecord>{{0.5, 0.5}, {2000.5, 2000.5}},
+                                 {{2000.5, 2000.5}, {0.5, 0.5}}}) {
+      Draw(kind, p1, p2);
+      for (std::size_t at = 0; at < 3; ++at) {
+        const auto& line = std::get<LineOp>(board.MetaCanvas.Operations()[at]);
+        EXPECT_TRUE(line.From.X == line.To.X || line.From.Y == line.To.Y)
+            << "stroke " << at << " kind " << kind;
+      }
+    }
+  }
+}
+
 TEST_F(DimensionTest, StandsSquareToAlignedPoints) {
   Draw(1, {0, 0}, {300, 400});
   // 28 out from the points, to the upper left.

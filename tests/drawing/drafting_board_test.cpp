@@ -101,7 +101,7 @@ TEST_F(Board, TurnsByMode) {
   };
   const double pi = std::acos(-1.0);
   const Row rows[] = {
-      {0, 0.5, 28.6479}, {1, pi, 0},         {2, 0, 90},        {3, pi / 2, 0},
+      {0, 0.5, 28.6479}, {1, pi, 0},       {2, 0, 90},        {3, pi / 2, 0},
       {7, 0.5, 28.6479}, {2, 1.5 * pi, 0}, {2, 1.9 * pi, 72}, {0, 2.5 * pi, 90},
   };
   for (const Row& row : rows) {
