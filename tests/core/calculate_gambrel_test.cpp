@@ -74,6 +74,16 @@ const CalculationRow kBottom[] = {
       {"AdjSpan", 35.0},
       {"Length1", 91.45941061},
       {"Length2", 118.89723380}}},
+    {"WithoutAPurlinClearsWhatOneLeft",
+     [](CRafter& r) {
+       Bottom(r);
+       r.Purlins = true;
+       r.CalculateGambrel();
+       r.Purlins = false;
+       r.JointOffset = 7;
+     },
+     kGambrel,
+     {{"RidgeAllowance", 0.0}, {"JointOffset", 0.0}, {"AdjSpan", 35.0}}},
     {"WithoutAPurlinAtTwelve",
      [](CRafter& r) {
        Bottom(r);
@@ -192,7 +202,10 @@ const CalculationRow kTop[] = {
       {"RiseToSpan", 35.20815412},
       {"Pitch", " 4.970563/12"}}},
     {"ZeroHeelRestsFlatAndClearsTheOverhang",
-     [](CRafter& r) { Top(r, 0); },
+     [](CRafter& r) {
+       Top(r, 0);
+       r.JointOffset = 7;
+     },
      kGambrel,
      {{"JointOffset", 0.0},
       {"TopCutAngle", 22.5},
@@ -215,6 +228,13 @@ const CalculationRow kTop[] = {
       {"Overhang", 10.5},
       {"Length2", 102.55666154},
       {"RiseToSpanWithOverhang", 39.55739669}}},
+    {"ALittleHeelIsARaisedOne",
+     [](CRafter& r) {
+       Top(r, 0.5);
+       r.JointOffset = 7;
+     },
+     kGambrel,
+     {{"JointOffset", 0.0}, {"TopCutAngle", 90.0}, {"Heel", 0.5}}},
     {"LocksAreNotLookedAt",
      [](CRafter& r) {
        Top(r, 3);

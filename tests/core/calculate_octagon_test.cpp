@@ -54,6 +54,14 @@ const CalculationRow kOctagons[] = {
       {"Pitch", " 6/12"},
       {"HipPitch", " 5.54/12"},
       {"HipEndPitch", ""}}},
+    {"ClearsTheAllowancesOfAHipRoof",
+     [](CRafter& r) {
+       r.Calculate();
+       r.HipValSpan = 0;
+       Hip(r);
+     },
+     kOctagon,
+     {{"RidgeAllowance", 0.0}, {"HipRidgeAllowance", 0.0}}},
     {"LongestJack",
      Jack,
      kOctagon,

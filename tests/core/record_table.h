@@ -81,7 +81,7 @@ inline void ExpectMember(const CRafter& rafter, const ExpectedMember& expected) 
   }
 }
 
-/// Sets up, runs and compares one row; the event must have come exactly once.
+/// Sets up, runs and compares one row; the event must have come exactly once in the run.
 inline void CheckRow(const CalculationRow& row) {
   CRafter rafter;
   SmallHouse(rafter);
