@@ -113,6 +113,7 @@ void frmDocument::Command1_Click(int) {
       field->SetText("");
       field->Calculated = false;
     }
+    BayEditMode = 0;
     Focus(sheet.FtProjection);
     Draw(Drawing::kBayDiagram, Rafter1);
   });

@@ -304,6 +304,9 @@ class frmDocument {
   void SetBayField(FtInText& field, double value, int mode);
   double SolveRegularGambrel(bool knownField);
   double SolveCustomGambrel(const std::string& changed);
+  double UpperSpanFromLowerHeight(double width);
+  void DeriveUpperSlope(double upperSpan);
+  void DeriveLowerSlope(double width, double upperSpan);
   void SetUpperBearing();
   void SetGambrelKind(bool regular);
   enum class GambrelSupport { kPurlins, kWall, kRaised };

@@ -85,31 +85,54 @@ double frmDocument::SolveRegularGambrel(bool knownField) {
   return upper;
 }
 
-// Gives the upper span; the two runs follow from it and the whole width.
+// Gives the upper span; the two runs follow from it and the whole width. Unless a lock box names another
+// derived quantity, a change of the lower roof moves the upper span, and every other change the two heights.
 double frmDocument::SolveCustomGambrel(const std::string& changed) {
   Rafter2.Slope = Rafter1.HipValSlope = sheet.LWSlope[0].LeftValue();
   Rafter1.Slope = Rafter2.HipValSlope = sheet.LWSlope[2].LeftValue();
-  for (CRafter* rafter : {&Rafter1, &Rafter2}) {
-    rafter->degrees = kDegreesPerRadian * std::atan(rafter->Slope / UnitRun);
-  }
   const Single width = sheet.FtSpan[0].Value();
   Single upper = sheet.FtSpan[2].Value();
-  if (changed == "LOWER SPAN" || changed == "LOWER HEIGHT") {
-    const Single lowerHeight = sheet.FtRidge[1].Value();
-    Rafter1.Span = UnitRun * (lowerHeight - Rafter1.Heel) / Rafter1.Slope;
-    upper = width - (Rafter1.Span + Rafter1.Span);
-  } else if (changed == "UPPER HEIGHT") {
-    const Single upperHeight = sheet.FtRidge[0].Value();
-    Rafter2.Slope = UnitRun * upperHeight / (upper / 2);
-    Rafter1.HipValSlope = Rafter2.Slope;
-    sheet.LWSlope[0].SetValues(Rafter2.Slope, UnitRun);
-    sheet.cboDegrees[0].SetText(PlainText(DegreesOfRow(0)));
+  const bool lowerRoof = changed == "LOWER SPAN" || changed == "LOWER HEIGHT";
+  if (sheet.chkLowerSlope.Ticked() && (lowerRoof || changed == "UPPER SPAN")) {
+    DeriveLowerSlope(width, upper);
+  } else if (lowerRoof && !(sheet.chkLowerHeight.Ticked() && changed == "LOWER SPAN")) {
+    upper = UpperSpanFromLowerHeight(width);
+  } else if (changed == "LOWER SLOPE" && sheet.chkUpperSpan.Ticked()) {
+    upper = UpperSpanFromLowerHeight(width);
+  } else if (changed == "UPPER HEIGHT" && sheet.chkUpperSpan.Ticked()) {
+    upper = 2 * UnitRun * sheet.FtRidge[0].Value() / Rafter2.Slope;
+  } else if (changed == "UPPER HEIGHT" || (changed == "UPPER SPAN" && sheet.chkUpperSlope.Ticked())) {
+    DeriveUpperSlope(upper);
   } else if (changed == "UPPER SLOPE") {
     sheet.FtRidge[0].SetValue((upper / 2) * Rafter2.Slope / UnitRun);
+  }
+  for (CRafter* rafter : {&Rafter1, &Rafter2}) {
+    rafter->degrees = kDegreesPerRadian * std::atan(rafter->Slope / UnitRun);
   }
   Rafter1.Span = (width - upper) / 2;
   Rafter2.Span = upper / 2;
   return upper;
+}
+
+// The lower roof keeps its height and slope: what is left of the width is the upper roof's.
+double frmDocument::UpperSpanFromLowerHeight(double width) {
+  const Single lowerHeight = sheet.FtRidge[1].Value();
+  Rafter1.Span = UnitRun * (lowerHeight - Rafter1.Heel) / Rafter1.Slope;
+  return width - (Rafter1.Span + Rafter1.Span);
+}
+
+void frmDocument::DeriveUpperSlope(double upperSpan) {
+  Rafter2.Slope = UnitRun * sheet.FtRidge[0].Value() / (upperSpan / 2);
+  Rafter1.HipValSlope = Rafter2.Slope;
+  sheet.LWSlope[0].SetValues(Rafter2.Slope, UnitRun);
+  sheet.cboDegrees[0].SetText(PlainText(DegreesOfRow(0)));
+}
+
+void frmDocument::DeriveLowerSlope(double width, double upperSpan) {
+  Rafter1.Slope = UnitRun * (sheet.FtRidge[1].Value() - Rafter1.Heel) / ((width - upperSpan) / 2);
+  Rafter2.HipValSlope = Rafter1.Slope;
+  sheet.LWSlope[2].SetValues(Rafter1.Slope, UnitRun);
+  sheet.cboDegrees[2].SetText(PlainText(DegreesOfRow(2)));
 }
 
 // A raised wall support gives the upper rafter a heel of its fascia's plumb height; else it sits on the lower
@@ -156,6 +179,7 @@ void frmDocument::mnuGambrelCustom_Click(int) {
 }
 
 void frmDocument::SetGambrelKind(bool regular) {
+  sheet.txtUpperFascia.Visible = sheet.FTUpperFascia.Visible = false;
   menus.mnuGambrelRegular.Checked = menus.mnuPopup2GambrelRegular.Checked = regular;
   menus.mnuGambrelCustom.Checked = menus.mnuPopup2GambrelCustom.Checked = !regular;
   for (const std::size_t index : {2, 4, 7}) sheet.Spin[index].Enabled = !regular;

@@ -1,0 +1,169 @@
+#include <cmath>
+
+#include "document_test.h"
+
+namespace pitchcraft {
+namespace {
+
+class GambrelDimensionsTest : public DocumentTest {
+ protected:
+  GambrelDimensionsTest() { Pick("cboType", "Gambrel Roof"); }
+  CRafter& top = document.Rafter2;
+};
+
+class CustomGambrelTest : public GambrelDimensionsTest {
+ protected:
+  CustomGambrelTest() {
+    Click("mnuGambrelCustom");
+    Type("FtSpan(0)", "24'");
+    Type("LWSlope(2)", "24 | 12");
+    Type("LWSlope(0)", "6 | 12");
+    Type("FtSpan(2)", "16'");
+  }
+};
+
+TEST_F(GambrelDimensionsTest, ARegularGambrelFitsItsCircle) {
+  Type("FtSpan(0)", "20'");
+  Type("FtOverhang(0)", "12");
+  // Half the width and the overhang are the circle's radius; the break stands on it at 45 degrees.
+  const double q = 132 / std::sqrt(2.0);
+  EXPECT_NEAR(top.Span, q, 1e-4);
+  EXPECT_NEAR(rafter.Span, (240 - 2 * q) / 2, 1e-4);
+  EXPECT_NEAR(top.Slope / 12, std::tan(22.5 * M_PI / 180), 1e-6);
+  EXPECT_NEAR(rafter.Slope / 12, std::tan(67.5 * M_PI / 180), 1e-6);
+  EXPECT_EQ(sheet.LWSlope[0].LeftValue(), 5);
+  EXPECT_EQ(sheet.LWSlope[2].LeftValue(), 29);
+  EXPECT_EQ(sheet.cboDegrees[2].Text(), "67.5");
+  EXPECT_EQ(rafter.degrees, 67.5);
+}
+
+TEST_F(GambrelDimensionsTest, MetricShowsItsOwnSlopes) {
+  Click("mnuMetric");
+  Pick("cboType", "Gambrel Roof");
+  EXPECT_EQ(sheet.LWSlope[0].LeftText(), "414");
+  EXPECT_EQ(sheet.LWSlope[2].LeftText(), "2414");
+  EXPECT_NEAR(top.Slope, 414.213562, 1e-4);
+}
+
+TEST_F(GambrelDimensionsTest, ANameOutsideTheTwelveLeavesTheUpperSpanZero) {
+  document.CalculateGambrelDimensions("Chimney");
+  EXPECT_EQ(sheet.FtSpan[2].Value(), 0);
+  EXPECT_EQ(rafter.Span, 72);
+  EXPECT_EQ(top.Span, 0);
+}
+
+TEST_F(GambrelDimensionsTest, RegularLocksWhatItDerives) {
+  for (const std::size_t spin : {2, 4, 7}) EXPECT_FALSE(sheet.Spin[spin].Enabled) << spin;
+  EXPECT_TRUE(sheet.Spin[3].Enabled);
+  EXPECT_TRUE(sheet.LWSlope[0].Locked && sheet.LWSlope[2].Locked);
+  EXPECT_FALSE(sheet.chkUpperSlope.Visible);
+  Click("mnuGambrelCustom");
+  for (const std::size_t spin : {2, 3, 4, 7}) EXPECT_TRUE(sheet.Spin[spin].Enabled) << spin;
+  EXPECT_FALSE(sheet.LWSlope[0].Locked || sheet.LWSlope[2].Locked);
+  EXPECT_TRUE(sheet.chkUpperSlope.Visible && sheet.chkLowerHeight.Visible);
+  EXPECT_TRUE(menus.mnuGambrelWallSupportRaised.Enabled);
+  EXPECT_TRUE(menus.mnuPopup2GambrelCustom.Checked);
+}
+
+TEST_F(GambrelDimensionsTest, NoHeelNoOverhang) {
+  Check("chkHeel(0)", true);
+  Type("FtHeel(0)", "0");
+  EXPECT_EQ(rafter.Overhang, 0);
+  EXPECT_EQ(sheet.FtOverhang[0].Value(), 0);
+}
+
+TEST_F(CustomGambrelTest, TheTwoRunsShareTheWidth) {
+  EXPECT_EQ(top.Span, 96);
+  EXPECT_EQ(rafter.Span, 48);
+  EXPECT_EQ(rafter.HipValSlope, 6);
+  EXPECT_EQ(top.HipValSlope, 24);
+  EXPECT_NEAR(sheet.FtRidge[0].Value(), 48, 1e-4);
+  EXPECT_NEAR(sheet.FtRidge[1].Value(), 96 + rafter.Heel, 1e-4);
+}
+
+TEST_F(CustomGambrelTest, ALowerHeightMovesTheUpperSpan) {
+  const double heel = rafter.Heel;
+  Type("FtRidge(1)", "8'");
+  EXPECT_NEAR(rafter.Span, (96 - heel) / 2, 1e-3);
+  EXPECT_NEAR(sheet.FtSpan[2].Value(), 288 - (96 - heel), 1e-3);
+}
+
+TEST_F(CustomGambrelTest, AnUpperHeightMovesTheUpperSlope) {
+  Type("FtRidge(0)", "6'");
+  EXPECT_NEAR(top.Slope, 9, 1e-5);
+  EXPECT_NEAR(sheet.LWSlope[0].LeftValue(), 9, 1e-5);
+  EXPECT_EQ(sheet.cboDegrees[0].Text().substr(0, 5), "36.86") << "unrounded";
+}
+
+TEST_F(CustomGambrelTest, AnUpperSlopeMovesTheUpperHeight) {
+  Type("LWSlope(0)", "8 | 12");
+  EXPECT_NEAR(sheet.FtRidge[0].Value(), 64, 1e-4);
+}
+
+TEST_F(CustomGambrelTest, NoUpperSpanGivesAnInfiniteSlopeAndGoesOn) {
+  Type("FtSpan(2)", "0");
+  Type("FtRidge(0)", "4'");
+  EXPECT_TRUE(std::isinf(top.Slope));
+  Type("FtSpan(2)", "16'");
+  Type("LWSlope(0)", "6 | 12");
+  EXPECT_NEAR(sheet.FtRidge[0].Value(), 48, 1e-4);
+}
+
+TEST_F(CustomGambrelTest, SupportsExcludeEachOther) {
+  Click("mnuGambrelWallSupport");
+  EXPECT_FALSE(rafter.Purlins);
+  EXPECT_EQ(sheet.Label[22].Caption, "Ridge:");
+  EXPECT_EQ(top.Heel, 0);
+  Click("mnuGambrelWallSupportRaised");
+  EXPECT_TRUE(sheet.FTUpperFascia.Visible);
+  EXPECT_EQ(sheet.FTUpperFascia.ListIndex(), 0);
+  EXPECT_NEAR(top.Heel, 3.5 * std::sqrt(1.25), 1e-5) << "the plumb height of the fascia on a slope of 6";
+  EXPECT_NEAR(top.Overhang, 3.5 * std::sin(std::atan(0.5)), 1e-5);
+  Click("mnuGambrelPurlins");
+  EXPECT_TRUE(rafter.Purlins && top.Purlins);
+  EXPECT_FALSE(sheet.FTUpperFascia.Visible);
+  EXPECT_EQ(sheet.Label[22].Caption, "Purlins:");
+  EXPECT_EQ(top.Overhang, 0);
+}
+
+TEST_F(CustomGambrelTest, CustomWithRaisedClearedFallsBackToPurlins) {
+  Click("mnuGambrelWallSupportRaised");
+  Click("mnuGambrelRegular");
+  EXPECT_FALSE(menus.mnuGambrelWallSupportRaised.Checked);
+  EXPECT_TRUE(menus.mnuGambrelPurlins.Checked);
+  EXPECT_FALSE(sheet.FTUpperFascia.Visible);
+}
+
+TEST_F(CustomGambrelTest, AnUpperFasciaTallerThanTheRafterIsCutBack) {
+  Click("mnuGambrelWallSupportRaised");
+  Type("FTUpperFascia", "20");
+  EXPECT_EQ(sheet.FTUpperFascia.Text(), "7 1/4\"");
+}
+
+TEST_F(CustomGambrelTest, OneLockBoxAtATime) {
+  Check("chkUpperSlope", true);
+  Check("chkLowerHeight", true);
+  EXPECT_FALSE(sheet.chkUpperSlope.Ticked() || sheet.chkLowerSlope.Ticked() || sheet.chkUpperSpan.Ticked() ||
+               sheet.chkUpperHeight.Ticked());
+  Check("chkLowerHeight", false);
+  EXPECT_TRUE(sheet.chkUpperSlope.Ticked() && sheet.chkLowerSlope.Ticked() && sheet.chkUpperSpan.Ticked() &&
+              sheet.chkUpperHeight.Ticked());
+}
+
+TEST_F(CustomGambrelTest, TheTickedQuantityFollows) {
+  Check("chkUpperSlope", true);
+  Type("FtSpan(2)", "12'");
+  EXPECT_NEAR(top.Slope, 12.0 * 48 / 72, 1e-4) << "the upper height stays at 48";
+  Check("chkLowerSlope", true);
+  const double heel = rafter.Heel, height = sheet.FtRidge[1].Value();
+  Type("FtSpan(2)", "18'");
+  EXPECT_NEAR(rafter.Slope, 12 * (height - heel) / 36, 1e-3);
+  Check("chkUpperSpan", true);
+  Type("LWSlope(0)", "6 | 12");
+  Type("FtRidge(0)", "4'");
+  EXPECT_NEAR(sheet.FtSpan[2].Value(), 192, 1e-3);
+  EXPECT_EQ(top.Slope, 6);
+}
+
+}  // namespace
+}  // namespace pitchcraft
