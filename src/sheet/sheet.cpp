@@ -7,13 +7,13 @@ namespace pitchcraft {
 namespace {
 
 // Columns of the sheet, in twips.
-constexpr int kLabelLeft = 120;
-constexpr int kLabelWidth = 1140;
+constexpr int kLabelLeft = 30;
+constexpr int kLabelWidth = 1215;
 constexpr int kFieldLeft = 1290;
 constexpr int kFieldWidth = 1500;
 constexpr int kSpinLeft = 2805;
 constexpr int kSpinWidth = 240;
-constexpr int kLockLeft = 3120;
+constexpr int kLockLeft = 2820;
 constexpr int kPairWidth = 2250;
 constexpr int kPairLockLeft = 3600;
 constexpr int kBoxSide = 255;

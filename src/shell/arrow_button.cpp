@@ -23,15 +23,19 @@ ArrowButton::ArrowButton(QWidget* parent) : QAbstractButton(parent) {
   setAccessibleName(tr("Open the list"));
 }
 
+void DrawFace(QPainter& painter, const QRectF& box, const QPalette& palette, bool hovered, bool pressed) {
+  const QColor face = palette.color(QPalette::Button);
+  painter.setPen(QPen(palette.color(QPalette::Window).darker(140), 1));
+  painter.setBrush(pressed ? face.darker(115) : hovered ? face.lighter(110) : face);
+  painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+}
+
 void ArrowButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  if (isEnabled() && underMouse()) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(QPalette::Midlight));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
-  }
-  DrawArrow(painter, rect(), false, palette().color(QPalette::WindowText));
+  DrawFace(painter, rect(), palette(), isEnabled() && underMouse(), isDown());
+  const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+  DrawArrow(painter, rect(), false, palette().color(group, QPalette::ButtonText));
 }
 
 }  // namespace pitchcraft

@@ -37,6 +37,7 @@ class EntryBox : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   bool modified_ = false;

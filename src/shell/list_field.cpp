@@ -112,7 +112,7 @@ void ListField::SetLocked(bool locked) {
 
 void ListField::FitTo(const QRect& place) {
   const int count = static_cast<int>(boxes_.size());
-  const int room = place.width() - kArrowWidth - kGap * (count - 1);
+  const int room = place.width() - kArrowWidth - kGap * count;
   const QFont fitted = FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6);
   int left = 0;
   for (int i = 0; i < count; ++i) {

@@ -117,6 +117,7 @@ void MainWindow::PlaceParts() {
   };
   const bool design = Document().sheet.VSTab[0].Page == 0;
   put(*menus_, layout.menuBar, true);
+  menus_->move(0, std::max(0, (ToPixels(layout.menuBar.Height) - menus_->sizeHint().height()) / 2));
   put(*tools_, layout.toolBar, layout.toolBar.Height > 0);
   put(*bay_, layout.bayStrip, layout.bayStrip.Height > 0);
   put(*tabs_, layout.tabStrip, true);

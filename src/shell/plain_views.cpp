@@ -5,10 +5,8 @@
 #include <QStyleOption>
 
 #include "shell/entry_box.h"
-#include "shell/field_look.h"
 
 namespace pitchcraft {
-
 // --- Label
 // ----------------------------------------------------------------------------------------------------------
 
@@ -20,18 +18,7 @@ LabelView::LabelView(Session& session, LabelControl& label, QWidget* host)
 
 void LabelView::ShowState() {
   const QString caption = QString::fromStdString(label_.Caption);
-  if (caption == text()) return;
-  setText(caption);
-  Fit();
-}
-
-void LabelView::FitTo(const QRect& place) {
-  room_ = place.size();
-  Fit();
-}
-
-void LabelView::Fit() {
-  setFont(FittedFont(parentWidget()->font(), text(), room_.width(), room_.height() + 4));
+  if (caption != text()) setText(caption);
 }
 
 // --- Check box
@@ -65,7 +52,8 @@ void CheckView::paintEvent(QPaintEvent* event) {
   const double unit = std::min(width(), height()) / 18.0;
   painter.translate((width() - 16 * unit) / 2, (height() - 16 * unit) / 2);
   painter.scale(unit, unit);
-  const QColor color = palette().color(isChecked() ? QPalette::WindowText : QPalette::Mid);
+  QColor color = palette().color(QPalette::WindowText);
+  if (!isChecked()) color.setAlphaF(0.45F);
   painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap));
   painter.setBrush(Qt::NoBrush);
   const double swing = isChecked() ? 0 : 3.5;

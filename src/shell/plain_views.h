@@ -17,11 +17,8 @@ class LabelView : public QLabel, public ControlView {
  private:
   void ShowState() override;
   void ShowName(const QString&) override {}  // a label's name is its text
-  void FitTo(const QRect& place) override;
-  void Fit();
 
   LabelControl& label_;
-  QSize room_;
 };
 
 /// A tick; where it locks the value of its row it looks like a padlock, open or shut.

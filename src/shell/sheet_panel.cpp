@@ -1,8 +1,18 @@
 #include "shell/sheet_panel.h"
 
+#include <QFontInfo>
+#include <algorithm>
+
+#include "shell/field_look.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
+namespace {
+
+constexpr int kTabsLeft = 4;
+constexpr int kCaptionDrop = 30;  // twips
+
+}  // namespace
 
 SheetPanel::SheetPanel(Session& session, QWidget* window)
     : QWidget(window), session_(session), roofTabs_(new PageTabs(session, 1, this)) {
@@ -11,7 +21,10 @@ SheetPanel::SheetPanel(Session& session, QWidget* window)
   for (const AnyControl& any : session.Document().sheet.Controls()) {
     const Host host = ControlOf(any).Host;
     if (host != Host::kSheet && host != Host::kFrontPage && host != Host::kRearPage) continue;
-    if (auto view = MakeControlView(session, any, this)) views_.push_back(std::move(view));
+    auto view = MakeControlView(session, any, this);
+    if (view == nullptr) continue;
+    if (auto* caption = dynamic_cast<LabelView*>(view.get())) captions_.push_back(caption);
+    views_.push_back(std::move(view));
   }
 }
 
@@ -23,10 +36,23 @@ bool SheetPanel::IsShown(const Control& control) const {
   return control.Visible;
 }
 
+// All captions have one size: the one in which the longest fits.
+void SheetPanel::FitCaptions() {
+  QFont smallest = font();
+  for (const LabelView* caption : captions_) {
+    if (caption->isHidden()) continue;
+    const QFont fitted = FittedFont(font(), caption->text(), caption->width(), caption->height() + 4);
+    if (QFontInfo(fitted).pixelSize() < QFontInfo(smallest).pixelSize()) smallest = fitted;
+  }
+  for (LabelView* caption : captions_) {
+    if (caption->font() != smallest) caption->setFont(smallest);
+  }
+}
+
 void SheetPanel::Sync(const FormLayout& layout) {
   const bool twoRoofs = layout.roofTabs.Height > 0;
   if (twoRoofs) {
-    roofTabs_->setGeometry(ToRect(layout.roofTabs).translated(-x(), -y()));
+    roofTabs_->setGeometry(ToRect(layout.roofTabs).translated(-x(), -y()).adjusted(kTabsLeft, 0, 0, 0));
     roofTabs_->Sync();
   }
   roofTabs_->setVisible(twoRoofs);
@@ -34,10 +60,15 @@ void SheetPanel::Sync(const FormLayout& layout) {
     const Control& control = view->Of();
     const double scale = layout.sheetScale;
     const int origin = control.Host == Host::kSheet ? 0 : layout.sheetOrigin;
-    const QRect place(ToPixels(control.Left * scale), ToPixels((origin + control.Top) * scale),
-                      ToPixels(control.Width * scale), ToPixels(control.Height * scale));
+    QRect place(ToPixels(control.Left * scale), ToPixels((origin + control.Top) * scale),
+                ToPixels(control.Width * scale), ToPixels(control.Height * scale));
+    // A caption stands lower than its field, and is as much less high: their middles are level.
+    if (std::find(captions_.begin(), captions_.end(), view.get()) != captions_.end()) {
+      place.setHeight(place.height() - 2 * ToPixels(kCaptionDrop * scale));
+    }
     view->Sync(IsShown(control), place);
   }
+  FitCaptions();
 }
 
 }  // namespace pitchcraft

@@ -5,6 +5,7 @@
 
 #include "shell/control_view.h"
 #include "shell/page_tabs.h"
+#include "shell/plain_views.h"
 
 namespace pitchcraft {
 
@@ -19,9 +20,11 @@ class SheetPanel : public QWidget {
 
  private:
   bool IsShown(const Control& control) const;
+  void FitCaptions();
 
   Session& session_;
   std::vector<std::unique_ptr<ControlView>> views_;
+  std::vector<LabelView*> captions_;
   PageTabs* roofTabs_;
 };
 

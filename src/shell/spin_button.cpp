@@ -57,15 +57,11 @@ void SpinView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF upper(0, 0, width(), height() / 2.0);
   const QRectF lower = upper.translated(0, height() / 2.0);
-  if (underMouse() && isEnabled()) {
-    painter.setPen(Qt::NoPen);
-    for (const bool up : {true, false}) {
-      const bool pressed = up ? up_ : down_;
-      painter.setBrush(palette().color(pressed ? QPalette::Mid : QPalette::Midlight));
-      painter.drawRoundedRect((up ? upper : lower).adjusted(1, 0.5, -1, -0.5), 2, 2);
-    }
-  }
-  const QColor color = palette().color(QPalette::WindowText);
+  const bool hovered = underMouse() && isEnabled();
+  DrawFace(painter, upper, palette(), hovered, up_);
+  DrawFace(painter, lower, palette(), hovered, down_);
+  const QColor color =
+      palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
   DrawArrow(painter, upper, true, color);
   DrawArrow(painter, lower, false, color);
 }

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "shell/plain_views.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -66,7 +67,10 @@ void TabStrip::Sync() {
   // From the right: each field, then the caption that stands before it.
   for (auto view = views_.rbegin(); view != views_.rend(); ++view) {
     const Control& control = (*view)->Of();
-    const int fieldWidth = ToPixels(control.Width);
+    // A caption takes what its text needs.
+    const auto* caption = dynamic_cast<LabelView*>(view->get());
+    const int needed = caption == nullptr ? 0 : caption->sizeHint().width();
+    const int fieldWidth = std::max(ToPixels(control.Width), needed);
     const QRect place(right - fieldWidth, (height() - HeightOf(control)) / 2, fieldWidth, HeightOf(control));
     (*view)->Sync(control.Visible, place);
     if (control.Visible) right = place.left() - kGap;
