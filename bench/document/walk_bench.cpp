@@ -1,0 +1,37 @@
+// Which actions are slow: a random walk over all roof types, each action timed; the slowest beside the
+// median.
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "../../tests/support/random_walk.h"
+#include "document/null_surroundings.h"
+
+int main() {
+  using namespace pitchcraft;
+  constexpr int kSteps = 50000;
+  constexpr std::size_t kShown = 8;
+  NullSurroundings around;
+  frmDocument document(around.Get());
+  document.Form_Load();
+  RandomWalk walk(document, 1);
+  std::vector<std::pair<double, std::string>> steps;
+  steps.reserve(kSteps);
+  for (int i = 0; i < kSteps; ++i) {
+    const auto start = std::chrono::steady_clock::now();
+    std::string what = walk.Step();
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    steps.emplace_back(seconds, std::move(what));
+  }
+  std::sort(steps.begin(), steps.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+  const double median = steps[kSteps / 2].first;
+  std::printf("%d actions, median %.1f us; the slowest:\n", kSteps, median * 1e6);
+  for (std::size_t i = 0; i < kShown; ++i) {
+    std::printf("  %9.1f us  %6.1f times the median  %s\n", steps[i].first * 1e6, steps[i].first / median,
+                steps[i].second.substr(0, 60).c_str());
+  }
+  return 0;
+}
