@@ -133,6 +133,7 @@ TEST(LeadingNumber, ReadsWhatATextBeginsWith) {
   };
   for (const auto& [text, value] : rows) EXPECT_EQ(LeadingNumber(text), value) << '"' << text << '"';
   EXPECT_EQ(LeadingNumber(std::string(10000, '9')), 0);
+  EXPECT_EQ(LeadingNumber(std::string_view("12345").substr(1, 2)), 23);
 }
 
 TEST(Trimmed, TakesWhiteSpaceOffBothEnds) {
