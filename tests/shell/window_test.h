@@ -1,0 +1,82 @@
+// A real window without a screen, with messages recorded and settings forgotten.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QListWidget>
+#include <QTest>
+#include <QToolButton>
+#include <set>
+
+#include "core/rafter_members.h"
+#include "document/null_surroundings.h"
+#include "shell/entry_box.h"
+#include "shell/main_window.h"
+
+namespace pitchcraft::testing {
+
+/// "12 [LWSlope(0)] 6 | 12, ...": all that a person could tell two documents apart by.
+std::string StateOf(frmDocument& document);
+
+class WindowTest : public ::testing::Test {
+ protected:
+  WindowTest() : window_(surroundings_.Get()) {
+    window_.Open();
+    window_.resize(1000, 700);
+    window_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+  }
+
+  frmDocument& Document() { return window_.Document(); }
+
+  template <typename Widget = QWidget>
+  Widget& Find(const std::string& name) {
+    auto* found = window_.findChild<Widget*>(QString::fromStdString(name));
+    if (found == nullptr) throw std::runtime_error("no widget " + name);
+    return *found;
+  }
+  EntryBox& Box(const std::string& name) { return Find<EntryBox>(name); }
+
+  void Press(const std::string& key) { QTest::mouseClick(&Find<QToolButton>(key), Qt::LeftButton); }
+  void Trigger(const std::string& menuItem) { Find<QAction>(menuItem).trigger(); }
+
+  /// Puts the text into the box as if it was typed over what stands there.
+  static void Fill(EntryBox& box, const QString& text) {
+    box.setFocus();
+    box.selectAll();
+    box.insert(text);
+  }
+  void Type(const std::string& name, const QString& text) {
+    EntryBox& box = Box(name);
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClicks(&box, text);
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  }
+  static std::string FocusName() {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus == nullptr ? "" : focus->objectName().toStdString();
+  }
+
+  /// Counts the calculations of the first rafter from here on.
+  void CountCalculations() {
+    auto calculated = Document().Rafter1.Calculated;
+    Document().Rafter1.Calculated = [this, calculated] {
+      ++calculations_;
+      calculated();
+    };
+  }
+
+  NullSurroundings surroundings_;
+  MainWindow window_;
+  int calculations_ = 0;
+};
+
+}  // namespace pitchcraft::testing
