@@ -49,7 +49,28 @@ class CTextFX {
   /// A missing x or y is the canvas's current position. Without a canvas nothing happens.
   void TextLine(std::string_view text, std::optional<Single> x = {}, std::optional<Single> y = {});
 
+  // --- Effects: one text a character, each placed on its own
+  // -------------------------------------------------------
+  /// Down from (x, y), one cell below the other.
+  void TextVertical(std::string_view text, Single x, Single y);
+  /// Clockwise and evenly round a whole circle, feet inward, the first at `startAngle` degrees.
+  void TextCircle(std::string_view text, Single x, Single y, Single radius, double startAngle = 90);
+  /// Evenly from one angle to the other, feet inward.
+  void TextArc(std::string_view text, Single x, Single y, Single radius, double startAngle, double endAngle);
+  /// As a line at Angle, in GrowColor, from FontHeight to `endHeight`.
+  void GrowTextLine(std::string_view text, Single x, Single y, double endHeight);
+  void GrowTextVertical(std::string_view text, Single x, Single y, double endHeight);
+  void GrowTextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
+                   double endAngle, double endHeight);
+  /// Clockwise from the top in GrowColor, over `turns` whole turns, while the radius goes from one to the
+  /// other.
+  void SpiralText(std::string_view text, Single x, Single y, Single startRadius, Single endRadius,
+                  double turns);
+
  private:
+  class EffectScope;
+  void GrowTextVerticalIn(DrawColor color, std::string_view text, double x, double y, double endHeight);
+  void OnCircle(std::string_view character, double x, double y, double radius, double angle);
   void UseFont() const;
   void ReportBox(std::string_view text, double x, double y) const;
 
