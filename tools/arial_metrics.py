@@ -1,4 +1,4 @@
-#!/usr/bin/python3
+#!/usr/bin/env python3
 """Prints src/drawing/arial_advances.h: the advance widths of an Arial-metric face, regular, bold and italic.
 
 Usage: arial_metrics.py REGULAR.ttf BOLD.ttf ITALIC.ttf BOLDITALIC.ttf | clang-format > src/drawing/arial_advances.h
