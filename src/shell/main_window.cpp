@@ -180,13 +180,4 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-bool MainWindow::event(QEvent* event) {
-  const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::UpdateRequest && !painted_) {
-    painted_ = true;
-    emit Painted();
-  }
-  return handled;
-}
-
 }  // namespace pitchcraft

@@ -24,15 +24,11 @@ class MainWindow : public QWidget {
   /// Shows the window where and how it stood when it was last closed.
   void Open();
 
- signals:
-  void Painted();  ///< the first picture of the window stands
-
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  bool event(QEvent* event) override;
 
  private:
   void Sync();
@@ -57,7 +53,6 @@ class MainWindow : public QWidget {
   bool syncing_ = false;
   bool again_ = false;
   bool closed_ = false;
-  bool painted_ = false;
 };
 
 }  // namespace pitchcraft
