@@ -93,11 +93,11 @@ double frmDocument::SolveCustomGambrel(const std::string& changed) {
   const Single width = sheet.FtSpan[0].Value();
   Single upper = sheet.FtSpan[2].Value();
   const bool lowerRoof = changed == "LOWER SPAN" || changed == "LOWER HEIGHT";
+  const bool lowerHeightFollows = sheet.chkLowerHeight.Ticked() && changed == "LOWER SPAN";
+  const bool upperSpanFollows = sheet.chkUpperSpan.Ticked() && changed == "LOWER SLOPE";
   if (sheet.chkLowerSlope.Ticked() && (lowerRoof || changed == "UPPER SPAN")) {
     DeriveLowerSlope(width, upper);
-  } else if (lowerRoof && !(sheet.chkLowerHeight.Ticked() && changed == "LOWER SPAN")) {
-    upper = UpperSpanFromLowerHeight(width);
-  } else if (changed == "LOWER SLOPE" && sheet.chkUpperSpan.Ticked()) {
+  } else if ((lowerRoof && !lowerHeightFollows) || upperSpanFollows) {
     upper = UpperSpanFromLowerHeight(width);
   } else if (changed == "UPPER HEIGHT" && sheet.chkUpperSpan.Ticked()) {
     upper = 2 * UnitRun * sheet.FtRidge[0].Value() / Rafter2.Slope;

@@ -149,7 +149,8 @@ void frmDocument::Draw(Drawing drawing, const CRafter& rafter) {
   const DrawingRow& row = kDrawings[static_cast<std::size_t>(drawing)];
   DrawingExists = row.procedure != nullptr;
   ClearPicture();
-  if (DrawingExists) Try(row.name, [&] { row.procedure(board, rafter, Context()); });
+  const DrawProcedure procedure = row.procedure;
+  if (procedure != nullptr) Try(row.name, [&] { procedure(board, rafter, Context()); });
 }
 
 DrawingContext frmDocument::Context() const {

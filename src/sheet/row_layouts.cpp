@@ -149,8 +149,16 @@ void PutFields(Sheet& sheet, const RowLayout& rows, int roofType) {
 void PutLabels(Sheet& sheet, const RowLayout& rows, int roofType) {
   const bool lastRow = HasHipOrValleyLumber(roofType) && roofType != roof::kOctagon;
   PutLabel(sheet.Label[11], rows.label11);
-  for (int k = 0; k < 3; ++k) PutLabel(sheet.Label[static_cast<std::size_t>(12 + k)], rows.label12 + 360 * k);
-  for (int k = 0; k < 4; ++k) PutLabel(sheet.Label[static_cast<std::size_t>(15 + k)], rows.label15 + 330 * k);
+  int top = rows.label12;
+  for (const std::size_t label : {12, 13, 14}) {
+    PutLabel(sheet.Label[label], top);
+    top += 360;
+  }
+  top = rows.label15;
+  for (const std::size_t label : {15, 16, 17, 18}) {
+    PutLabel(sheet.Label[label], top);
+    top += 330;
+  }
   PutLabel(sheet.Label[20], rows.label20);
   sheet.Label[15].Visible = rows.fascia != kHidden;
   sheet.Label[18].Visible = lastRow;

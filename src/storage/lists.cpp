@@ -1,5 +1,7 @@
 #include "storage/lists.h"
 
+#include <utility>
+
 namespace pitchcraft {
 
 std::vector<std::string> DefaultLumberRows() {
@@ -16,7 +18,10 @@ std::vector<std::string> DefaultSlopeRows(int unitRun) {
   std::vector<std::string> rows;
   for (int rise = step; rise <= last; rise += step) {
     const std::string text = std::to_string(rise);
-    rows.push_back(text + "/" + run + "|" + text + "|" + run);
+    std::string row = text;
+    for (const std::string& part : {std::string("/"), run, std::string("|"), text, std::string("|"), run})
+      row += part;
+    rows.push_back(std::move(row));
   }
   return rows;
 }
