@@ -8,7 +8,8 @@
 namespace pitchcraft {
 
 frmDocument::frmDocument(const Surroundings& surroundings)
-    : board(meter, [this](double length) { return FtInConverter1.ToText(length); }),
+    : RecentFiles(surroundings.store),
+      board(meter, [this](double length) { return FtInConverter1.ToText(length); }),
       surroundings_(surroundings) {
   menus.mnuSettingsPlumbCut.Checked = true;
   CheckFasciaCut(FasciaCut::kPlumb);
@@ -31,21 +32,18 @@ void frmDocument::Form_Load() {
   Try(kProcedure, [&] { ReadSettingsIntoVariables(); });
   Try(kProcedure, [&] { ColorFields(); });
   Try(kProcedure, [&] { CreateRafters(); });
-  Title = "Pitchcraft - [Untitled]";
+  for (std::size_t place = 0; place < MRU::kPlaces; ++place) {
+    RecentFiles.MenuArray[place] = &menus.mnuFileMRU[place];
+  }
+  Try(kProcedure, [&] { RecentFiles.LoadMRU(); });
+  ShowProjectTitle("Untitled");
   const Settings stored = ReadSettings(surroundings_.store);
   Window.Width = std::max(Window.Width, kMinimumWidth);
   Window.Height = std::max(Window.Height, kMinimumHeight);
   CalcEnabled = true;
   Try(kProcedure, [&] { ShowStoredOptions(stored); });
   tbToolBar.PressRoof(0);
-  // The toggle inverts the checks, so they are set to the other system first.
-  Try(kProcedure, [&] {
-    const bool metric = stored.Units != 0;
-    UnitRun = 1000;
-    menus.mnuMetric.Checked = !metric;
-    menus.mnuImperial.Checked = metric;
-    mnuImperial_Click();
-  });
+  Try(kProcedure, [&] { SwitchUnits(stored.Units != 0); });
   Try(kProcedure, [&] { TakeStoredSpacing(stored); });
   Form_Resize();
   FocusSlope(0);

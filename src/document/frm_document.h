@@ -20,9 +20,13 @@
 #include "sheet/roof_types.h"
 #include "sheet/sheet.h"
 #include "sheet/tool_bar.h"
+#include "storage/project_keys.h"
+#include "storage/recent_files.h"
 #include "storage/settings.h"
 
 namespace pitchcraft {
+
+class IniText;
 
 /// The keys that a field's handler tells apart.
 inline constexpr int kKeyTab = 9;
@@ -60,6 +64,7 @@ class frmDocument {
   Single MetricIncrement = 0.25;  ///< the same, metric
   std::string ProjectName = "Untitled";
   std::string ProjectFile;
+  static constexpr int kTitleLength = 60;  ///< letters of a path in the title
   int LineWidth = 1;
   bool PrintAllBlack = false;
   bool RotateFonts = false;
@@ -78,6 +83,7 @@ class frmDocument {
   ToolBar tbToolBar;
   FtInConverter FtInConverter1;
   ArialMeter meter;
+  MRU RecentFiles;         ///< the four files at the end of the File menu
   DraftingBoard board;     ///< recording, points and dimensions of the drawing shown
   PictureBox Picture1;     ///< drawing of the design page
   PictureBox Picture3;     ///< drawing of all other pages
@@ -167,6 +173,20 @@ class frmDocument {
   void chkUpperSpan_Click(int = 0) { GambrelLock_Click(2); }
   void chkUpperHeight_Click(int = 0) { GambrelLock_Click(3); }
   void chkLowerHeight_Click(int = 0) { GambrelLock_Click(4); }
+
+  // --- Projects
+  // -------------------------------------------------------------------------------------------------------
+  /// Writes the project whole. False, and a message, where it could not be written.
+  bool SaveRafter(const std::string& path);
+  /// Brings the sheet to what the file holds. False, and a message, where the file is none or refused; the
+  /// sheet then stays as far as it got.
+  bool LoadRafter(const std::string& path);
+  void mnuFileNew_Click(int = 0);
+  void mnuFileOpen_Click(int = 0);
+  void mnuFileSave_Click(int = 0);
+  void mnufileSaveAs_Click(int = 0);
+  void mnuFileProjectName_Click(int = 0);
+  void mnuFileMRU_Click(int Index);
 
   // --- Menus
   // ------------------------------------------------------------------------------------------------------
@@ -321,7 +341,22 @@ class frmDocument {
   bool WithHandler(const MenuItem& item, Action action) const;
   void DisableItemsWithoutHandler();
 
+  // Projects.
+  ProjectParts Project() { return {RoofType, Rafter1, Rafter2, sheet, menus}; }
+  bool RefuseProject(const char* why);
+  bool ReadProject(const IniText& file);
+  bool PickProjectRoof(const std::string& text);
+  void ReadProjectKey(const ProjectKey& key, const std::string& text);
+  void PutBackTwice(const IniText& file);
+  void ReadKneewall(const ProjectKey& key, const std::string& text, std::size_t row);
+  void ReadGambrelSupport(const std::string& text);
+  void TakeProjectLocks();
+  void FinishProjectRoof();
+  void OpenProject(const std::string& path);
+  void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
+
   // Settings commands.
+  void SwitchUnits(bool metric);
   enum class FasciaCut { kPlumb, kSquare, kLevel };
   void SetFasciaCut(FasciaCut cut);
   void CheckFasciaCut(FasciaCut cut);

@@ -13,6 +13,11 @@ struct MenuHandlerRow {
 
 // Each popup item calls the handler of its twin.
 constexpr MenuHandlerRow kMenuHandlers[] = {
+    {&Menus::mnuFileNew, &D::mnuFileNew_Click},
+    {&Menus::mnuFileOpen, &D::mnuFileOpen_Click},
+    {&Menus::mnuFileSave, &D::mnuFileSave_Click},
+    {&Menus::mnufileSaveAs, &D::mnufileSaveAs_Click},
+    {&Menus::mnuFileProjectName, &D::mnuFileProjectName_Click},
     {&Menus::mnuFileExit, &D::mnuFileExit_Click},
     {&Menus::mnuSettingsHeelLocked, &D::mnuSettingsHeelLocked_Click},
     {&Menus::mnuSettingsSeatLocked, &D::mnuSettingsSeatLocked_Click},
@@ -69,6 +74,11 @@ bool frmDocument::WithHandler(const MenuItem& item, Action action) const {
   for (std::size_t i = 0; i < menus.mnuDutchLedger.size(); ++i) {
     if (&item != &menus.mnuDutchLedger[i] && &item != &menus.mnuPopUp1Ledger[i]) continue;
     action(&D::mnuDutchLedger_Click, static_cast<int>(i));
+    return true;
+  }
+  for (std::size_t i = 0; i < menus.mnuFileMRU.size(); ++i) {
+    if (&item != &menus.mnuFileMRU[i]) continue;
+    action(&D::mnuFileMRU_Click, static_cast<int>(i));
     return true;
   }
   return false;

@@ -89,6 +89,8 @@ void frmDocument::mnuImperial_Click(int) {
     sheet.VSTab[0].Page = 0;
     sheet.VSTab[1].Page = 0;
     CurrentTab = 0;
+    sheet.txtSpacing.Visible = false;
+    sheet.cboSpacing.Visible = false;
     for (LWCombo& slope : sheet.LWSlope) slope.SetListIndex(0);
     for (ComboControl& degrees : sheet.cboDegrees) degrees.SetListIndex(0);
     TakeDegreesOfFirstSlope();
@@ -96,6 +98,14 @@ void frmDocument::mnuImperial_Click(int) {
     cboSpacing_Click();
     Rafter1.Calculate();
   });
+}
+
+// The toggle inverts the checks, so they are set to the other system first; that system may be the present
+// one.
+void frmDocument::SwitchUnits(bool metric) {
+  menus.mnuMetric.Checked = !metric;
+  menus.mnuImperial.Checked = metric;
+  mnuImperial_Click();
 }
 
 // A heel, seat or kneewall of the other system is discarded, and with it its lock.

@@ -1,0 +1,93 @@
+// The File menu: new, open, save, the project's name, the recent files.
+#include <filesystem>
+
+#include "core/number_text.h"
+#include "document/frm_document.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr const char* kExtension = "pcf";
+constexpr const char* kFilter = "Rafter (*.pcf)|*.pcf|all files (*.*)|*.*";
+constexpr const char* kNewPrompt =
+    "Enter a name for the new project:\n\nThe project name is used as the filename when saving a project and "
+    "also appears on all printed pages.";
+
+/// A name without an extension gets that of the projects, as the dialogs of a desktop do it.
+std::string WithExtension(const std::string& path) {
+  const bool has = FileNameOf(path).find('.') != std::string::npos;
+  return has || path.empty() ? path : path + "." + kExtension;
+}
+
+std::string NameOfProject(const std::string& path) {
+  const std::string name = FileNameOf(path);
+  return name.substr(0, name.find('.'));
+}
+
+bool Exists(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
+
+}  // namespace
+
+// A new project begins with a common gable; the values of the sheet stay.
+void frmDocument::mnuFileNew_Click(int) {
+  Try("mnuFileNew_Click", [&] {
+    if (sheet.VSTab[0].Page != 0) VSTab_Switch(0, sheet.VSTab[0].Page, 0);
+    sheet.cboType.SetListIndex(0);
+    cboType_Click();
+    const auto answer = surroundings_.dialogs.Input({"New Project", kNewPrompt, ProjectName});
+    if (answer && !answer->empty()) ProjectName = *answer;
+    ShowProjectTitle(ProjectName);
+  });
+}
+
+void frmDocument::mnuFileProjectName_Click(int) {
+  const auto answer =
+      surroundings_.dialogs.Input({"New Project", "Enter a name for this project:", ProjectName});
+  if (!answer || answer->empty()) return;
+  ProjectName = *answer;
+  ShowProjectTitle(ProjectName);
+}
+
+void frmDocument::mnuFileOpen_Click(int) {
+  Try("mnuFileOpen_Click", [&] {
+    const auto answer = surroundings_.dialogs.OpenFile(
+        {"Open Project", surroundings_.programFolder, "", kExtension, kFilter, true, false});
+    const std::string path(Trimmed(answer.value_or("")));
+    if (path.empty()) return;
+    OpenProject(Exists(path) ? path : WithExtension(path));
+  });
+}
+
+void frmDocument::OpenProject(const std::string& path) {
+  ProjectFile = path;
+  if (LoadRafter(ProjectFile)) ProjectName = NameOfProject(ProjectFile);
+}
+
+// The project is written in any case, also after a Save As that was cancelled: without a file that is an
+// error.
+void frmDocument::mnuFileSave_Click(int) {
+  if (ProjectFile.empty()) mnufileSaveAs_Click();
+  SaveRafter(ProjectFile);
+}
+
+void frmDocument::mnufileSaveAs_Click(int) {
+  Try("mnufileSaveAs_Click", [&] {
+    const auto answer = surroundings_.dialogs.SaveFile(
+        {"Save Project", surroundings_.programFolder, ProjectName, kExtension, kFilter, false, true});
+    const std::string path(Trimmed(answer.value_or("")));
+    if (path.empty()) return;
+    ProjectFile = WithExtension(path);
+    if (SaveRafter(ProjectFile)) ShowProjectTitle(MRU::LongDirFix(ProjectFile, kTitleLength));
+  });
+}
+
+void frmDocument::mnuFileMRU_Click(int Index) {
+  const auto place = static_cast<std::size_t>(Index);
+  if (place >= menus.mnuFileMRU.size() || menus.mnuFileMRU[place].Caption.empty()) return;
+  OpenProject(RecentFiles.MRUSelected(Index));
+}
+
+}  // namespace pitchcraft

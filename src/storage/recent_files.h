@@ -1,0 +1,61 @@
+// The last four projects in the File menu.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "sheet/menus.h"
+#include "storage/keyed_store.h"
+
+namespace pitchcraft {
+
+/// Keeps captions ("&1 " and the shortened path) and full paths in the store, under AppName and Section. The
+/// caption shows the path in proper case; what is opened is the path as it is, since case counts on some
+/// disks. "/" separates folders like "\".
+class MRU {
+ public:
+  static constexpr std::size_t kPlaces = 4;
+
+  explicit MRU(KeyedStore& store) : store_(store) {}
+
+  std::array<MenuItem*, kPlaces> MenuArray{};  ///< the menu items; none of them may be null while in use
+  std::string AppName = "Rafter";
+  std::string Section = "MRU";
+  bool ProperCase = true;
+
+  int MenuLength() const { return menuLength_; }
+  /// A length that is not above 0 is ignored.
+  void SetMenuLength(int length);
+
+  /// Shows what is stored in the menu items; an item without a file is hidden.
+  void LoadMRU();
+  /// Puts a file on the first place, the others move down; no file stands twice.
+  void AddNewFile(const std::string& path);
+  /// The full path behind the item of that index, counted from 0; empty when there is none.
+  std::string MRUSelected(int index) const;
+
+  /// Shortens a path to about `length` letters: its first three, "...", and the last folders and the name.
+  static std::string LongDirFix(const std::string& path, int length);
+  /// Each word's first letter capital, the others small. A word begins behind a blank or a separator.
+  std::string ProperCaseTitle(const std::string& text) const;
+  /// Lets go of the menu items.
+  void Destroy() { MenuArray = {}; }
+
+ private:
+  struct Entry {
+    std::string name;  // the caption without "&1 "
+    std::string path;
+  };
+  Entry Read(std::size_t place) const;
+  void Write(std::size_t place, const Entry& entry);
+
+  KeyedStore& store_;
+  int menuLength_ = 60;
+};
+
+/// What follows the last separator of a path.
+std::string FileNameOf(const std::string& path);
+
+}  // namespace pitchcraft
