@@ -62,7 +62,12 @@ std::unique_ptr<ControlView> MakeControlView(Session& session, const AnyControl&
   const Control& common = ControlOf(control);
   widget.hide();
   widget.setObjectName(QString::fromStdString(common.Name));
-  if (!common.ToolTip.empty()) widget.setToolTip(QString::fromStdString(common.ToolTip));
+  if (!common.ToolTip.empty()) {
+    const QString tip = QString::fromStdString(common.ToolTip);
+    widget.setToolTip(tip);
+    widget.setAccessibleDescription(tip);
+    for (QWidget* part : view->TabStops()) part->setAccessibleDescription(tip);
+  }
   if (std::holds_alternative<LabelControl*>(control)) return view;
   auto* watcher = new HintWatcher(session, common.Name, &widget);
   widget.installEventFilter(watcher);

@@ -70,7 +70,11 @@ void MainWindow::Open() {
   if (document.WindowState == kMaximized) {
     showMaximized();
   } else {
-    Document().WindowState = kNormal;
+    // A window that was put away is laid out only now.
+    if (document.WindowState == kMinimized) {
+      Document().WindowState = kNormal;
+      session_.Do([this](Actions&) { Document().Form_Resize(); });
+    }
     show();
   }
 }

@@ -54,7 +54,7 @@ TEST_F(PictureFiles, SvgHoldsTheDrawing) {
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const std::string text = file.readAll().toStdString();
   EXPECT_THAT(text, StartsWith("<svg"));
-  EXPECT_THAT(text, HasSubstr("M8 296 592 4"));
+  EXPECT_THAT(text, HasSubstr("M16 292 584 8"));
 }
 
 TEST_F(PictureFiles, FileIsReplacedWhole) {

@@ -1,4 +1,6 @@
 // The way of Tab, and what everything is called.
+#include <QAccessible>
+
 #include "window_test.h"
 
 namespace pitchcraft::testing {
@@ -103,6 +105,23 @@ TEST_F(Names, EveryMenuItemOfTheBarIsAnActionOfItsName) {
     ASSERT_NE(action, nullptr) << item->Name;
     EXPECT_EQ(action->isVisible(), item->Visible) << item->Name;
   }
+}
+
+TEST_F(Names, AssistiveProgramsReadAndWriteAField) {
+  EntryBox& box = Box("FtSpan(0)");
+  QAccessibleInterface* field = QAccessible::queryAccessibleInterface(&box);
+  ASSERT_NE(field, nullptr);
+  EXPECT_EQ(field->text(QAccessible::Name), "Run");
+  EXPECT_EQ(field->text(QAccessible::Value), "12' 0\"");
+  EXPECT_EQ(field->role(), QAccessible::EditableText);
+  ASSERT_NE(field->editableTextInterface(), nullptr);
+  box.setFocus();
+  field->editableTextInterface()->replaceText(0, int(box.text().size()), "8'");
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(double(Document().Rafter1.Span), 96);
+  QAccessibleInterface* lock = QAccessible::queryAccessibleInterface(&Find("chkHeel(0)"));
+  EXPECT_EQ(lock->text(QAccessible::Name), "Heel, lock");
+  EXPECT_EQ(lock->text(QAccessible::Description), "Lock or unlock the heel height dimension");
 }
 
 TEST_F(Names, RowsCalledDifferentlyInAnotherRoofAreSo) {

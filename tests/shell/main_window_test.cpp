@@ -195,6 +195,21 @@ TEST_F(Window, ClosingWritesTheSettings) {
   EXPECT_EQ(settings.Units, 1);
 }
 
+TEST_F(Window, WindowThatWasPutAwayComesBackWhole) {
+  NullSurroundings surroundings;
+  Settings settings;
+  settings.WindowState = 1;
+  settings.MainWidth = 900 * 15;
+  settings.MainHeight = 650 * 15;
+  WriteSettings(settings, surroundings.store);
+  MainWindow next(surroundings.Get());
+  next.Open();
+  QApplication::processEvents();
+  EXPECT_TRUE(next.isVisible());
+  EXPECT_FALSE(next.isMinimized());
+  EXPECT_GT(LitPixels(*next.findChild<QWidget*>("Picture1")), 500);
+}
+
 TEST_F(Window, NextWindowStandsWhereTheLastOneStood) {
   window_.move(60, 40);
   window_.resize(900, 650);
