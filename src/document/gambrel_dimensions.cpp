@@ -150,10 +150,15 @@ void frmDocument::SetUpperBearing() {
 
 void frmDocument::FTUpperFascia_Click(int) {
   Try("FTUpperFascia_Click", [&] {
-    if (Imperial()) FtInConverter1.Units = kInchesAlone;
     const double height = FtInConverter1.ToValue(sheet.FTUpperFascia.Text());
-    sheet.FTUpperFascia.SetText(FtInConverter1.ToText(std::min(height, double{Rafter1.Depth})));
-    if (Imperial()) FtInConverter1.Units = kFeetAndInches;
+    const bool tooTall = height > Rafter1.Depth;
+    if (Imperial()) {
+      FtInConverter1.Units = kInchesAlone;
+      sheet.FTUpperFascia.SetText(FtInConverter1.ToText(tooTall ? double{Rafter1.Depth} : height));
+      FtInConverter1.Units = kFeetAndInches;
+    } else if (tooTall) {
+      sheet.FTUpperFascia.SetText(PlainText(Rafter1.Depth));
+    }
     CalculateGambrelDimensions("Heel");
     const int page = sheet.VSTab[0].Page;
     if (page == 1 || page == 2) Draw(Drawing::kGambrelRafter, page == 1 ? Rafter1 : Rafter2);

@@ -30,6 +30,7 @@ void frmDocument::LeaveRoofType() {
     Rafter1.Span = SavedGableSpan;
     Rafter1.Slope = SavedGableSlope;
     ShowDegreesOf(0);
+    sheet.FtSpan[0].SetValue(Rafter1.Span);
     SavedGableSpan = 0;
     SavedGableSlope = 0;
   }

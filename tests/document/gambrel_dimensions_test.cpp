@@ -140,6 +140,18 @@ TEST_F(CustomGambrelTest, AnUpperFasciaTallerThanTheRafterIsCutBack) {
   EXPECT_EQ(sheet.FTUpperFascia.Text(), "7 1/4\"");
 }
 
+TEST_F(GambrelDimensionsTest, AMetricUpperFasciaKeepsItsText) {
+  Click("mnuMetric");
+  Pick("cboType", "Gambrel Roof");
+  Click("mnuGambrelCustom");
+  Click("mnuGambrelWallSupportRaised");
+  Pick("FTUpperFascia", "140");
+  EXPECT_EQ(sheet.FTUpperFascia.Text(), "140");
+  EXPECT_EQ(sheet.FTUpperFascia.ListIndex(), 4);
+  Type("FTUpperFascia", "500");
+  EXPECT_EQ(sheet.FTUpperFascia.Text(), "184");
+}
+
 TEST_F(CustomGambrelTest, OneLockBoxAtATime) {
   Check("chkUpperSlope", true);
   Check("chkLowerHeight", true);

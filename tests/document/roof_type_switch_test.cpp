@@ -93,6 +93,18 @@ TEST_F(RoofTypeSwitchTest, LeavingAGambrelBringsTheSpanAndSlopeBack) {
   EXPECT_FALSE(sheet.LWSlope[0].Locked);
 }
 
+TEST_F(RoofTypeSwitchTest, AnotherRoofAfterAGambrelBeginsFromTheSpanBefore) {
+  Pick("cboType", "Gambrel Roof");
+  Type("FtSpan(0)", "30'");
+  Pick("cboType", "Dutch Hip");
+  EXPECT_EQ(sheet.FtSpan[0].Value(), 144);
+  EXPECT_EQ(sheet.FtSpan[2].Value(), 96);
+  Pick("cboType", "Gambrel Roof");
+  Type("FtSpan(0)", "30'");
+  Pick("cboType", "Gambrel Roof");
+  EXPECT_EQ(document.SavedGableSpan, 144);
+}
+
 TEST_F(RoofTypeSwitchTest, ALevelCutEndsWithTheGambrel) {
   Pick("cboType", "Gambrel Roof");
   Expect(actions.Press("Level"));
