@@ -1,9 +1,9 @@
 #include "cli/file_store.h"
 
 #include <fstream>
-#include <system_error>
 
 #include "cli/json_number.h"
+#include "storage/whole_file.h"
 
 namespace pitchcraft {
 
@@ -33,17 +33,7 @@ bool FileStore::Save() const {
   Json stored = Json::object();
   ForEach([&](const std::string& application, const std::string& section, const std::string& key,
               const std::string& text) { stored[application][section][key] = text; });
-  std::filesystem::path temporary = file_;
-  temporary += ".new";
-  {
-    std::ofstream stream(temporary, std::ios::binary | std::ios::trunc);
-    stream << stored.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
-    stream.flush();
-    if (!stream) return false;
-  }
-  std::error_code error;
-  std::filesystem::rename(temporary, file_, error);
-  return !error;
+  return WriteWholeFile(file_, stored.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 }  // namespace pitchcraft

@@ -51,6 +51,31 @@ void ScriptDialogs::MsgBox(const std::string& title, const std::string& text) {
   PrintEvent(output_, {{"event", "message"}, {"title", title}, {"text", text}});
 }
 
+std::optional<std::string> ScriptDialogs::OpenFile(const FileDialog& dialog) {
+  return Answer("open", dialog.Title, dialog.Name);
+}
+
+std::optional<std::string> ScriptDialogs::SaveFile(const FileDialog& dialog) {
+  return Answer("save", dialog.Title, dialog.Name);
+}
+
+std::optional<std::string> ScriptDialogs::Input(const InputBox& box) {
+  return Answer("input", box.Title, box.Name);
+}
+
+std::optional<std::string> ScriptDialogs::Answer(const char* kind, const std::string& title,
+                                                 const std::string& name) {
+  std::optional<std::string> answer;
+  if (!answers.empty()) {
+    answer = std::move(answers.front());
+    answers.pop_front();
+  }
+  Json event{{"event", "dialog"}, {"kind", kind}, {"title", title}, {"name", name}, {"answer", nullptr}};
+  if (answer) event["answer"] = *answer;
+  PrintEvent(output_, event);
+  return answer;
+}
+
 Script::Script(frmDocument& document, ScriptDialogs& dialogs, std::ostream& output,
                PictureWriter writePicture)
     : document_(document),

@@ -24,16 +24,22 @@ inline constexpr int kDone = 0;
 inline constexpr int kWorkFailed = 1;
 inline constexpr int kNotUnderstood = 2;
 
-/// Dialogs that a script answers: a message becomes an event, a reply is taken from the queue.
+/// Dialogs that a script answers: a message becomes an event, a reply is taken from the queue. A dialog that
+/// comes up with none queued is cancelled.
 class ScriptDialogs final : public Dialogs {
  public:
   explicit ScriptDialogs(std::ostream& output) : output_(output) {}
   void MsgBox(const std::string& title, const std::string& text) override;
+  std::optional<std::string> OpenFile(const FileDialog& dialog) override;
+  std::optional<std::string> SaveFile(const FileDialog& dialog) override;
+  std::optional<std::string> Input(const InputBox& box) override;
 
   /// Replies to the dialogs to come; no value is Cancel.
   std::deque<std::optional<std::string>> answers;
 
  private:
+  std::optional<std::string> Answer(const char* kind, const std::string& title, const std::string& name);
+
   std::ostream& output_;
 };
 

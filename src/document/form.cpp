@@ -3,7 +3,6 @@
 
 #include "document/frm_document.h"
 #include "sheet/row_layouts.h"
-#include "storage/lists.h"
 
 namespace pitchcraft {
 
@@ -197,28 +196,6 @@ void frmDocument::TakeStoredSpacing(const Settings& stored) {
 
 void frmDocument::MsgBox(const std::string& text, const std::string& title) {
   surroundings_.dialogs.MsgBox(title, text);
-}
-
-// --- Lists
-// ----------------------------------------------------------------------------------------------------------
-
-void frmDocument::DefaultLumberList() {
-  const std::vector<std::string> rows = DefaultLumberRows();
-  for (LWCombo* field : {&sheet.LWRafter[0], &sheet.LWRafter[1], &sheet.LWRidge, &sheet.LWFascia[0],
-                         &sheet.LWFascia[1], &sheet.LWHipVal}) {
-    field->Clear();
-    for (const std::string& row : rows) field->AddEntry(row);
-  }
-}
-
-void frmDocument::DefaultSlopeList() {
-  for (LWCombo& slope : sheet.LWSlope) slope.Clear();
-  for (ComboControl& degrees : sheet.cboDegrees) degrees.SetList(DefaultDegreeRows());
-  // The list of row 2 stays empty: an end slope is typed, and any slope is as likely as another.
-  for (const std::string& row : DefaultSlopeRows(UnitRun)) {
-    sheet.LWSlope[0].AddEntry(row);
-    sheet.LWSlope[1].AddEntry(row);
-  }
 }
 
 }  // namespace pitchcraft

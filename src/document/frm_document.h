@@ -226,6 +226,7 @@ class frmDocument {
   /// to show, or null.
   MenuItem* Picture_MouseDown(int picture, int button, int x, int y);
 
+  /// Fill the lists of the fields, from the program's folder or with the usual rows.
   void DefaultLumberList();
   void DefaultSlopeList();
 
@@ -252,6 +253,7 @@ class frmDocument {
   void ShowStoredOptions(const Settings& stored);
   void TakeStoredSpacing(const Settings& stored);
   void LayOutPictures();
+  void FillDegreeLists();
 
   // Dispatch.
   void StartRoof(bool FromFile);
@@ -403,6 +405,7 @@ class frmDocument {
   DrawingContext Context() const;
 
   Surroundings surroundings_;
+  bool degreesFailed_ = false;  ///< the list of degrees could not be read or made
   std::array<std::string, 2>
       keptFasciaHeight_;  ///< RightText of LWFascia before the last change away from plumb
 };
