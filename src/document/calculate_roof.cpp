@@ -140,15 +140,20 @@ void frmDocument::ShowFrontRow() {
     sheet.FtSeat[0].SetValue(Rafter1.Seat);
     return;
   }
-  sheet.LWSlope[0].SetValues(Rafter1.Slope, UnitRun);
-  ShowResult(sheet.FtSpan[0], Rafter1.Span);
-  ShowResult(sheet.FtOverhang[0], Rafter1.Overhang);
-  ShowResult(sheet.FtHeel[0], Rafter1.CommonHeel);
-  ShowResult(sheet.FtSeat[0], Rafter1.CommonSeat);
-  sheet.LWRafter[0].SetValues(Rafter1.Thickness, Rafter1.Depth);
+  ShowRow(0, Rafter1);
   sheet.LWRidge.SetValues(Rafter1.RidgeThickness, Rafter1.RidgeDepth);
-  sheet.LWFascia[0].SetValues(Rafter1.FasciaThickness, Rafter1.FasciaHeight);
   sheet.LWHipVal.SetValues(Rafter1.HipValThickness, Rafter1.HipValDepth);
+}
+
+// The heel and the seat are those after the limits: this is how a person sees a clamped value.
+void frmDocument::ShowRow(std::size_t row, const CRafter& rafter) {
+  sheet.LWSlope[row].SetValues(rafter.Slope, UnitRun);
+  ShowResult(sheet.FtSpan[row], rafter.Span);
+  ShowResult(sheet.FtOverhang[row], rafter.Overhang);
+  ShowResult(sheet.FtHeel[row], rafter.CommonHeel);
+  ShowResult(sheet.FtSeat[row], rafter.CommonSeat);
+  sheet.LWRafter[row].SetValues(rafter.Thickness, rafter.Depth);
+  sheet.LWFascia[row].SetValues(rafter.FasciaThickness, rafter.FasciaHeight);
 }
 
 // The second rafter of a roof that has two. True when the event ends with it.
@@ -226,21 +231,11 @@ void frmDocument::RedrawAfterRafter1() {
 void frmDocument::Rafter2_Calculated() {
   constexpr const char* kProcedure = "Rafter2_Calculated";
   switch (RoofType) {
-    case roof::kDualSlope: Try(kProcedure, [&] { ShowRearRow(); }); return Draw(Drawing::kSaltbox, Rafter1);
+    case roof::kDualSlope: Try(kProcedure, [&] { ShowRow(1, Rafter2); }); return Draw(Drawing::kSaltbox, Rafter1);
     case roof::kDutchHip: return Draw(Drawing::kDutchPlan, Rafter2);
     case roof::kUnequalSpanValley: return Draw(Drawing::kUnequalSpanValley, Rafter2);
     default: return;
   }
-}
-
-void frmDocument::ShowRearRow() {
-  sheet.LWSlope[1].SetValues(Rafter2.Slope, UnitRun);
-  ShowResult(sheet.FtSpan[1], Rafter2.Span);
-  ShowResult(sheet.FtOverhang[1], Rafter2.Overhang);
-  ShowResult(sheet.FtHeel[1], Rafter2.CommonHeel);
-  ShowResult(sheet.FtSeat[1], Rafter2.CommonSeat);
-  sheet.LWRafter[1].SetValues(Rafter2.Thickness, Rafter2.Depth);
-  sheet.LWFascia[1].SetValues(Rafter2.FasciaThickness, Rafter2.FasciaHeight);
 }
 
 }  // namespace pitchcraft
