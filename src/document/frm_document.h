@@ -262,7 +262,7 @@ class frmDocument {
   void StartDualSlope(bool FromFile);
   void StartDutchHip();
   void ShowFrontRow();
-  void ShowRearRow();
+  void ShowRow(std::size_t row, const CRafter& rafter);
   bool ChainRafter2();
   void RedrawAfterRafter1();
 
