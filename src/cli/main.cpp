@@ -6,9 +6,11 @@
 #include <memory>
 #include <string>
 
+#include "cli/dump.h"
 #include "cli/file_store.h"
 #include "cli/script.h"
 #include "platform/picture_files.h"
+#include "platform/program_folder.h"
 #include "platform/qt_store.h"
 
 namespace pitchcraft {
@@ -39,6 +41,55 @@ struct Stores {
   bool Save() { return file ? file->Save() : user->Sync(); }
 };
 
+/// Settings that are read where they are and written nowhere: a project that is only looked at changes
+/// nothing of the user's.
+class LookedAtStore final : public MemoryStore {
+ public:
+  explicit LookedAtStore(const KeyedStore& real) : real_(real) {}
+  std::optional<std::string> Get(const std::string& application, const std::string& section,
+                                 const std::string& key) const override {
+    const std::optional<std::string> own = MemoryStore::Get(application, section, key);
+    return own ? own : real_.Get(application, section, key);
+  }
+
+ private:
+  const KeyedStore& real_;
+};
+
+std::filesystem::path FolderOf(const std::string& data) {
+  return data.empty() ? ProgramFolder() : std::filesystem::path(data);
+}
+
+/// What `calc` and `draw` are told.
+struct ProjectRequest {
+  std::string data;
+  std::string project;
+  int page = 0;
+  std::string out;  ///< empty for `calc`
+};
+
+int ShowProject(const ProjectRequest& request) {
+  Stores stores(request.data);
+  LookedAtStore store(stores.Get());
+  ScriptDialogs dialogs(std::cout);
+  frmDocument document({dialogs, store, FolderOf(request.data)});
+  document.Form_Load();
+  if (!document.OpenProject(request.project)) {
+    std::cout.flush();
+    return Fail("cannot open " + request.project, kWorkFailed);
+  }
+  if (request.out.empty()) {
+    PrintEvent(std::cout, DumpOf(document));
+  } else {
+    if (const Refusal refusal = Actions(document).Page("VSTab(0)", request.page)) {
+      return Fail(*refusal, kNotUnderstood);
+    }
+    if (const auto failure = WriteShownPicture(document, request.out)) return Fail(*failure, kWorkFailed);
+  }
+  std::cout.flush();
+  return std::cout ? kDone : Fail("the output could not be written", kWorkFailed);
+}
+
 int RunScript(const std::string& data, const std::string& scriptFile) {
   std::ifstream file;
   const bool fromFile = !scriptFile.empty() && scriptFile != "-";
@@ -50,7 +101,7 @@ int RunScript(const std::string& data, const std::string& scriptFile) {
   }
   Stores stores(data);
   ScriptDialogs dialogs(std::cout);
-  frmDocument document({dialogs, stores.Get(), data});
+  frmDocument document({dialogs, stores.Get(), FolderOf(data)});
   document.Form_Load();
   Script script(document, dialogs, std::cout, &WriteShownPicture);
   const int status = script.Run(fromFile ? file : std::cin);
@@ -67,12 +118,22 @@ int Main(int argc, char** argv) {
                "pitchcraft-cli");
   app.set_version_flag("--version", std::string("pitchcraft-cli ") + PITCHCRAFT_VERSION);
   app.require_subcommand(1);
-  std::string data;
+  ProjectRequest request;
   std::string scriptFile;
   CLI::App* run = app.add_subcommand("run", "Runs a script and prints one JSON object a line");
-  run->add_option("--data", data, "Folder that holds lists and settings instead of the user's own")
-      ->check(CLI::ExistingDirectory);
   run->add_option("script", scriptFile, "Script file; standard input with - or none");
+  CLI::App* calc = app.add_subcommand("calc", "Opens a project and prints all of it as one JSON object");
+  CLI::App* draw = app.add_subcommand("draw", "Opens a project and writes the drawing of a page");
+  for (CLI::App* command : {calc, draw}) {
+    command->add_option("project", request.project, "Project file (.pcf)")->required();
+  }
+  draw->add_option("--page", request.page, "Page, counted from 0")->required();
+  draw->add_option("--out", request.out, "Picture to write: .png or .svg")->required();
+  for (CLI::App* command : {run, calc, draw}) {
+    command
+        ->add_option("--data", request.data, "Folder that holds lists and settings instead of the user's own")
+        ->check(CLI::ExistingDirectory);
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& success) {
@@ -80,7 +141,9 @@ int Main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return Fail(error.what(), kNotUnderstood);
   }
-  return RunScript(data, scriptFile);
+  if (run->parsed()) return RunScript(request.data, scriptFile);
+  if (draw->parsed() && request.out.empty()) return Fail("--out names no file", kNotUnderstood);
+  return ShowProject(request);
 }
 
 }  // namespace

@@ -61,9 +61,11 @@ void frmDocument::mnuFileOpen_Click(int) {
   });
 }
 
-void frmDocument::OpenProject(const std::string& path) {
+bool frmDocument::OpenProject(const std::string& path) {
   ProjectFile = path;
-  if (LoadRafter(ProjectFile)) ProjectName = NameOfProject(ProjectFile);
+  if (!LoadRafter(ProjectFile)) return false;
+  ProjectName = NameOfProject(ProjectFile);
+  return true;
 }
 
 // The project is written in any case, also after a Save As that was cancelled: without a file that is an

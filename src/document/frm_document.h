@@ -181,6 +181,8 @@ class frmDocument {
   /// Brings the sheet to what the file holds. False, and a message, where the file is none or refused; the
   /// sheet then stays as far as it got.
   bool LoadRafter(const std::string& path);
+  /// The file becomes the present project, and its name the project's where it could be loaded.
+  bool OpenProject(const std::string& path);
   void mnuFileNew_Click(int = 0);
   void mnuFileOpen_Click(int = 0);
   void mnuFileSave_Click(int = 0);
@@ -354,7 +356,6 @@ class frmDocument {
   void ReadGambrelSupport(const std::string& text);
   void TakeProjectLocks();
   void FinishProjectRoof();
-  void OpenProject(const std::string& path);
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
 
   // Settings commands.

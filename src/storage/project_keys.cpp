@@ -234,8 +234,6 @@ constexpr ProjectKey kKeys[] = {
 
 std::span<const ProjectKey> ProjectKeys() { return kKeys; }
 
-std::span<const ProjectLoss> ProjectLosses() { return {}; }
-
 int ProjectRoofCode(const ProjectParts& parts) {
   return parts.Rafter1.RafterType == RafterType::kBastardHip ? roof::kBastardHip : parts.RoofType;
 }

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "core/rafter.h"
 #include "sheet/menus.h"
@@ -82,9 +83,12 @@ std::span<const ProjectKey> ProjectKeys();
 
 /// What does not come back from a project file as it was.
 struct ProjectLoss {
-  const char* Members;  ///< of the rafters, by name; empty where it is no member
-  const char* Roofs;
+  const char* Members;  ///< of the rafters, by name, with blanks between them; empty where it is no member
+  RoofSet Roofs;        ///< here a hip with two slopes has a code of its own
+  const char* RoofNames;
   const char* Why;
+
+  bool Names(std::string_view member) const;
 };
 std::span<const ProjectLoss> ProjectLosses();
 

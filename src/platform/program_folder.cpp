@@ -1,0 +1,22 @@
+#include "platform/program_folder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace pitchcraft {
+
+std::filesystem::path ProgramFolder() {
+  // Told by the system, since the driver runs without an application object of the toolkit.
+  const QFileInfo executable(QFileInfo("/proc/self/exe").canonicalFilePath());
+  const QFileInfo folder(executable.path());
+  if (executable.exists() && folder.isWritable()) return QDir(folder.filePath()).filesystemPath();
+  QCoreApplication::setOrganizationName("Pitchcraft");
+  QCoreApplication::setApplicationName("Pitchcraft");
+  const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  QDir().mkpath(own);
+  return QDir(own).filesystemPath();
+}
+
+}  // namespace pitchcraft
