@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <clocale>
+#include <memory>
 
 namespace pitchcraft {
 namespace {
@@ -54,8 +55,8 @@ void EnsureGui() {
   // are the toolkit's remarks about the desktop.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QtMessageHandler handler = qInstallMessageHandler(IgnoreMessage);
-  // Lives until the process ends: fonts and images must not outlive their application.
-  [[maybe_unused]] static const auto* const application = new QGuiApplication(argumentCount, arguments);
+  // Ends with the process; by then nobody holds a font or an image.
+  static const auto application = std::make_unique<QGuiApplication>(argumentCount, arguments);
   qInstallMessageHandler(handler);
   // The toolkit takes over the user's locale; numbers in files keep their decimal point.
   std::setlocale(LC_NUMERIC, "C");

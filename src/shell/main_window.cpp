@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QScreen>
-#include <QTimer>
 
 #include "shell/icons.h"
 #include "shell/twips.h"
@@ -105,7 +104,8 @@ void MainWindow::SyncOnce() {
   const QString title = QString::fromStdString(Document().Title).replace("[*]", "[*][*]");
   if (title != windowTitle()) setWindowTitle(title);
   GiveFocus();
-  if (Document().CloseRequested && !closed_) QTimer::singleShot(0, this, &QWidget::close);
+  if (Document().CloseRequested && !closed_)
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void MainWindow::SyncStatus() {
