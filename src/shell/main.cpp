@@ -1,14 +1,12 @@
 // Starts the window.
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
-#include <QStandardPaths>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
 #include "platform/font_setup.h"
+#include "platform/program_folder.h"
 #include "platform/qt_store.h"
 #include "shell/main_window.h"
 #include "shell/qt_dialogs.h"
@@ -44,16 +42,6 @@ bool DisplayIsNamed() {
 bool DisplayIsNamed() { return true; }
 #endif
 
-/// The executable's folder where it can be written, else the user's own.
-std::filesystem::path ProgramFolder() {
-  QString folder = QCoreApplication::applicationDirPath();
-  if (!QFileInfo(folder).isWritable()) {
-    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(folder);
-  }
-  return QDir(folder).filesystemPath();
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -77,7 +65,7 @@ int main(int argc, char** argv) {
 
   pitchcraft::QtDialogs dialogs;
   pitchcraft::QtStore store;
-  pitchcraft::MainWindow window({dialogs, store, ProgramFolder()});
+  pitchcraft::MainWindow window({dialogs, store, pitchcraft::ProgramFolder()});
   dialogs.SetOwner(&window);
   window.Open();
   return QApplication::exec();

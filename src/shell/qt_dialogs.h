@@ -1,6 +1,7 @@
-// The boxes that speak to the person.
+// The boxes that speak to the person, and those that ask.
 #pragma once
 
+#include <QFileDialog>
 #include <QWidget>
 
 #include "document/surroundings.h"
@@ -12,8 +13,13 @@ class QtDialogs : public Dialogs {
   /// The window that the boxes stand over; none before it is there.
   void SetOwner(QWidget* owner) { owner_ = owner; }
   void MsgBox(const std::string& title, const std::string& text) override;
+  std::optional<std::string> OpenFile(const FileDialog& question) override;
+  std::optional<std::string> SaveFile(const FileDialog& question) override;
+  std::optional<std::string> Input(const InputBox& question) override;
 
  private:
+  std::optional<std::string> AskForFile(const FileDialog& question, QFileDialog::AcceptMode mode);
+
   QWidget* owner_ = nullptr;
 };
 
