@@ -107,6 +107,7 @@ void frmDocument::FinishProjectRoof() {
     case roof::kHip:
       if (IsBastardByRafter()) {
         ShowOverhangsEqualMenus(true);
+        sheet.LWSlope[2].SetValues(Rafter1.HipEndSlope, UnitRun);
         sheet.FtLastCommon.SetValue((Rafter1.Slope / Rafter1.HipEndSlope) * Rafter1.Span -
                                     Rafter1.HipEndOverhangExcess);
         Draw(Drawing::kHipPlan, Rafter1);
@@ -118,6 +119,7 @@ void frmDocument::FinishProjectRoof() {
       Rafter1.CalculateBay();
       BayEditMode = 1;
       return;
+    case roof::kBlindValley: FillBlindValleyRidges(); return Draw(Drawing::kBlindValley, Rafter1);
     case roof::kGambrel:
       // Its results do not touch the lumber fields, which show what was typed.
       sheet.LWRafter[0].SetValues(Rafter1.Thickness, Rafter1.Depth);

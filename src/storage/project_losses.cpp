@@ -6,7 +6,7 @@ namespace pitchcraft {
 namespace {
 
 constexpr RoofSet kAnyHip{roof::kHip, roof::kBastardHip};
-constexpr RoofSet kBoxOfDegrees{roof::kHip, roof::kValley, roof::kBay, roof::kOctagon};
+constexpr RoofSet kBoxOfDegrees{roof::kBay, roof::kOctagon};
 
 // clang-format off
 constexpr ProjectLoss kLosses[] = {
@@ -15,7 +15,7 @@ constexpr ProjectLoss kLosses[] = {
     {"", {roof::kBlindValley, roof::kGambrel}, "blind valley, gambrel", "Fields kept as text come back as they were shown: lengths to the sixteenth or millimetre, slopes to the decimals shown. Spans that a custom gambrel derived are rounded so once."},
     {"", RoofSet::All(), "all", "What is no input is not kept: pages, increments, the locks of a custom gambrel's derived quantity, the distance to the last common, and the second rafter of a roof that has one."},
     {"OverhangsEqual", kAnyHip, "hip", "The layout choices of a hip are written for the reader; every hip opens with the layout from the center, overhangs not made equal, and jacks measured without overhang. A hip with two slopes and equal overhangs is calculated anew without."},
-    {"HipEndDegrees", kBoxOfDegrees, "hip, valley, bay, octagon", "The angle of the end slope is taken from the box of degrees of row 2, which only a hip with two slopes shows."},
+    {"HipEndDegrees", kBoxOfDegrees, "bay, octagon", "The angle of the end slope is taken from the box of degrees of row 2, which only a hip with two slopes shows."},
     {"degrees", RoofSet::All(), "all", "The angle of the slope is taken from its box of degrees. A slope that was never entered stands beside the first row of that list."},
     {"Kneewall", {roof::kHip, roof::kValley, roof::kBay, roof::kDutchHip, roof::kOctagon, roof::kUnequalSpanValley, roof::kBlindValley, roof::kBastardHip, roof::kGambrel}, "all others", "A kneewall is read for gable, shed and dual slope alone."},
     {"", {roof::kGable, roof::kShed, roof::kDualSlope}, "gable, shed, dual slope", "The box of the front kneewall follows the rear one; the rear box opens without its tick."},

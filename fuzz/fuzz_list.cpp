@@ -1,0 +1,53 @@
+// Any bytes as the files of the lists: the document starts, and every row that is shown can be picked.
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "document/frm_document.h"
+#include "document/null_surroundings.h"
+
+namespace {
+
+using namespace pitchcraft;
+
+struct Folder {
+  std::filesystem::path path =
+      std::filesystem::temp_directory_path() / ("pitchcraft-fuzz-list-" + std::to_string(getpid()));
+
+  Folder() { std::filesystem::create_directories(path); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  ~Folder() { std::filesystem::remove_all(path); }
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const Folder kFolder;
+  for (const char* name : {"Lumber.dat", "Slope.dat", "Degrees.dat"}) {
+    std::ofstream(kFolder.path / name, std::ios::binary | std::ios::trunc) << std::string(data, data + size);
+  }
+  NullSurroundings around;
+  frmDocument document({around.dialogs, around.store, kFolder.path});
+  document.Form_Load();
+  for (int row = 0; row < static_cast<int>(document.sheet.LWSlope[0].List().size()); ++row) {
+    document.sheet.LWSlope[0].SetListIndex(row);
+    document.LWSlope_Click(0);
+  }
+  for (int row = 0; row < static_cast<int>(document.sheet.LWRafter[0].List().size()); ++row) {
+    document.sheet.LWRafter[0].SetListIndex(row);
+    document.LWRafter_Commit(0);
+  }
+  for (int row = 0; row < static_cast<int>(document.sheet.cboDegrees[0].List().size()); ++row) {
+    document.sheet.cboDegrees[0].SetListIndex(row);
+    document.cboDegrees_Click(0);
+  }
+  document.Form_Unload();
+  return 0;
+}

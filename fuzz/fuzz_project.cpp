@@ -1,0 +1,47 @@
+// Any bytes opened as a project: the document answers afterwards, loading has ended, and what is then saved
+// can be opened again.
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "document/frm_document.h"
+#include "document/null_surroundings.h"
+
+namespace {
+
+using namespace pitchcraft;
+
+void Require(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "%s\n", what);
+  std::abort();
+}
+
+std::string ScratchFile() {
+  return (std::filesystem::temp_directory_path() / ("pitchcraft-fuzz-" + std::to_string(getpid()) + ".pcf"))
+      .string();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const std::string kFile = ScratchFile();
+  std::ofstream(kFile, std::ios::binary | std::ios::trunc) << std::string(data, data + size);
+  NullSurroundings around;
+  frmDocument document(around.Get());
+  document.Form_Load();
+  const bool loaded = document.LoadRafter(kFile);
+  Require(document.LoadingProject == 0, "loading did not end");
+  Require(loaded || !around.dialogs.messages.empty(), "refused without a word");
+  Require(document.SaveRafter(kFile), "cannot be saved");
+  Require(document.LoadRafter(kFile), "what was saved cannot be opened");
+  document.Form_Unload();
+  std::filesystem::remove(kFile);
+  return 0;
+}
