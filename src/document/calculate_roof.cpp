@@ -231,7 +231,9 @@ void frmDocument::RedrawAfterRafter1() {
 void frmDocument::Rafter2_Calculated() {
   constexpr const char* kProcedure = "Rafter2_Calculated";
   switch (RoofType) {
-    case roof::kDualSlope: Try(kProcedure, [&] { ShowRow(1, Rafter2); }); return Draw(Drawing::kSaltbox, Rafter1);
+    case roof::kDualSlope:
+      Try(kProcedure, [&] { ShowRow(1, Rafter2); });
+      return Draw(Drawing::kSaltbox, Rafter1);
     case roof::kDutchHip: return Draw(Drawing::kDutchPlan, Rafter2);
     case roof::kUnequalSpanValley: return Draw(Drawing::kUnequalSpanValley, Rafter2);
     default: return;
