@@ -110,4 +110,71 @@ TEST_F(DriverTest, TheFirstRafterOfTheReadmeHoldsItsPromises) {
   EXPECT_FALSE(Read("first-rafter.png").empty());
 }
 
+TEST_F(DriverTest, DialogsAreAnsweredAndTold) {
+  Write("a.txt", "answer house.pcf\nclick mnuFileSave\nclick mnuFileOpen\nanswer Barn\nclick mnuFileNew\n");
+  const Result result = Run("run --data data a.txt");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(
+      result.output,
+      "{\"event\":\"dialog\",\"kind\":\"save\",\"title\":\"Save Project\",\"name\":\"Untitled\","
+      "\"answer\":\"house.pcf\"}\n"
+      "{\"event\":\"dialog\",\"kind\":\"open\",\"title\":\"Open Project\",\"name\":\"\",\"answer\":null}\n"
+      "{\"event\":\"dialog\",\"kind\":\"input\",\"title\":\"New Project\",\"name\":\"Untitled\","
+      "\"answer\":\"Barn\"}\n");
+}
+
+TEST_F(DriverTest, CalcAndDrawOpenAProjectAndChangeNothing) {
+  Write(
+      "a.txt",
+      "click mnuMetric\ntype LWSlope(0) 500 | 1000\nanswer house.pcf\nclick mnuFileSave\nclick mnuMetric\n");
+  EXPECT_EQ(Run("run --data data a.txt").status, 0);
+  const std::string settings = Read("data/settings.json");
+  const Result calc = Run("calc --data data house.pcf");
+  EXPECT_EQ(calc.status, 0);
+  const auto dump = nlohmann::json::parse(calc.output);
+  EXPECT_EQ(dump["Rafter1"]["Slope"], 500);
+  EXPECT_EQ(dump["document"]["ProjectName"], "house");
+  EXPECT_EQ(Run("draw --data data house.pcf --page 1 --out a.svg").status, 0);
+  EXPECT_NE(Read("a.svg").find("<svg"), std::string::npos);
+  EXPECT_EQ(Read("data/settings.json"), settings);
+}
+
+TEST_F(DriverTest, CalcAndDrawTellWhatWentWrong) {
+  Write("house.pcf", "[Settings]\r\nSlope=6\r\n");
+  EXPECT_EQ(Run("calc --data data none.pcf 2>/dev/null").status, 1);
+  EXPECT_EQ(Run("calc --data data 2>/dev/null").status, 2);
+  EXPECT_EQ(Run("draw --data data house.pcf --page 9 --out a.svg 2>/dev/null").status, 2);
+  EXPECT_EQ(Run("draw --data data house.pcf --page 0 --out a.igloo 2>/dev/null").status, 1);
+  EXPECT_EQ(Run("draw --data data house.pcf --page 0 --out no/a.svg 2>/dev/null").status, 1);
+}
+
+// Two sessions one after the other.
+TEST_F(DriverTest, TheNextSessionFindsWhatTheLastOneLeft) {
+  Write("a.txt",
+        "size 12000 9000\nclick mnuSettingsDegrees\npick cboType Hip\nclick mnuHipLayoutCenter\n"
+        "click mnuHipLayoutJackMeasurement\nanswer house.pcf\nclick mnuFileSave\n");
+  EXPECT_EQ(Run("run --data data a.txt").status, 0);
+  Write("b.txt", "dump menus\n");
+  const auto menus = nlohmann::json::parse(Run("run --data data b.txt").output)["menus"];
+  EXPECT_TRUE(menus["mnuSettingsDegrees"]["Checked"]);
+  EXPECT_TRUE(menus["mnuHipLayoutCenter"]["Checked"]);
+  EXPECT_FALSE(menus["mnuHipLayoutJackMeasurement"]["Checked"]);
+  EXPECT_TRUE(menus["mnuFileMRU(0)"]["Visible"]);
+  EXPECT_EQ(menus["mnuFileMRU(0)"]["Caption"], "&1 House.pcf");
+  EXPECT_NE(Read("data/settings.json").find("\"MainWidth\": \"12000\""), std::string::npos);
+}
+
+TEST_F(DriverTest, RubbishInTheSettingsStartsTheProgram) {
+  for (const char* rubbish :
+       {"", "igloo", "[1,2]",
+        "{\"Pitchcraft\":{\"Settings\":{\"Units\":\"x\",\"MainLeft\":\"1e99\","
+        "\"WindowState\":\"-7\",\"Spacing\":\"\",\"HipLayout\":\"?\",\"Degrees\":\"yes\"}}}"}) {
+    Write("data/settings.json", rubbish);
+    Write("b.txt", "dump document\n");
+    const Result result = Run("run --data data b.txt");
+    EXPECT_EQ(result.status, 0) << rubbish;
+    EXPECT_EQ(nlohmann::json::parse(result.output)["document"]["UnitRun"], 12);
+  }
+}
+
 }  // namespace

@@ -1,0 +1,156 @@
+// New, open, save, the project's name and the recent files, as a person finds them in the File menu.
+#include <deque>
+
+#include "project_test.h"
+
+namespace pitchcraft {
+namespace {
+
+/// Dialogs that answer from a queue and keep what they were asked.
+class AnsweringDialogs final : public Dialogs {
+ public:
+  void MsgBox(const std::string&, const std::string& text) override { messages.push_back(text); }
+  std::optional<std::string> OpenFile(const FileDialog& dialog) override {
+    return Next(dialog.Title, dialog.Name);
+  }
+  std::optional<std::string> SaveFile(const FileDialog& dialog) override {
+    return Next(dialog.Title, dialog.Name);
+  }
+  std::optional<std::string> Input(const InputBox& box) override { return Next(box.Title, box.Name); }
+
+  std::deque<std::optional<std::string>> answers;
+  std::vector<std::string> asked;  ///< title: name offered
+  std::vector<std::string> messages;
+
+ private:
+  std::optional<std::string> Next(const std::string& title, const std::string& name) {
+    asked.push_back(title + ": " + name);
+    if (answers.empty()) return std::nullopt;
+    const std::optional<std::string> answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+class FileMenuTest : public ProjectTest {
+ protected:
+  FileMenuTest() { document.Form_Load(); }
+  void Click(const char* name, std::optional<std::string> answer = std::nullopt) {
+    if (answer) dialogs.answers.push_back(answer);
+    const Refusal refusal = actions.Click(name);
+    EXPECT_FALSE(refusal) << refusal.value_or("");
+  }
+
+  AnsweringDialogs dialogs;
+  MemoryStore store;
+  frmDocument document{{dialogs, store, {}}};
+  Actions actions{document};
+};
+
+TEST_F(FileMenuTest, SaveAsksForANameOnce) {
+  Click("mnuFileSave", PathOf("house.pcf"));
+  EXPECT_EQ(document.ProjectFile, PathOf("house.pcf"));
+  EXPECT_EQ(document.Title, "Pitchcraft - [" + MRU::LongDirFix(PathOf("house.pcf"), 60) + "]");
+  const std::string first = Read("house.pcf");
+  EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
+  Click("mnuFileSave");
+  EXPECT_NE(Read("house.pcf"), first);
+  EXPECT_EQ(dialogs.asked, std::vector<std::string>{"Save Project: Untitled"});
+}
+
+TEST_F(FileMenuTest, SaveWithoutAFileIsAnError) {
+  Click("mnuFileSave");
+  EXPECT_EQ(dialogs.messages, std::vector<std::string>{"Error writing to file, can't save rafter"});
+}
+
+TEST_F(FileMenuTest, ANameWithoutAnEndingGetsOne) {
+  Click("mnufileSaveAs", PathOf("barn"));
+  EXPECT_TRUE(std::filesystem::exists(PathOf("barn.pcf")));
+  Click("mnuFileOpen", PathOf("barn"));
+  EXPECT_EQ(document.ProjectFile, PathOf("barn.pcf"));
+  EXPECT_EQ(document.ProjectName, "barn");
+}
+
+TEST_F(FileMenuTest, SaveAsLeavesOnlyTheKeysOfTheRoof) {
+  EXPECT_FALSE(actions.Pick("cboType", "Gambrel Roof"));
+  Click("mnufileSaveAs", PathOf("house.pcf"));
+  EXPECT_NE(Read("house.pcf").find("GambrelType"), std::string::npos);
+  EXPECT_FALSE(actions.Pick("cboType", "Common Gable"));
+  Click("mnufileSaveAs", PathOf("house.pcf"));
+  EXPECT_EQ(Read("house.pcf").find("GambrelType"), std::string::npos);
+}
+
+TEST_F(FileMenuTest, OpenCancelledChangesNothing) {
+  Click("mnuFileOpen");
+  EXPECT_EQ(document.ProjectFile, "");
+  EXPECT_TRUE(dialogs.messages.empty());
+  Click("mnuFileOpen", PathOf("none.pcf"));
+  EXPECT_EQ(document.ProjectName, "Untitled");
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(FileMenuTest, NewKeepsTheValuesAndAsksForAName) {
+  EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
+  EXPECT_FALSE(actions.Pick("cboType", "Hip"));
+  EXPECT_FALSE(actions.Page("VSTab(0)", 3));
+  Click("mnuFileNew", "Barn");
+  EXPECT_EQ(document.RoofType, roof::kGable);
+  EXPECT_EQ(document.CurrentTab, 0);
+  EXPECT_EQ(double{document.Rafter1.Span}, 200);
+  EXPECT_EQ(document.Title, "Pitchcraft - [Barn]");
+  Click("mnuFileNew");
+  EXPECT_EQ(document.ProjectName, "Barn");
+  EXPECT_EQ(dialogs.asked.back(), "New Project: Barn");
+}
+
+TEST_F(FileMenuTest, ProjectNameChangesTheTitle) {
+  Click("mnuFileProjectName");
+  EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]");
+  Click("mnuFileProjectName", "Shed at the lake");
+  EXPECT_EQ(document.Title, "Pitchcraft - [Shed at the lake]");
+}
+
+TEST_F(FileMenuTest, RecentFilesOpenAgain) {
+  EXPECT_TRUE(actions.Click("mnuFileMRU(0)")) << "hidden while there is none";
+  EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
+  Click("mnufileSaveAs", PathOf("ONE.pcf"));
+  EXPECT_FALSE(actions.Type("FtSpan(0)", "300"));
+  Click("mnufileSaveAs", PathOf("two.pcf"));
+  Click("mnuFileMRU(1)");
+  EXPECT_EQ(document.ProjectName, "ONE");
+  EXPECT_EQ(double{document.Rafter1.Span}, 200);
+  Click("mnuFileMRU(1)");
+  EXPECT_EQ(double{document.Rafter1.Span}, 300) << "the one opened moved to the first place";
+}
+
+TEST_F(FileMenuTest, ToolButtonsDoTheSame) {
+  dialogs.answers.emplace_back(PathOf("house.pcf"));
+  EXPECT_FALSE(actions.Press("Save"));
+  dialogs.answers.emplace_back("Barn");
+  EXPECT_FALSE(actions.Press("New"));
+  dialogs.answers.emplace_back(PathOf("house.pcf"));
+  EXPECT_FALSE(actions.Press("Open"));
+  EXPECT_EQ(document.ProjectName, "house");
+}
+
+TEST_F(FileMenuTest, AMetricProjectSwitchesTheSession) {
+  Click("mnuMetric");
+  Click("mnufileSaveAs", PathOf("metric.pcf"));
+  Click("mnuMetric");
+  EXPECT_EQ(document.UnitRun, 12);
+  Click("mnuFileOpen", PathOf("metric.pcf"));
+  EXPECT_EQ(document.UnitRun, 1000);
+  Click("mnuFileOpen", PathOf("metric.pcf"));
+  EXPECT_EQ(document.UnitRun, 1000) << "also where the units are the same";
+}
+
+TEST_F(FileMenuTest, SpacingOfAProjectReachesTheSession) {
+  const std::string path = Write("hip.pcf", "[Settings]\r\nRafterType=1\r\nSpacing=24\"\r\n");
+  Click("mnuFileOpen", path);
+  EXPECT_EQ(double{document.Spacing}, 24);
+  EXPECT_EQ(double{document.Rafter1.spacing}, 24);
+  EXPECT_EQ(double{document.Rafter2.spacing}, 24);
+}
+
+}  // namespace
+}  // namespace pitchcraft

@@ -1,0 +1,84 @@
+// The lists of the fields as a program's folder holds them.
+#include "project_test.h"
+
+namespace pitchcraft {
+namespace {
+
+class ListsOfFieldsTest : public ProjectTest {
+ protected:
+  void Start() { document.Form_Load(); }
+
+  NullSurroundings around;
+  frmDocument document{{around.dialogs, around.store, folder}};
+  Sheet& sheet = document.sheet;
+};
+
+TEST_F(ListsOfFieldsTest, AFirstStartMakesTheDegreesAlone) {
+  Start();
+  EXPECT_TRUE(std::filesystem::exists(folder / "Degrees.dat"));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
+  EXPECT_EQ(sheet.LWRafter[0].List().size(), 15U);
+  EXPECT_EQ(sheet.LWSlope[0].List().size(), 60U);
+  EXPECT_TRUE(sheet.LWSlope[2].List().empty());
+  EXPECT_TRUE(around.dialogs.messages.empty());
+}
+
+TEST_F(ListsOfFieldsTest, FilesReplaceTheUsualRows) {
+  Write("Lumber.dat", "4x4|3.5|3.5\r\nbroken\r\none|2\r\n6x6|5.5|5.5, heavy\r\n");
+  Write("Slope.dat", "steep\\18/12|18|12\r\n");
+  Write("Degrees.dat", "22.5\r\n45\r\n");
+  Start();
+  for (const LWCombo* field : {&sheet.LWRafter[0], &sheet.LWRafter[1], &sheet.LWRidge, &sheet.LWFascia[0],
+                               &sheet.LWFascia[1], &sheet.LWHipVal}) {
+    ASSERT_EQ(field->List().size(), 2U) << field->Name;
+    EXPECT_EQ(field->List()[1].Caption, "6x6");
+  }
+  for (const LWCombo& field : sheet.LWSlope) EXPECT_EQ(field.List().size(), 1U);
+  EXPECT_EQ(sheet.cboDegrees[2].List(), (std::vector<std::string>{"22.5", "45"}));
+  EXPECT_EQ(double{document.Rafter1.Depth}, 7.25) << "the list changes no size";
+}
+
+TEST_F(ListsOfFieldsTest, MetricHasFilesOfItsOwn) {
+  Write("Lumber.dat", "4x4|3.5|3.5\r\n");
+  Write("LumberM.dat", "38x184|38|184\r\n");
+  Write("SlopeM.dat", "500/1000|500|1000\r\n");
+  Start();
+  document.mnuMetric_Click();
+  ASSERT_EQ(sheet.LWRafter[0].List().size(), 1U);
+  EXPECT_EQ(sheet.LWRafter[0].List()[0].Right, 184);
+  EXPECT_EQ(sheet.LWRafter[0].ListIndex(), 0) << "the rafter has the size of that row";
+  EXPECT_EQ(sheet.LWSlope[1].List().size(), 1U);
+}
+
+TEST_F(ListsOfFieldsTest, EmptyFilesLeaveTheListsEmpty) {
+  for (const char* name : {"Lumber.dat", "Slope.dat", "Degrees.dat"}) Write(name, "");
+  Start();
+  EXPECT_TRUE(sheet.LWRafter[0].List().empty());
+  EXPECT_TRUE(sheet.LWSlope[0].List().empty());
+  EXPECT_TRUE(sheet.cboDegrees[0].List().empty());
+  EXPECT_TRUE(around.dialogs.messages.empty());
+}
+
+TEST_F(ListsOfFieldsTest, AFolderInTheWayIsToldAndTheProgramStarts) {
+  std::filesystem::create_directories(folder / "Lumber.dat");
+  std::filesystem::create_directories(folder / "Degrees.dat");
+  Start();
+  ASSERT_FALSE(around.dialogs.messages.empty());
+  EXPECT_EQ(around.dialogs.messages[0].second, "Path/File access error - 75");
+  EXPECT_EQ(sheet.cboDegrees[0].List().size(), 80U);
+  EXPECT_GT(double{document.Rafter1.Length1}, 0);
+}
+
+TEST_F(ListsOfFieldsTest, AHundredThousandRows) {
+  std::string rows;
+  for (int i = 1; i <= 100'000; ++i) rows += std::to_string(i) + "x|1.5|" + std::to_string(i) + "\r\n";
+  Write("Lumber.dat", rows);
+  Start();
+  ASSERT_EQ(sheet.LWRafter[0].List().size(), 100'000U);
+  sheet.LWRafter[0].SetListIndex(11);
+  document.LWRafter_Commit(0);
+  EXPECT_EQ(double{document.Rafter1.Depth}, 12);
+}
+
+}  // namespace
+}  // namespace pitchcraft
