@@ -37,6 +37,8 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   resize(ToPixels(Document().Window.Width), ToPixels(Document().Window.Height));
   ChainTabOrder();
   connect(&session_, &Session::Changed, this, &MainWindow::Sync);
+  // The action that asks for it comes to its end first.
+  connect(this, &MainWindow::CloseAsked, this, &QWidget::close, Qt::QueuedConnection);
   connect(&session_, &Session::StatusChanged, this, &MainWindow::SyncStatus);
   Sync();
 }
@@ -104,8 +106,7 @@ void MainWindow::SyncOnce() {
   const QString title = QString::fromStdString(Document().Title).replace("[*]", "[*][*]");
   if (title != windowTitle()) setWindowTitle(title);
   GiveFocus();
-  if (Document().CloseRequested && !closed_)
-    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+  if (Document().CloseRequested && !closed_) emit CloseAsked();
 }
 
 void MainWindow::SyncStatus() {

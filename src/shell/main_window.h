@@ -24,6 +24,9 @@ class MainWindow : public QWidget {
   /// Shows the window where and how it stood when it was last closed.
   void Open();
 
+ signals:
+  void CloseAsked();
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
