@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 declare -A list=(
-  [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev nlohmann-json3-dev libcli11-dev fonts-liberation"
+  [run]="g++ cmake ninja-build ccache qt6-base-dev nlohmann-json3-dev libcli11-dev fonts-liberation"
   [test]="libgtest-dev libgmock-dev librapidcheck-dev locales"
   [style]="clang-format clang-tidy shellcheck"
   [fuzz]="clang libclang-rt-14-dev"
