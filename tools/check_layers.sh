@@ -6,16 +6,17 @@ cd "$(dirname "$0")/../src"
 # A room may use the rooms named behind it. They stand above it in this table, so no cycle can be allowed.
 table="
 core     :
+files    :
 measure  : core
 drawing  : core measure
-output   : core measure drawing
+output   : core measure drawing files
 sheet    : core measure
 drawings : core measure drawing output sheet
-storage  : core measure sheet
-document : core measure drawing output sheet drawings storage
-platform : core measure drawing output sheet drawings storage document Qt
-shell    : core measure drawing output sheet drawings storage document platform Qt
-cli      : core measure drawing output sheet drawings storage document platform Qt
+storage  : core measure sheet files
+document : core measure drawing output sheet drawings storage files
+platform : core measure drawing output sheet drawings storage document files Qt
+shell    : core measure drawing output sheet drawings storage document platform files Qt
+cli      : core measure drawing output sheet drawings storage document platform files Qt
 "
 
 failed=0

@@ -3,7 +3,7 @@
 #include <fstream>
 
 #include "cli/json_number.h"
-#include "storage/whole_file.h"
+#include "files/whole_file.h"
 
 namespace pitchcraft {
 

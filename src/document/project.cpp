@@ -3,7 +3,7 @@
 
 #include "document/frm_document.h"
 #include "storage/ini_file.h"
-#include "storage/whole_file.h"
+#include "files/whole_file.h"
 
 namespace pitchcraft {
 namespace {

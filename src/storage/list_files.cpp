@@ -4,7 +4,7 @@
 
 #include "core/number_text.h"
 #include "core/run_time_error.h"
-#include "storage/whole_file.h"
+#include "files/whole_file.h"
 
 namespace pitchcraft {
 namespace {
