@@ -2,8 +2,8 @@
 #include <filesystem>
 
 #include "document/frm_document.h"
-#include "storage/ini_file.h"
 #include "files/whole_file.h"
+#include "storage/ini_file.h"
 
 namespace pitchcraft {
 namespace {
