@@ -23,6 +23,8 @@ class RunTimeError : public std::runtime_error {
   static RunTimeError SubscriptOutOfRange() { return {9, "Subscript out of range"}; }
   static RunTimeError DivisionByZero() { return {11, "Division by zero"}; }
   static RunTimeError FileNotFound() { return {53, "File not found"}; }
+  static RunTimeError PathFileAccess() { return {75, "Path/File access error"}; }
+  static RunTimeError PrinterError() { return {482, "Printer error"}; }
 
  private:
   int number_;

@@ -9,6 +9,7 @@
 
 #include "core/rafter.h"
 #include "core/run_time_error.h"
+#include "document/drawing_forms.h"
 #include "document/form_layout.h"
 #include "document/picture_box.h"
 #include "document/surroundings.h"
@@ -189,6 +190,12 @@ class frmDocument {
   void mnufileSaveAs_Click(int = 0);
   void mnuFileProjectName_Click(int = 0);
   void mnuFileMRU_Click(int Index);
+
+  // --- On paper and in files
+  // --------------------------------------------------------------------------------------
+  void mnuFilePageSetup_Click(int = 0);
+  /// Prints the sheet of the page shown.
+  void mnuFilePrint_Click(int = 0);
 
   // --- Menus
   // ------------------------------------------------------------------------------------------------------
@@ -372,25 +379,6 @@ class frmDocument {
   void ShowPopUp1Items();
 
   // Pages and drawings.
-  enum class Drawing {
-    kRafter,
-    kHipPlan,
-    kHipLayout,
-    kBastardHipRafters,
-    kSaltbox,
-    kBayPlan,
-    kBayDiagram,
-    kBayRafter,
-    kBayCenterLedger,
-    kDutchPlan,
-    kOctagonPlan,
-    kOctagonRafter,
-    kOctagonLayout,
-    kUnequalSpanValley,
-    kBlindValley,
-    kGambrelRafter,
-    kGambrelPreview
-  };
   void Draw(Drawing drawing, const CRafter& rafter);
   void DrawPage(int page);
   /// Draws the page shown again, without moving the focus.
@@ -404,6 +392,14 @@ class frmDocument {
   void ClearPicture();
   void ShowSpacing();
   DrawingContext Context() const;
+
+  // Paper.
+  PageOutput OutputOfPage() const;
+  /// Runs `work` with the rafter of the page, in the type that the page's output takes.
+  template <typename Work>
+  void WithOutputRafter(const PageOutput& output, Work work);
+  PrintContext PaperContext(int rafter, bool color) const;
+  void PrintPage(const PageOutput& output, const CRafter& rafter);
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made

@@ -1,9 +1,11 @@
-// The side view of one common, shed, hip or valley rafter with the measures that it is laid out by.
+// The side view of one common, shed, hip or valley rafter with the measures that it is laid out by: on screen
+// and on paper.
 #pragma once
 
 #include "core/rafter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/drawing_context.h"
+#include "drawings/printed_sheet.h"
 
 namespace pitchcraft {
 
@@ -11,5 +13,8 @@ namespace pitchcraft {
 /// canvas size must stand. Raises Overflow when the figure is infinite or too large to draw; the recording is
 /// then empty.
 void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+
+/// Draws the rafter for paper and prints its sheet: the measures that it is cut by, under the drawing.
+void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
 
 }  // namespace pitchcraft

@@ -70,8 +70,10 @@ void RafterElevationDrafter::DrawEndView() {
   board_.Pts(26) = board_.Pts(23);
 
   board_.DrawFX.SetPenColor(context_.LineColor);
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   for (int corner = 18; corner < 24; ++corner) board_.Line(corner, corner + 1);
   board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.DrawFX.SetDrawWidth(0);
   board_.DrawFX.SetDrawStyle(kDashed);
   board_.Line(25, 26);
   board_.DrawFX.SetDrawStyle(0);
