@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "document/frm_document.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
 #include "platform/svg_canvas.h"

@@ -1,0 +1,1 @@
+#include "output/dxf_writer.h"
