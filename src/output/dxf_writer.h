@@ -10,6 +10,7 @@
 
 #include "core/single.h"
 #include "drawing/dimension_value.h"
+#include "output/dxf_dimension.h"
 #include "output/dxf_figures.h"
 
 namespace pitchcraft {
@@ -73,7 +74,8 @@ class CDxfWriter {
   int Color = kDxfByLayer;      ///< of lines and texts; what is no colour number is that of the layer
 
  private:
-  void Add(DxfDimension dimension, std::optional<Single> textX, std::optional<Single> textY);
+  void Add(DxfDimension dimension, std::optional<Single> textX = {}, std::optional<Single> textY = {});
+  void AddListed(DxfDrawing& drawing, const DxfDimensionStyle& style) const;
 
   DxfDrawing drawing_;
   std::vector<DimensionValue> listed_;
