@@ -5,10 +5,10 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "core/single.h"
+#include "drawing/dimension_value.h"
 #include "drawing/draw_fx.h"
 #include "drawing/meta_file.h"
 #include "drawing/text_fx.h"
@@ -32,10 +32,6 @@ class PointArray {
  private:
   std::array<PointRecord, kCount> points_;
 };
-
-/// What the DXF writer repeats: four numbers a stroke; x, y, text, angle in radians and a letter (L, C or R)
-/// a text.
-using DimensionValue = std::variant<Single, std::string>;
 
 /// One dimension between two points. Distances are drawing units.
 struct Dimension {

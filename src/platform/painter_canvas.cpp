@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/angles.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 #include "platform/font_setup.h"
 
 namespace pitchcraft {

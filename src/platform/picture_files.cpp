@@ -11,7 +11,7 @@
 
 #include "core/run_time_error.h"
 #include "document/frm_document.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
 #include "platform/pdf_pages.h"

@@ -1,0 +1,1 @@
+#include "output/placeable_metafile.h"
