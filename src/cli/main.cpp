@@ -24,8 +24,21 @@ int Fail(const std::string& text, int status) {
   return status;
 }
 
-std::optional<std::string> WriteShownPicture(const frmDocument& document, const std::string& file) {
-  return WritePicture(ShownPicture(document), file);
+/// DXF and metafile are the document's own exports, the rest are pictures of what it shows.
+std::optional<std::string> WriteShownPicture(frmDocument& document, const std::string& file) {
+  const std::string extension = std::filesystem::path(file).extension().string();
+  try {
+    if (extension == ".dxf") {
+      document.ExportDxf(file);
+    } else if (extension == ".wmf") {
+      document.ExportMetafile(file);
+    } else {
+      return WritePicture(ShownPicture(document), file);
+    }
+  } catch (const RunTimeError& error) {
+    return error.Message() + ": " + file;
+  }
+  return std::nullopt;
 }
 
 /// The keyed settings: a file in the data folder, else the user's own.

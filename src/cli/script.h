@@ -17,7 +17,7 @@ namespace pitchcraft {
 
 /// Writes the drawing that the document shows to a file, format by extension. Gives what went wrong, or
 /// nothing.
-using PictureWriter = std::function<std::optional<std::string>(const frmDocument&, const std::string& file)>;
+using PictureWriter = std::function<std::optional<std::string>(frmDocument&, const std::string& file)>;
 
 /// Exit statuses of the driver.
 inline constexpr int kDone = 0;

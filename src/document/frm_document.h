@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -196,6 +197,12 @@ class frmDocument {
   void mnuFilePageSetup_Click(int = 0);
   /// Prints the sheet of the page shown.
   void mnuFilePrint_Click(int = 0);
+  void mnuFileExportDXF_Click(int = 0);
+  void mnuFileExportMetafile_Click(int = 0);
+  /// Write the drawing shown. Raise RunTimeError, the old file untouched; an error of a part of a DXF drawing
+  /// is shown, and the rest is written.
+  void ExportDxf(const std::string& path);
+  void ExportMetafile(const std::filesystem::path& path) const;
 
   // --- Menus
   // ------------------------------------------------------------------------------------------------------
@@ -363,6 +370,8 @@ class frmDocument {
   void ReadGambrelSupport(const std::string& text);
   void TakeProjectLocks();
   void FinishProjectRoof();
+  /// A name without an extension gets that one, as the dialogs of a desktop do it.
+  static std::string WithExtension(const std::string& path, const char* extension);
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
 
   // Settings commands.
@@ -393,13 +402,21 @@ class frmDocument {
   void ShowSpacing();
   DrawingContext Context() const;
 
-  // Paper.
-  PageOutput OutputOfPage() const;
-  /// Runs `work` with the rafter of the page, in the type that the page's output takes.
+  // On paper and in files.
+  PageOutput OutputOfPage(OutputForm form) const;
+  /// Runs `work`, which reports its own errors, with the rafter of the page in the type that the output
+  /// takes.
   template <typename Work>
-  void WithOutputRafter(const PageOutput& output, Work work);
+  void WithOutputRafter(const PageOutput& output, Work work) {
+    CRafter& rafter = output.Rafter == 2 ? Rafter2 : Rafter1;
+    if (output.TypeBefore >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeBefore);
+    work(rafter);
+    if (output.TypeAfter >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeAfter);
+  }
+  PrintContext OutputContext(int rafter) const;
   PrintContext PaperContext(int rafter, bool color) const;
   void PrintPage(const PageOutput& output, const CRafter& rafter);
+  void SetUpWriter(CDxfWriter& writer) const;
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made

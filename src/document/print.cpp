@@ -18,34 +18,30 @@ void frmDocument::mnuFilePageSetup_Click(int) {
   });
 }
 
-PageOutput frmDocument::OutputOfPage() const {
-  return OutputOf(RoofType, CurrentTab, {SlopesDiffer(), BayEditMode == 0});
-}
-
-/// `work` reports its own errors.
-template <typename Work>
-void frmDocument::WithOutputRafter(const PageOutput& output, Work work) {
-  CRafter& rafter = output.Rafter == 2 ? Rafter2 : Rafter1;
-  if (output.TypeBefore >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeBefore);
-  work(rafter);
-  if (output.TypeAfter >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeAfter);
+PageOutput frmDocument::OutputOfPage(OutputForm form) const {
+  return OutputOf(form, RoofType, CurrentTab,
+                  {SlopesDiffer(), BayEditMode == 0, Rafter1.RafterType == RafterType::kCenterLedger});
 }
 
 void frmDocument::mnuFilePrint_Click(int) {
   if (surroundings_.printer == nullptr) return MsgBox("There is no printer.", kPrint);
-  const PageOutput output = OutputOfPage();
-  if (output.Print == Drawing::kNone) return;
-  const DrawingForms& forms = FormsOf(output.Print);
+  const PageOutput output = OutputOfPage(OutputForm::kPaper);
+  if (output.Drawing == Drawing::kNone) return;
+  const DrawingForms& forms = FormsOf(output.Drawing);
   if (forms.Print == nullptr) return MsgBox("This page cannot be printed yet.", forms.PrintName);
   WithOutputRafter(output,
                    [&](const CRafter& rafter) { Try(forms.PrintName, [&] { PrintPage(output, rafter); }); });
 }
 
+PrintContext frmDocument::OutputContext(int rafter) const {
+  const std::string today = surroundings_.printer == nullptr ? std::string() : surroundings_.printer->Today();
+  return {Context(), sheet, rafter == 2 ? 1U : 0U, ProjectName, today, board.LengthText};
+}
+
 /// White lines, made for a dark screen, come out black; on a printer without colour, or where the person
 /// wants it, everything does.
 PrintContext frmDocument::PaperContext(int rafter, bool color) const {
-  PrintContext context{
-      Context(), sheet, rafter == 2 ? 1U : 0U, ProjectName, surroundings_.printer->Today(), board.LengthText};
+  PrintContext context = OutputContext(rafter);
   DrawingContext& drawing = context.Drawing;
   drawing.BackColor = kWhite;
   drawing.LineWidth = LineWidth;
@@ -63,7 +59,7 @@ void frmDocument::PrintPage(const PageOutput& output, const CRafter& rafter) {
   paper.DrawScale = DrawScale();
   paper.TextFlip = RotateFonts ? -1 : 1;
   paper.MetaCanvas.SetCanvas({page.ScaleWidth, page.ScaleHeight, true});
-  FormsOf(output.Print).Print(page, paper, rafter, PaperContext(output.Rafter, color));
+  FormsOf(output.Drawing).Print(page, paper, rafter, PaperContext(output.Rafter, color));
   surroundings_.printer->Send(page.EndDoc(), ProjectName);
 }
 

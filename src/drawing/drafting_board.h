@@ -49,6 +49,14 @@ struct Dimension {
   std::optional<PointRecord> TextAt;  ///< centre of the text's base line, in place of the usual one
 };
 
+/// A dimension as it was drawn, for whoever repeats it at another scale. Drawing units.
+struct DrawnDimension {
+  int Kind = 1;
+  PointRecord P1, P2;
+  PointRecord End1, End2;             ///< of the dimension line
+  std::optional<PointRecord> TextAt;  ///< centre of the text's base line, where it was given
+};
+
 class DraftingBoard {
  public:
   /// `lengthText` renders a length in the document's unit.
@@ -62,6 +70,7 @@ class DraftingBoard {
   CTextFX TextFX;
   PointArray Pts;
   std::vector<DimensionValue> DimensionPoints;
+  std::vector<DrawnDimension> Dimensions;  ///< in the order of their drawing
   std::function<std::string(double)> LengthText;
 
   Single PointFactor;     ///< drawing units for one twip at the extents of the outline

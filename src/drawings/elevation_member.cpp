@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "drawings/lettering.h"
 
 namespace pitchcraft {
 namespace {
@@ -11,7 +12,6 @@ constexpr int kGable = 0;
 constexpr int kHipRoof = 1;
 constexpr int kShed = 3;
 constexpr int kDualSlope = 4;
-constexpr const char* kDegreeSign = "\u00BA";
 
 ElevationFamily FamilyOf(RafterType type) {
   if (type == RafterType::kHip) return ElevationFamily::kHip;
@@ -76,7 +76,8 @@ void KeepWithinLumber(ElevationMember& member) {
 
 std::string SlopeTextOf(const CRafter& rafter, bool common, bool riseOverRun) {
   if (riseOverRun) return common ? rafter.Pitch.Stored() : rafter.HipPitch.Stored();
-  return PlainText(RoundTo(common ? double{rafter.degrees} : double{rafter.HipDegrees}, 2)) + kDegreeSign;
+  return PlainText(RoundTo(common ? double{rafter.degrees} : double{rafter.HipDegrees}, 2)) +
+         std::string(kDegreeSign);
 }
 
 }  // namespace

@@ -6,12 +6,12 @@
 
 #include "core/number_text.h"
 #include "drawing/utf8.h"
+#include "drawings/lettering.h"
 
 namespace pitchcraft {
 namespace {
 
 constexpr const char* kProduct = "Pitchcraft from Tamarack Benchworks";
-constexpr const char* kDegreeSign = "\u00BA";
 constexpr const char* kEllipsis = "\u2026";
 
 constexpr double kTwipsPerInch = 1440;
@@ -96,7 +96,8 @@ std::string Row(const std::string& label, const LWCombo& lumber) {
 }
 
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees) {
-  return label + " = " + std::string(Trimmed(pitch)) + " (" + AngleText(degrees) + kDegreeSign + ")";
+  return label + " = " + std::string(Trimmed(pitch)) + " (" + AngleText(degrees) + std::string(kDegreeSign) +
+         ")";
 }
 
 void PrintHeader(Printer& page, const PrintContext& context) {

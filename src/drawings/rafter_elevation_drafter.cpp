@@ -1,26 +1,15 @@
 // Outline, angle labels and title of the side view, and the order of all its steps.
 #include "drawings/rafter_elevation_drafter.h"
 
-#include <array>
-#include <charconv>
-
 #include "core/run_time_error.h"
 #include "drawing/text_align.h"
+#include "drawings/lettering.h"
 
 namespace pitchcraft {
 namespace {
 
 constexpr int kDashed = 2;
 constexpr double kTitleTwips = 360;  // 18 points
-constexpr const char* kDegreeSign = "\u00BA";
-
-/// One decimal, and the degree sign of the lettering.
-std::string AngleText(double degrees) {
-  std::array<char, 64> digits{};
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), degrees, std::chars_format::fixed, 1);
-  return std::string(digits.data(), end.ptr) + kDegreeSign;
-}
 
 }  // namespace
 
@@ -110,9 +99,9 @@ void RafterElevationDrafter::ChooseLettering() {
 /// beside the tail's end.
 void RafterElevationDrafter::LabelAngles() {
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
-  board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
+  board_.Text(AngleLabel(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
   if (!geometry_.SquareCut || member_.IsCommon()) return;
-  board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
+  board_.Text(AngleLabel(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
 }
 
 /// In the left upper corner; above everything where a line or a text stands there.
@@ -133,7 +122,7 @@ void RafterElevationDrafter::WriteTitle() {
 }
 
 double RafterElevationDrafter::AngleLabelEnd() {
-  return X(0) + board_.DimGap + board_.WidthOf(AngleText(geometry_.PlumbAngle), board_.DimTextHeight);
+  return X(0) + board_.DimGap + board_.WidthOf(AngleLabel(geometry_.PlumbAngle), board_.DimTextHeight);
 }
 
 }  // namespace pitchcraft

@@ -1,36 +1,12 @@
 // The rafter from below at the foot of the drawing, with the bevels of its two ends.
-#include <optional>
-
 #include "drawing/text_align.h"
 #include "drawings/rafter_elevation_drafter.h"
+#include "drawings/rafter_end_view.h"
 
 namespace pitchcraft {
 namespace {
 
 constexpr int kDashed = 2;
-
-/// How an end is cut, seen from below. A point fits into a corner, a notch over one.
-enum class EndCut { kPoint, kNotch, kOneSided, kSquare };
-
-struct BeveledEnds {
-  EndCut Ridge;
-  EndCut Tail;
-};
-
-std::optional<BeveledEnds> EndsOf(RafterType type) {
-  switch (type) {
-    case RafterType::kHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
-    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
-    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
-    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
-    default: return std::nullopt;
-  }
-}
-
-const char* LabelOf(EndCut cut) {
-  if (cut == EndCut::kSquare) return "";
-  return cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels";
-}
 
 /// How far the two edges and the middle of an end stand inside of its outermost line, in half thicknesses.
 struct EndShape {
@@ -48,6 +24,21 @@ EndShape ShapeOf(EndCut cut) {
 }
 
 }  // namespace
+
+std::optional<BeveledEnds> EndsOf(RafterType type) {
+  switch (type) {
+    case RafterType::kHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
+    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
+    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
+    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
+    default: return std::nullopt;
+  }
+}
+
+const char* BevelLabel(EndCut cut) {
+  if (cut == EndCut::kSquare) return "";
+  return cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels";
+}
 
 /// Only where the drawing is narrower than its canvas, beside which the labels have room.
 void RafterElevationDrafter::DrawEndView() {
@@ -78,9 +69,9 @@ void RafterElevationDrafter::DrawEndView() {
   board_.Line(25, 26);
   board_.DrawFX.SetDrawStyle(0);
 
-  board_.Text(LabelOf(ends->Tail), left - half, Y(20), kAlignRightBottom);
+  board_.Text(BevelLabel(ends->Tail), left - half, Y(20), kAlignRightBottom);
   if (ends->Ridge != EndCut::kSquare)
-    board_.Text(LabelOf(ends->Ridge), right + half, Y(20), kAlignLeftBottom);
+    board_.Text(BevelLabel(ends->Ridge), right + half, Y(20), kAlignLeftBottom);
 }
 
 }  // namespace pitchcraft

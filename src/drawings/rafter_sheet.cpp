@@ -1,5 +1,5 @@
 // The printed sheet of one rafter: which measures stand in which column.
-#include <string>
+#include "drawings/rafter_sheet.h"
 
 #include "drawings/rafter_elevation.h"
 #include "sheet/roof_types.h"
@@ -133,11 +133,17 @@ class RafterSheet {
 
 }  // namespace
 
+std::string RafterTitle(const CRafter& rafter, const PrintContext& context) {
+  return TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row);
+}
+
+SheetColumns RafterRows(const CRafter& rafter, const PrintContext& context) {
+  return RafterSheet(rafter, context).Columns();
+}
+
 void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
   DrawRafter(board, rafter, context.Drawing);
-  PrintSheet(page, context, board.MetaCanvas,
-             TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row),
-             RafterSheet(rafter, context).Columns());
+  PrintSheet(page, context, board.MetaCanvas, RafterTitle(rafter, context), RafterRows(rafter, context));
 }
 
 }  // namespace pitchcraft

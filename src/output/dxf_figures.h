@@ -9,7 +9,7 @@
 
 namespace pitchcraft {
 
-enum class DxfUnits { kInches, kMillimetres };
+enum class DxfUnits { kInch, kMillimetre };
 
 inline constexpr int kDxfByLayer = 256;
 

@@ -10,7 +10,7 @@ namespace pitchcraft {
 
 /// What counts for the file as a whole. Lengths are of real size.
 struct DxfFileStyle {
-  DxfUnits Units = DxfUnits::kInches;
+  DxfUnits Units = DxfUnits::kInch;
   double TextHeight = 0;  ///< of a text that is added in the CAD program
   double DimIncrement = 0;
   DxfDimensionStyle Dimensions;

@@ -13,7 +13,7 @@ constexpr int kWhite = 7;
 constexpr double kInchLineScale = 12;
 constexpr double kMillimetreLineScale = 300;
 
-bool IsImperial(const DxfFileStyle& style) { return style.Units == DxfUnits::kInches; }
+bool IsImperial(const DxfFileStyle& style) { return style.Units == DxfUnits::kInch; }
 
 void Whole(DxfPairs& pairs, std::string_view name, int code, int value) {
   pairs.Variable(name);

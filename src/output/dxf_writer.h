@@ -57,7 +57,7 @@ class CDxfWriter {
                      std::optional<Single> textX = {}, std::optional<Single> textY = {});
 
   std::string FileName;
-  DxfUnits Units = DxfUnits::kInches;
+  DxfUnits Units = DxfUnits::kInch;
   /// Renders the measured length of a dimension; without one it is a plain number of up to four decimals.
   std::function<std::string(double)> LengthText;
 

@@ -10,12 +10,12 @@ namespace pitchcraft {
 void SaveFile(const std::filesystem::path& path, std::string_view bytes) {
   std::error_code error;
   if (path.has_parent_path() && !std::filesystem::is_directory(path.parent_path(), error)) {
-    throw RunTimeError(76, "Path not found");
+    throw RunTimeError::PathNotFound();
   }
   // A device is no file that a new one may take the place of.
   const std::filesystem::file_status old = std::filesystem::status(path, error);
   const bool isFree = !std::filesystem::exists(old) || std::filesystem::is_regular_file(old);
-  if (!isFree || !WriteWholeFile(path, bytes)) throw RunTimeError(75, "Path/File access error");
+  if (!isFree || !WriteWholeFile(path, bytes)) throw RunTimeError::PathFileAccess();
 }
 
 }  // namespace pitchcraft

@@ -6,8 +6,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-#include "core/run_time_error.h"
-#include "files/whole_file.h"
+#include "output/save_file.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
 
@@ -48,8 +47,7 @@ QByteArray PdfOf(const PrintedPage& page, const TextMeter& meter, const std::str
 void WritePdf(const PrintedPage& page, const TextMeter& meter, const std::string& title,
               const std::filesystem::path& file) {
   const QByteArray bytes = PdfOf(page, meter, title);
-  if (!WriteWholeFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())}))
-    throw RunTimeError::PathFileAccess();
+  SaveFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 std::string ShortDateOfToday() {
