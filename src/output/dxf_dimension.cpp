@@ -13,6 +13,13 @@ constexpr double kRoomForArrows = 2.5;
 constexpr double kTailArrows = 2;
 constexpr double kHalfWidthOfArrow = 1.0 / 6;
 
+double ReadingAngle(DxfPoint along) {
+  constexpr double kAHair = 1e-4;  // a line that leans by less counts as upright
+  const double angle = std::atan2(along.Y, along.X) * kDegreesPerRadian;
+  if (angle > 90 + kAHair) return angle - 180;
+  return angle <= -90 + kAHair ? angle + 180 : angle;
+}
+
 class Drafter {
  public:
   Drafter(const DxfDimension& dimension, const DxfDimensionStyle& style)
@@ -72,11 +79,8 @@ void Drafter::DrawArrow(DxfPoint tip, DxfPoint back) {
 /// The text stands above its line, read from below or from the right. One that is longer than the line goes
 /// beside it.
 void Drafter::PlaceText() {
-  double angle = std::atan2(along_.Y, along_.X) * kDegreesPerRadian;
-  constexpr double kAHair = 1e-4;  // a line that leans by less counts as upright
-  if (angle > 90 + kAHair) angle -= 180;
-  if (angle <= -90 + kAHair) angle += 180;
-  const DxfPoint reading = DirectionAt(angle);
+  look_.Angle = ReadingAngle(along_);
+  const DxfPoint reading = DirectionAt(look_.Angle);
   const std::string text = style_.TextHeight > 0 ? style_.LengthText(MeasureOf(dim_)) : std::string();
   const double width = DxfTextWidth(text, style_.TextHeight);
   const DxfPoint up = LeftOf(reading);
@@ -91,8 +95,8 @@ void Drafter::PlaceText() {
   }
   look_.TextMiddle = middle;
   if (text.empty()) return;
-  look_.Text =
-      DxfText{text, middle - style_.TextHeight / 2 * up, style_.TextHeight, angle, 'C', "0", style_.Color};
+  look_.Text = DxfText{
+      text, middle - style_.TextHeight / 2 * up, style_.TextHeight, look_.Angle, 'C', "0", style_.Color};
 }
 
 }  // namespace

@@ -24,6 +24,7 @@ struct DxfDimensionStyle {
 
 struct DxfDimensionLook {
   int Color = 7;
+  double Angle = 0;     ///< of the dimension line and its text: above -90 degrees, up to 90
   DxfPoint LineEnd;     ///< on the dimension line, where the second extension line meets it
   DxfPoint TextMiddle;  ///< also where no text is shown
   bool TextMoved = false;

@@ -70,18 +70,18 @@ void WriteDxfBlock(DxfPairs& pairs, const std::string& name, const DxfDimensionL
 
 void WriteDxfDimension(DxfPairs& pairs, const std::string& block, const DxfDimension& dimension,
                        const DxfDimensionLook& look, int color) {
-  const bool isAligned = dimension.Kind == DxfDimensionKind::kAligned;
+  const int type = dimension.Kind == DxfDimensionKind::kAligned ? kAligned : kRotated;
   BeginEntity(pairs, "DIMENSION", kDxfDimensionLayer, color);
   pairs.Name(2, block);
   pairs.Point(10, look.LineEnd);
   pairs.Point(11, look.TextMiddle);
-  pairs.Whole(70, (isAligned ? kAligned : kRotated) + (look.TextMoved ? kTextMoved : 0));
+  pairs.Whole(70, type + (look.TextMoved ? kTextMoved : 0));
   // One blank keeps readers from writing the measure themselves.
   pairs.Name(1, look.Text ? DxfTextCode(look.Text->Text) : " ");
   pairs.Name(3, "STANDARD");
   pairs.Point(13, dimension.P1);
   pairs.Point(14, dimension.P2);
-  if (!isAligned) pairs.Real(50, dimension.Kind == DxfDimensionKind::kVertical ? 90 : 0);
+  pairs.Real(50, look.Angle);  // an aligned one has it, too: some readers measure along it
 }
 
 }  // namespace pitchcraft
