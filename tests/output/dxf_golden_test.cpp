@@ -15,7 +15,7 @@ TEST(DxfGolden, ADrawingWithNothing) { ExpectGolden("output/golden/nothing.dxf",
 
 TEST(DxfGolden, ARecordedDimension) {
   CDxfWriter writer = SampleWriter();
-  writer.Units = DxfUnits::kMillimetres;
+  writer.Units = DxfUnits::kMillimetre;
   writer.Line(0, 0, 1000, 500);
   writer.DimTextHeight = 40;
   const auto stroke = [](double x1, double y1, double x2, double y2) {
