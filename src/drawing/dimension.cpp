@@ -103,7 +103,7 @@ class DimensionDrafter {
     DrawDimensionLine();
     DrawArrowheads();
     PlaceText();
-    board_.Dimensions.push_back({dim_.Kind, p1_, p2_, end1_, end2_, dim_.TextAt});
+    board_.Dimensions.push_back({dim_.Kind, p1_, p2_, end1_, end2_, dim_.TextAt, dim_.ArrowsOutside == 1});
     board_.DimText(text_, dim_.TextHeight, direction_.Radians, dim_.TextMode, kAlignCenterBase);
   }
 

@@ -55,6 +55,7 @@ struct DrawnDimension {
   PointRecord P1, P2;
   PointRecord End1, End2;             ///< of the dimension line
   std::optional<PointRecord> TextAt;  ///< centre of the text's base line, where it was given
+  bool ArrowsOutside = false;         ///< was asked for
 };
 
 class DraftingBoard {
