@@ -404,6 +404,7 @@ class frmDocument {
   void ClearPicture();
   void ShowSpacing();
   DrawingContext Context() const;
+  HipLayoutOptions HipLayoutChoice() const;
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made

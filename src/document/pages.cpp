@@ -2,6 +2,7 @@
 #include <iterator>
 
 #include "document/frm_document.h"
+#include "drawings/hip_plan.h"
 #include "drawings/rafter_elevation.h"
 
 namespace pitchcraft {
@@ -134,14 +135,14 @@ void frmDocument::DrawOctagonPage(int page) {
 // The one place that says which drawings exist.
 void frmDocument::Draw(Drawing drawing, const CRafter& rafter) {
   constexpr DrawingRow kDrawings[] = {
-      {"DrawRafter", &DrawRafter},      {"DrawHipPlan", nullptr},
-      {"DrawHipLayout", nullptr},       {"DrawBastardHipRafters", nullptr},
-      {"DrawSaltbox", nullptr},         {"DrawBayPlan", nullptr},
-      {"DrawBayDiagram", nullptr},      {"DrawBayRafter", nullptr},
-      {"DrawBayCenterLedger", nullptr}, {"DrawDutchPlan", nullptr},
-      {"DrawOctagonPlan", nullptr},     {"DrawOctagonRafter", nullptr},
-      {"DrawOctagonLayout", nullptr},   {"DrawUnequalSpanValley", nullptr},
-      {"DrawBlindValley", nullptr},     {"DrawGambrelRafter", nullptr},
+      {"DrawRafter", &DrawRafter},       {"DrawHipPlan", &DrawHipPlan},
+      {"DrawHipLayout", &DrawHipLayout}, {"DrawBastardHipRafters", &DrawBastardHipRafters},
+      {"DrawSaltbox", nullptr},          {"DrawBayPlan", nullptr},
+      {"DrawBayDiagram", nullptr},       {"DrawBayRafter", nullptr},
+      {"DrawBayCenterLedger", nullptr},  {"DrawDutchPlan", nullptr},
+      {"DrawOctagonPlan", nullptr},      {"DrawOctagonRafter", nullptr},
+      {"DrawOctagonLayout", nullptr},    {"DrawUnequalSpanValley", nullptr},
+      {"DrawBlindValley", nullptr},      {"DrawGambrelRafter", nullptr},
       {"DrawGambrelPreview", nullptr},
   };
   static_assert(std::size(kDrawings) == static_cast<std::size_t>(Drawing::kGambrelPreview) + 1);
@@ -161,11 +162,22 @@ DrawingContext frmDocument::Context() const {
   context.CurrentTab = CurrentTab;
   context.SquareCut = menus.mnuSettingsSquareCut.Checked;
   context.RiseOverRun = menus.mnuSettingsRiseOverRun.Checked;
+  context.HipLayout = HipLayoutChoice();
   context.BackColor = static_cast<DrawColor>(BackColor);
   context.LineColor = static_cast<DrawColor>(LineColor);
   context.DimColor = static_cast<DrawColor>(DimColor);
   context.TextColor = static_cast<DrawColor>(TextColor);
   return context;
+}
+
+HipLayoutOptions frmDocument::HipLayoutChoice() const {
+  HipLayoutOptions options;
+  options.Layout = menus.mnuHipLayoutCenter.Checked         ? JackLayout::kCenter
+                   : menus.mnuHipLayoutCornersFlush.Checked ? JackLayout::kCornersFlush
+                                                            : JackLayout::kCorners;
+  options.WithOverhang = menus.mnuHipLayoutJackMeasurement.Checked;
+  if (sheet.chkLastCommon.Ticked()) options.LastCommon = sheet.FtLastCommon.Value();
+  return options;
 }
 
 // The page's picture becomes the target, with nothing on it.

@@ -1,26 +1,15 @@
 // Outline, angle labels and title of the side view, and the order of all its steps.
 #include "drawings/rafter_elevation_drafter.h"
 
-#include <array>
-#include <charconv>
-
 #include "core/run_time_error.h"
 #include "drawing/text_align.h"
+#include "drawings/drawing_measures.h"
+#include "drawings/lettering.h"
 
 namespace pitchcraft {
 namespace {
 
-constexpr int kDashed = 2;
 constexpr double kTitleTwips = 360;  // 18 points
-constexpr const char* kDegreeSign = "\u00BA";
-
-/// One decimal, and the degree sign of the lettering.
-std::string AngleText(double degrees) {
-  std::array<char, 64> digits{};
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), degrees, std::chars_format::fixed, 1);
-  return std::string(digits.data(), end.ptr) + kDegreeSign;
-}
 
 }  // namespace
 
@@ -37,7 +26,7 @@ void RafterElevationDrafter::Draw() {
   DrawOutline();
   WidenByMargin();
   ratio_ = board_.SetMetrics();
-  ChooseLettering();
+  ChooseLettering(board_, context_);
   DimensionAlongRafter();
   DimensionTail();
   DimensionOverhang();
@@ -77,7 +66,7 @@ void RafterElevationDrafter::DrawTail() {
 void RafterElevationDrafter::DrawHeelLines() {
   if (member_.Heel == 0) return;
   board_.DrawFX.SetPenColor(context_.DimColor);
-  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(1, 5);
   if (geometry_.Kneewall) board_.Line(27, 28);
   board_.DrawFX.SetPenColor(context_.LineColor);
@@ -95,19 +84,12 @@ void RafterElevationDrafter::WidenByMargin() {
   board_.DrawFX.MoveToPoint(right, top);
 }
 
-void RafterElevationDrafter::ChooseLettering() {
-  board_.TextFX.TextColor = context_.TextColor;
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
-  board_.TextFX.SetTextAlign(kAlignLeftBase);
-  board_.DrawFX.SetPenColor(context_.DimColor);
-}
-
 /// The plumb angle stands on the extension line that starts at the ridge; the angle of a square tail hangs
 /// beside the tail's end.
 void RafterElevationDrafter::LabelAngles() {
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
   board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
-  if (!geometry_.SquareCut || member_.IsCommon()) return;
+  if (!geometry_.SquareCut || member_.SetsFascia()) return;
   board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
 }
 

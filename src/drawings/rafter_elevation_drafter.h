@@ -22,7 +22,6 @@ class RafterElevationDrafter {
   void DrawTail();
   void DrawHeelLines();
   void WidenByMargin();
-  void ChooseLettering();
 
   // Dimensions, in the order of their recording.
   void DimensionAlongRafter();
@@ -65,6 +64,7 @@ class RafterElevationDrafter {
   double AngleLabelEnd();
   void WriteTitle();
   void DrawEndView();
+  void LabelCheeks(double leftEnd, double rightEnd);
 
   double X(int point) const { return board_.Pts(point).X; }
   double Y(int point) const { return board_.Pts(point).Y; }

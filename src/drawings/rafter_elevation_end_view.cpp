@@ -1,13 +1,19 @@
 // The rafter from below at the foot of the drawing, with the bevels of its two ends.
+#include <algorithm>
+#include <cmath>
 #include <optional>
 
+#include "core/angles.h"
 #include "drawing/text_align.h"
+#include "drawings/drawing_measures.h"
+#include "drawings/lettering.h"
 #include "drawings/rafter_elevation_drafter.h"
 
 namespace pitchcraft {
 namespace {
 
-constexpr int kDashed = 2;
+// The longest point that is drawn, in half thicknesses: a sharper one is shown blunt.
+constexpr double kLongestPoint = 6;
 
 /// How an end is cut, seen from below. A point fits into a corner, a notch over one.
 enum class EndCut { kPoint, kNotch, kOneSided, kSquare };
@@ -19,7 +25,8 @@ struct BeveledEnds {
 
 std::optional<BeveledEnds> EndsOf(RafterType type) {
   switch (type) {
-    case RafterType::kHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
+    case RafterType::kHip:
+    case RafterType::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
     case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
     case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
     case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
@@ -37,9 +44,13 @@ struct EndShape {
   double Upper, Middle, Lower;
 };
 
-EndShape ShapeOf(EndCut cut) {
+double SetBack(double bevel) {
+  return bevel == 45 ? 1 : std::min(std::tan(bevel * kRadiansPerDegree), kLongestPoint);
+}
+
+EndShape ShapeOf(EndCut cut, const CheekBevels& bevels) {
   switch (cut) {
-    case EndCut::kPoint: return {1, 0, 1};
+    case EndCut::kPoint: return {SetBack(bevels.Upper), 0, SetBack(bevels.Lower)};
     case EndCut::kNotch: return {0, 1, 0};
     case EndCut::kOneSided: return {0, 1, 2};
     case EndCut::kSquare: break;
@@ -55,8 +66,8 @@ void RafterElevationDrafter::DrawEndView() {
   if (!ends || context_.CurrentTab <= 0 || !(ratio_ < 1)) return;
   const double half = board_.DimTextHeight / 2;
   const double top = board_.MetaCanvas.MinY() - 2 * board_.DimTextHeight;
-  const EndShape ridge = ShapeOf(ends->Ridge);
-  const EndShape tail = ShapeOf(ends->Tail);
+  const EndShape ridge = ShapeOf(ends->Ridge, member_.RidgeBevels);
+  const EndShape tail = ShapeOf(ends->Tail, member_.TailBevels);
   const double right = X(0);
   const double left = X(2);
   board_.Pts(18) = {right - ridge.Upper * half, top};
@@ -72,13 +83,23 @@ void RafterElevationDrafter::DrawEndView() {
   board_.DrawFX.SetPenColor(context_.LineColor);
   for (int corner = 18; corner < 24; ++corner) board_.Line(corner, corner + 1);
   board_.DrawFX.SetPenColor(context_.DimColor);
-  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(25, 26);
   board_.DrawFX.SetDrawStyle(0);
 
+  if (type_ == RafterType::kBastardHip) return LabelCheeks(left - half, right + half);
   board_.Text(LabelOf(ends->Tail), left - half, Y(20), kAlignRightBottom);
   if (ends->Ridge != EndCut::kSquare)
     board_.Text(LabelOf(ends->Ridge), right + half, Y(20), kAlignLeftBottom);
+}
+
+/// The two cheeks of either end on a row each, the upper one above.
+void RafterElevationDrafter::LabelCheeks(double leftEnd, double rightEnd) {
+  const auto label = [](double bevel) { return AngleText(bevel) + " bevel"; };
+  board_.Text(label(member_.TailBevels.Upper), leftEnd, Y(20), kAlignRightBottom);
+  board_.Text(label(member_.RidgeBevels.Upper), rightEnd, Y(20), kAlignLeftBottom);
+  board_.Text(label(member_.TailBevels.Lower), leftEnd, Y(20), kAlignRightTop);
+  board_.Text(label(member_.RidgeBevels.Lower), rightEnd, Y(20), kAlignLeftTop);
 }
 
 }  // namespace pitchcraft

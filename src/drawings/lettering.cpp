@@ -1,0 +1,46 @@
+#include "drawings/lettering.h"
+
+#include <array>
+#include <charconv>
+
+#include "core/number_text.h"
+#include "drawing/text_align.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr const char* kDegreeSign = "\u00BA";
+
+}  // namespace
+
+std::string AngleText(double degrees) {
+  std::array<char, 64> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), degrees, std::chars_format::fixed, 1);
+  return std::string(digits.data(), end.ptr) + kDegreeSign;
+}
+
+std::string SlopeText(const std::string& pitch, double degrees, bool riseOverRun) {
+  return riseOverRun ? pitch : PlainText(RoundTo(degrees, 2)) + kDegreeSign;
+}
+
+void ChooseLettering(DraftingBoard& board, const DrawingContext& context) {
+  board.TextFX.TextColor = context.TextColor;
+  board.TextFX.FontHeight = ToLong(board.DimTextHeight);
+  board.TextFX.SetTextAlign(kAlignLeftBase);
+  board.DrawFX.SetPenColor(context.DimColor);
+}
+
+Dimension PlainDimension(const DraftingBoard& board, int kind, int p1, int p2, double leg) {
+  Dimension dimension;
+  dimension.Kind = kind;
+  dimension.P1 = p1;
+  dimension.P2 = p2;
+  dimension.Gap = board.DimGap;
+  dimension.Arrow = board.DimArrow;
+  dimension.Leg = leg;
+  dimension.TextHeight = board.DimTextHeight;
+  return dimension;
+}
+
+}  // namespace pitchcraft
