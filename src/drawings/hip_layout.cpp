@@ -14,6 +14,9 @@ constexpr double kStubSpacings = 1.5;
 // The last common stands at least as far below the cut through the main roof as without it.
 constexpr double kAboveLastCommon = 0.5;
 
+/// The end of a plain hip is its side turned round: what the record holds of it may be older than the side.
+bool IsPlain(const CRafter& rafter) { return rafter.RafterType != RafterType::kBastardHip; }
+
 /// One face as its jacks see it: they stand along its eave and run square to it.
 struct Face {
   RoofFace Side = RoofFace::kEnd;
@@ -48,7 +51,7 @@ class HipLayoutBuilder {
             outline_.Overhang,
             outline_.EndOverhang,
             ratio,
-            rafter.HipEndSlope / rafter.SlopeBase,
+            (IsPlain(rafter) ? rafter.Slope : rafter.HipEndSlope) / rafter.SlopeBase,
             outline_.EndRun - rafter.RidgeAllowance * ratio,
             outline_.EndRun};
     main_ = {RoofFace::kMain,
@@ -140,16 +143,17 @@ class HipLayoutBuilder {
 }  // namespace
 
 HipOutline OutlineOfHip(const CRafter& rafter, const HipLayoutOptions& options) {
+  const bool plain = IsPlain(rafter);
+  const double endSpan = plain ? rafter.Span : rafter.HipEndSpan;
   HipOutline outline;
   outline.Overhang = rafter.Overhang;
-  // A heel of 0 takes the overhang away after that of the end was worked out from it.
-  outline.EndOverhang = rafter.Overhang == 0 ? 0 : double{rafter.HipEndOverhang};
+  outline.EndOverhang = plain ? rafter.Overhang : rafter.HipEndOverhang;
   outline.MainRun = rafter.Span + outline.Overhang;
-  outline.EndRun = rafter.HipEndSpan + outline.EndOverhang;
+  outline.EndRun = endSpan + outline.EndOverhang;
   outline.Top = outline.EndRun + kStubSpacings * rafter.spacing;
   if (options.LastCommon) {
     // It stands on the ridge; below the peak it would be a jack.
-    outline.LastCommon = std::max<double>(*options.LastCommon, rafter.HipEndSpan);
+    outline.LastCommon = std::max(*options.LastCommon, endSpan);
     outline.Top = std::max(outline.Top, outline.LastCommonPlace() + kAboveLastCommon * rafter.spacing);
   }
   return outline;
