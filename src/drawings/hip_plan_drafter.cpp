@@ -26,6 +26,8 @@ constexpr int kEndCommonFoot = 15;
 constexpr int kMainCommonFoot = 17;
 
 constexpr double kSlopeText = 1.25 * kTextHeight;
+constexpr double kSmallestSlopeText = kSlopeText / 8;
+constexpr double kShrink = 0.75;
 
 }  // namespace
 
@@ -117,7 +119,6 @@ void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
   const auto text = [this](const std::string& pitch, double degrees) {
     return std::string(Trimmed(SlopeText(pitch, degrees, context_.RiseOverRun)));
   };
-  board_.TextFX.FontHeight = ToLong(Twips(kSlopeText));
   const double base = Y(kPeak) + Twips(kGap);
   const double middle = (X(kPeak) + X(9)) / 2;
   WriteWhereClear(text(rafter_.Pitch, rafter_.degrees), {{X(kRightCorner) * 0.75, base}, {middle, base}},
@@ -129,13 +130,21 @@ void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
 }
 
+/// Between the eaves, also above them, where the dimension's extension lines will run up.
 void HipPlanDrafter::WriteWhereClear(const std::string& text, const std::vector<PointRecord>& places,
                                      int align) {
-  const auto clear = std::find_if(places.begin(), places.end(), [&](const PointRecord& place) {
-    return board_.IsClear(text, place.X, place.Y, align, Twips(kClear));
-  });
-  const PointRecord& place = clear == places.end() ? places.back() : *clear;
-  board_.Text(text, place.X, place.Y, align);
+  const PointRecord* place = nullptr;
+  for (double size = kSlopeText; place == nullptr && size > kSmallestSlopeText; size *= kShrink) {
+    board_.TextFX.FontHeight = ToLong(Twips(size));
+    const double width = board_.TextFX.TextWidth(text);
+    const auto clear = std::find_if(places.begin(), places.end(), [&](const PointRecord& at) {
+      const double right = at.X + width * (1 - ShareLeftOf(SideOf(align))) + Twips(kClear);
+      return right <= X(kRightCorner) && board_.IsClear(text, at.X, at.Y, align, Twips(kClear));
+    });
+    if (clear != places.end()) place = &*clear;
+  }
+  if (place == nullptr) place = &places.back();
+  board_.Text(text, place->X, place->Y, align);
 }
 
 /// The end's run at the right; the whole width above, clear of the main slope's label where the roof is cut

@@ -22,7 +22,7 @@ class HipPlanDrafter {
   void DrawLastCommon(const HipOutline& outline);
   void DrawRafters(const HipLayout& layout);
   void LabelSlopes(int endAlign, double endX);
-  /// Writes at the first of the places where nothing stands, else at the last.
+  /// Writes a slope at the first of the places where nothing stands; smaller where there is none.
   void WriteWhereClear(const std::string& text, const std::vector<PointRecord>& places, int align);
   void DimensionOutline();
 
