@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 
+#include "drawings/hip_plan.h"
 #include "drawings/rafter_elevation.h"
 #include "sheet/roof_types.h"
 
@@ -13,9 +14,10 @@ namespace {
 // The one place that says which drawings exist.
 constexpr DrawingForms kForms[] = {
     {"DrawRafter", &DrawRafter, "PrintRafter", &PrintRafter, "ExportRafter", &ExportRafter},
-    {"DrawHipPlan", nullptr, "PrintHipPlan", nullptr, "ExportHipPlan", nullptr},
-    {"DrawHipLayout", nullptr, "PrintHipLayout", nullptr, "ExportHipLayout", nullptr},
-    {"DrawBastardHipRafters", nullptr, "PrintBastardHipRafters", nullptr, "ExportBastardHipRafter", nullptr},
+    {"DrawHipPlan", &DrawHipPlan, "PrintHipPlan", nullptr, "ExportHipPlan", nullptr},
+    {"DrawHipLayout", &DrawHipLayout, "PrintHipLayout", nullptr, "ExportHipLayout", nullptr},
+    {"DrawBastardHipRafters", &DrawBastardHipRafters, "PrintBastardHipRafters", nullptr,
+     "ExportBastardHipRafter", nullptr},
     {"DrawSaltbox", nullptr, "PrintSaltBox", nullptr, "ExportSaltbox", nullptr},
     {"DrawBayPlan", nullptr, "PrintBayPlan", nullptr, "ExportBayPlan", nullptr},
     {"DrawBayDiagram", nullptr, "PrintBayDiagram", nullptr, "ExportBayPlan", nullptr},

@@ -401,6 +401,7 @@ class frmDocument {
   void ClearPicture();
   void ShowSpacing();
   DrawingContext Context() const;
+  HipLayoutOptions HipLayoutChoice() const;
 
   // On paper and in files.
   PageOutput OutputOfPage(OutputForm form) const;

@@ -134,11 +134,22 @@ DrawingContext frmDocument::Context() const {
   context.CurrentTab = CurrentTab;
   context.SquareCut = menus.mnuSettingsSquareCut.Checked;
   context.RiseOverRun = menus.mnuSettingsRiseOverRun.Checked;
+  context.HipLayout = HipLayoutChoice();
   context.BackColor = static_cast<DrawColor>(BackColor);
   context.LineColor = static_cast<DrawColor>(LineColor);
   context.DimColor = static_cast<DrawColor>(DimColor);
   context.TextColor = static_cast<DrawColor>(TextColor);
   return context;
+}
+
+HipLayoutOptions frmDocument::HipLayoutChoice() const {
+  HipLayoutOptions options;
+  options.Layout = menus.mnuHipLayoutCenter.Checked         ? JackLayout::kCenter
+                   : menus.mnuHipLayoutCornersFlush.Checked ? JackLayout::kCornersFlush
+                                                            : JackLayout::kCorners;
+  options.WithOverhang = menus.mnuHipLayoutJackMeasurement.Checked;
+  if (sheet.chkLastCommon.Ticked()) options.LastCommon = sheet.FtLastCommon.Value();
+  return options;
 }
 
 // The page's picture becomes the target, with nothing on it.

@@ -249,7 +249,8 @@ void frmDocument::mnuHipLayoutJackMeasurement_Click(int) {
 
 void frmDocument::RedrawLayoutPage() {
   const int page = sheet.VSTab[0].Page;
-  if (page == sheet.VSTab[0].PageCount() - 1) Draw(Drawing::kHipLayout, Rafter1);
+  const bool last = page > 0 && page == sheet.VSTab[0].PageCount() - 1;
+  if (RoofType == roof::kHip && last) Draw(Drawing::kHipLayout, Rafter1);
 }
 
 void frmDocument::mnuHipLayoutOverhangsEqual_Click(int) {
@@ -257,12 +258,9 @@ void frmDocument::mnuHipLayoutOverhangsEqual_Click(int) {
     menus.mnuHipLayoutOverhangsEqual.Checked = !menus.mnuHipLayoutOverhangsEqual.Checked;
     menus.mnuPopUp1OverhangsEqual.Checked = menus.mnuHipLayoutOverhangsEqual.Checked;
     CalculateBastard();
-    const int page = sheet.VSTab[0].Page;
-    const int fromEnd = sheet.VSTab[0].PageCount() - 1 - page;
-    if (page == 0) return FtLastCommon_Commit();
-    if (fromEnd == 0) return Draw(Drawing::kHipLayout, Rafter1);
-    if (fromEnd == 1) return DrawAs(RafterType::kHipEndCommon, Drawing::kBastardHipRafters);
-    if (fromEnd == 2) Draw(Drawing::kBastardHipRafters, Rafter1);
+    // The moved end wall may leave the last common where it cannot stand.
+    if (sheet.VSTab[0].Page == 0 && sheet.chkLastCommon.Ticked()) return FtLastCommon_Commit();
+    RepeatDrawing();
   });
 }
 

@@ -56,6 +56,7 @@ struct DrawnDimension {
   PointRecord End1, End2;             ///< of the dimension line
   std::optional<PointRecord> TextAt;  ///< centre of the text's base line, where it was given
   bool ArrowsOutside = false;         ///< was asked for
+  std::string Text;
 };
 
 class DraftingBoard {

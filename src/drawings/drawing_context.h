@@ -2,6 +2,7 @@
 #pragma once
 
 #include "drawing/recording.h"
+#include "drawings/hip_layout.h"
 
 namespace pitchcraft {
 
@@ -12,7 +13,8 @@ struct DrawingContext {
   int CurrentTab = 0;             ///< page of VSTab(0)
   bool SquareCut = false;         ///< mnuSettingsSquareCut is checked: the fascia stands square to the rafter
   bool RiseOverRun = true;  ///< mnuSettingsRiseOverRun is checked: slopes as rise over run, else as degrees
-  int LineWidth = 0;        ///< pen width of outlines; 0 is the thinnest, as on screen
+  HipLayoutOptions HipLayout;
+  int LineWidth = 0;  ///< pen width of outlines; 0 is the thinnest, as on screen
   DrawColor BackColor = 0;
   DrawColor LineColor = 0xFFFFFF;
   DrawColor DimColor = 0xFF;

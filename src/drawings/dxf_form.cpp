@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kAligned = 1;
 constexpr int kHorizontal = 2;
+constexpr double kLetterWidth = 0.85;  // of a stroke font, in letter heights
 constexpr const char* kCenterLayer = "CENTER";
 
 /// Where a dimension line stands whose distance from the nearer of its points has grown.
@@ -75,7 +76,7 @@ void DxfForm::Dimensions() {
 }
 
 void DxfForm::Aligned(const DrawnDimension& dimension) {
-  const auto& [kind, p1, p2, end1, end2, text, outside] = dimension;
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
   if (p1.X == p2.X && p1.Y == p2.Y) return;
   const double scale = board_.DrawScale;
   const PointRecord third{(p1.X + (end1.X - p1.X) * growth_) / scale,
@@ -88,7 +89,7 @@ void DxfForm::Aligned(const DrawnDimension& dimension) {
 // A text with a place of its own keeps it along the measured way; across, it stands off as the lettering
 // does. The file places a text by its middle.
 void DxfForm::Horizontal(const DrawnDimension& dimension) {
-  const auto& [kind, p1, p2, end1, end2, text, outside] = dimension;
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
   if (p1.X == p2.X) return;
   const double scale = board_.DrawScale;
   const double line = GrownLine(end1.Y, p1.Y, p2.Y, growth_) / scale;
@@ -104,15 +105,18 @@ void DxfForm::Horizontal(const DrawnDimension& dimension) {
 }
 
 void DxfForm::Vertical(const DrawnDimension& dimension) {
-  const auto& [kind, p1, p2, end1, end2, text, outside] = dimension;
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
   if (p1.Y == p2.Y) return;
   const double scale = board_.DrawScale;
   const double line = GrownLine(end1.X, p1.X, p2.X, growth_) / scale;
   std::optional<Single> textX;
   std::optional<Single> textY;
-  // A file's text runs along its line. Beside a short line under the wood it would cross the wood; on the
-  // line it does not.
-  if (text && !outside) {
+  if (text && outside) {
+    // A file's text runs along its line: beside a short line it would cross the wood, below it is free.
+    const double length = static_cast<double>(shown.size()) * textHeight_ * kLetterWidth;
+    textX = line + 1.5 * textHeight_;
+    textY = std::min<double>(p1.Y, p2.Y) / scale - textHeight_ - length / 2;
+  } else if (text) {
     textX = line + Grown(text->X - end1.X);
     textY = text->Y / scale + textHeight_ / 2;
   }

@@ -1,8 +1,9 @@
 #include "drawings/elevation_member.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include "core/number_text.h"
+#include "core/angles.h"
 #include "drawings/lettering.h"
 
 namespace pitchcraft {
@@ -14,7 +15,7 @@ constexpr int kShed = 3;
 constexpr int kDualSlope = 4;
 
 ElevationFamily FamilyOf(RafterType type) {
-  if (type == RafterType::kHip) return ElevationFamily::kHip;
+  if (type == RafterType::kHip || type == RafterType::kBastardHip) return ElevationFamily::kHip;
   return IsValley(type) ? ElevationFamily::kValley : ElevationFamily::kCommon;
 }
 
@@ -46,6 +47,47 @@ void TakeCommon(ElevationMember& member, const CRafter& rafter, const DrawingCon
   }
 }
 
+/// The end of a bastard hip roof climbs from its own wall to the ridge.
+void TakeHipEndCommon(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+  member.HipEnd = true;
+  member.Run = rafter.AdjHipEndSpan;
+  member.Overhang = rafter.HipEndOverhang;
+  member.RunWithOverhang = rafter.AdjHipEndSpanWithOverhang;
+  member.Rise = rafter.HipEndRise;
+  member.RiseWithOverhang = rafter.HipEndRiseWithOverhang;
+  member.PlumbCut = rafter.HipEndPlumbCut;
+  member.Heel = rafter.HipEndHeel;
+  member.Seat = rafter.HipEndSeat;
+  member.Fascia = rafter.HipEndFasciaCut;
+  // Without an overhang nothing in front of the wall carries more than the heel.
+  if (member.Overhang == 0) member.Fascia = std::min<double>(member.Fascia, member.Heel);
+  member.Depth = rafter.Depth;
+  member.Slope = rafter.HipEndSlope;
+  member.UnitRun = context.UnitRun;
+}
+
+void TakeBastardHip(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+  member.Run = rafter.AdjHipSpan;
+  member.Overhang = rafter.HipValOverhang;
+  member.RunWithOverhang = rafter.AdjHipSpanWithOverhang;
+  member.Rise = rafter.HipRise;
+  member.RiseWithOverhang = rafter.HipRiseWithOverhang;
+  member.PlumbCut = rafter.HipValPlumbCut;
+  member.Heel = rafter.HipHeel;
+  member.Seat = rafter.HipValSeat;
+  member.Fascia = rafter.HipFasciaCut;
+  member.Depth = rafter.HipValDepth;
+  member.Drop = rafter.HipDrop;
+  member.Slope = rafter.HipValSlope;
+  member.UnitRun = context.UnitRun;
+  const double angle = rafter.HipAngle1 * kRadiansPerDegree;
+  // The lower corner of the two fascias lies as far from both eaves; on the hip its two distances add up.
+  member.FasciaFactor = std::sin(angle) + std::cos(angle);
+  // The cheek towards the main roof fits the main fascia at the tail and the main common at the ridge.
+  member.TailBevels = {rafter.HipAngle2, rafter.HipAngle1};
+  member.RidgeBevels = {rafter.HipAngle1, rafter.HipAngle2};
+}
+
 void TakeHipOrValley(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
   const bool hip = member.Family == ElevationFamily::kHip;
   member.Run = hip ? double{rafter.AdjHipSpan} : double{rafter.AdjValSpan};
@@ -60,6 +102,7 @@ void TakeHipOrValley(ElevationMember& member, const CRafter& rafter, const Drawi
   member.Depth = rafter.HipValDepth;
   member.Drop = hip ? double{rafter.HipDrop} : 0;
   member.UnitRun = context.UnitHipRun;
+  member.FasciaFactor = std::sqrt(2.0);
 }
 
 /// What cannot be cut from the lumber ends at its edges: a drop that eats up the heel leaves none, a fascia
@@ -74,10 +117,10 @@ void KeepWithinLumber(ElevationMember& member) {
   if (member.Fascia < 0) member.Fascia = 0;
 }
 
-std::string SlopeTextOf(const CRafter& rafter, bool common, bool riseOverRun) {
-  if (riseOverRun) return common ? rafter.Pitch.Stored() : rafter.HipPitch.Stored();
-  return PlainText(RoundTo(common ? double{rafter.degrees} : double{rafter.HipDegrees}, 2)) +
-         std::string(kDegreeSign);
+std::string TitleOf(const ElevationMember& member, const CRafter& rafter, bool riseOverRun) {
+  if (member.HipEnd) return SlopeText(rafter.HipEndPitch, rafter.HipEndDegrees, riseOverRun);
+  if (member.IsCommon()) return SlopeText(rafter.Pitch, rafter.degrees, riseOverRun);
+  return SlopeText(rafter.HipPitch, rafter.HipDegrees, riseOverRun);
 }
 
 }  // namespace
@@ -90,13 +133,19 @@ ElevationMember ChooseElevationMember(const CRafter& rafter, const DrawingContex
   member.CommonDepth = rafter.Depth;
   member.CommonUnitRun = context.UnitRun;
   member.Slope = rafter.Slope;
-  if (member.IsCommon()) {
+  member.CommonSlope = rafter.Slope;
+  if (rafter.RafterType == RafterType::kHipEndCommon) {
+    TakeHipEndCommon(member, rafter, context);
+  } else if (rafter.RafterType == RafterType::kBastardHip) {
+    TakeBastardHip(member, rafter, context);
+  } else if (member.IsCommon()) {
     TakeCommon(member, rafter, context);
   } else {
     TakeHipOrValley(member, rafter, context);
   }
   KeepWithinLumber(member);
-  member.SlopeText = SlopeTextOf(rafter, member.IsCommon(), context.RiseOverRun);
+  member.ShowsWholeRise = member.IsCommon() || rafter.RafterType == RafterType::kBastardHip;
+  member.SlopeText = TitleOf(member, rafter, context.RiseOverRun);
   return member;
 }
 

@@ -80,7 +80,7 @@ void PrintRows(Printer& page, const PlacedColumns& columns) {
 
 }  // namespace
 
-std::string AngleText(double degrees) {
+std::string FourDecimals(double degrees) {
   if (!std::isfinite(degrees)) return PlainText(degrees);
   std::string text = PlainText(RoundTo(degrees, 4));
   if (text.find_first_of(".E") == std::string::npos) text += ".0";
@@ -96,8 +96,7 @@ std::string Row(const std::string& label, const LWCombo& lumber) {
 }
 
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees) {
-  return label + " = " + std::string(Trimmed(pitch)) + " (" + AngleText(degrees) + std::string(kDegreeSign) +
-         ")";
+  return label + " = " + std::string(Trimmed(pitch)) + " (" + FourDecimals(degrees) + kDegreeSign + ")";
 }
 
 void PrintHeader(Printer& page, const PrintContext& context) {

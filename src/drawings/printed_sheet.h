@@ -46,6 +46,6 @@ std::string Row(const std::string& label, const LWCombo& lumber);
 /// A slope's text and its angle in degrees, with one to four decimals: "Slope = 6/12 (26.5651º)".
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees);
 /// At least one decimal and at most four, without a zero in front: "45.0", ".5", "26.5651".
-std::string AngleText(double degrees);
+std::string FourDecimals(double degrees);
 
 }  // namespace pitchcraft

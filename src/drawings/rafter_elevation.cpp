@@ -1,17 +1,17 @@
 #include "drawings/rafter_elevation.h"
 
-#include "core/run_time_error.h"
+#include "drawings/lettering.h"
 #include "drawings/rafter_elevation_drafter.h"
 
 namespace pitchcraft {
 
 void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
-  try {
-    RafterElevationDrafter(board, rafter, context).Draw();
-  } catch (const RunTimeError&) {
-    board.AbandonDrawing();
-    throw;
-  }
+  RecordOrAbandon(board, [&] { RafterElevationDrafter(board, rafter, context).Draw(); });
+}
+
+// One view: what sets the three members of a bastard hip roof apart is chosen with the member.
+void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
+  DrawRafter(board, rafter, context);
 }
 
 }  // namespace pitchcraft

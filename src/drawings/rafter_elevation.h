@@ -10,10 +10,13 @@
 
 namespace pitchcraft {
 
-/// Records the rafter on the board and closes the recording; Pts and DimensionPoints hold it afterwards. The
-/// canvas size must stand. Raises Overflow when the figure is infinite or too large to draw; the recording is
-/// then empty.
+/// Records a common, shed, hip or valley rafter on the board and closes the recording; Pts and
+/// DimensionPoints hold it afterwards. The canvas size must stand. Raises Overflow when the figure is
+/// infinite or too large to draw; the recording is then empty.
 void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+
+/// The same for main common, hip end common and hip of a roof whose end has a slope of its own.
+void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
 
 /// Draws the rafter for paper and prints its sheet: the measures that it is cut by, under the drawing.
 void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);

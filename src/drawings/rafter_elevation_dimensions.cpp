@@ -8,12 +8,14 @@
 
 #include "drawing/extents_canvas.h"
 #include "drawing/text_align.h"
+#include "drawings/lettering.h"
 #include "drawings/rafter_elevation_drafter.h"
 #include "drawings/rafter_elevation_measures.h"
 
 namespace pitchcraft {
 
 using namespace elevation;
+using namespace measures;
 
 namespace {
 
@@ -22,15 +24,7 @@ constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 }  // namespace
 
 Dimension RafterElevationDrafter::Plain(int kind, int p1, int p2, double leg) const {
-  Dimension dimension;
-  dimension.Kind = kind;
-  dimension.P1 = p1;
-  dimension.P2 = p2;
-  dimension.Gap = board_.DimGap;
-  dimension.Arrow = board_.DimArrow;
-  dimension.Leg = leg;
-  dimension.TextHeight = board_.DimTextHeight;
-  return dimension;
+  return PlainDimension(board_, kind, p1, p2, leg);
 }
 
 double RafterElevationDrafter::WidthOfLength(int kind, int p1, int p2) {
@@ -131,7 +125,7 @@ PointRecord RafterElevationDrafter::WholeRiseText() {
 }
 
 bool RafterElevationDrafter::WholeRiseIsShown() const {
-  return member_.IsCommon() && context_.CurrentTab > 0 && Y(0) > Y(2);
+  return member_.ShowsWholeRise && context_.CurrentTab > 0 && Y(0) > Y(2);
 }
 
 /// On the later pages the height of the ridge above the tail, in line with the height of the tail cut.

@@ -3,12 +3,12 @@
 
 #include "core/run_time_error.h"
 #include "drawing/text_align.h"
+#include "drawings/drawing_measures.h"
 #include "drawings/lettering.h"
 
 namespace pitchcraft {
 namespace {
 
-constexpr int kDashed = 2;
 constexpr double kTitleTwips = 360;  // 18 points
 
 }  // namespace
@@ -26,7 +26,7 @@ void RafterElevationDrafter::Draw() {
   DrawOutline();
   WidenByMargin();
   ratio_ = board_.SetMetrics();
-  ChooseLettering();
+  ChooseLettering(board_, context_);
   DimensionAlongRafter();
   DimensionTail();
   DimensionOverhang();
@@ -69,7 +69,7 @@ void RafterElevationDrafter::DrawHeelLines() {
   if (member_.Heel == 0) return;
   board_.DrawFX.SetPenColor(context_.DimColor);
   board_.DrawFX.SetDrawWidth(0);
-  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(1, 5);
   if (geometry_.Kneewall) board_.Line(27, 28);
   board_.DrawFX.SetPenColor(context_.LineColor);
@@ -88,20 +88,13 @@ void RafterElevationDrafter::WidenByMargin() {
   board_.DrawFX.MoveToPoint(right, top);
 }
 
-void RafterElevationDrafter::ChooseLettering() {
-  board_.TextFX.TextColor = context_.TextColor;
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
-  board_.TextFX.SetTextAlign(kAlignLeftBase);
-  board_.DrawFX.SetPenColor(context_.DimColor);
-}
-
 /// The plumb angle stands on the extension line that starts at the ridge; the angle of a square tail hangs
 /// beside the tail's end.
 void RafterElevationDrafter::LabelAngles() {
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
-  board_.Text(AngleLabel(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
-  if (!geometry_.SquareCut || member_.IsCommon()) return;
-  board_.Text(AngleLabel(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
+  board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
+  if (!geometry_.SquareCut || member_.SetsFascia()) return;
+  board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
 }
 
 /// In the left upper corner; above everything where a line or a text stands there.
@@ -122,7 +115,7 @@ void RafterElevationDrafter::WriteTitle() {
 }
 
 double RafterElevationDrafter::AngleLabelEnd() {
-  return X(0) + board_.DimGap + board_.WidthOf(AngleLabel(geometry_.PlumbAngle), board_.DimTextHeight);
+  return X(0) + board_.DimGap + board_.WidthOf(AngleText(geometry_.PlumbAngle), board_.DimTextHeight);
 }
 
 }  // namespace pitchcraft

@@ -22,7 +22,6 @@ class RafterElevationDrafter {
   void DrawTail();
   void DrawHeelLines();
   void WidenByMargin();
-  void ChooseLettering();
 
   // Dimensions, in the order of their recording.
   void DimensionAlongRafter();

@@ -1,21 +1,61 @@
 // The rafter from below at the foot of the drawing, with the bevels of its two ends.
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "core/angles.h"
 #include "drawing/text_align.h"
+#include "drawings/drawing_measures.h"
+#include "drawings/lettering.h"
 #include "drawings/rafter_elevation_drafter.h"
 #include "drawings/rafter_end_view.h"
 
 namespace pitchcraft {
 namespace {
 
-constexpr int kDashed = 2;
+// The longest point that is drawn, in half thicknesses: a sharper one is shown blunt.
+constexpr double kLongestPoint = 6;
+
+/// How an end is cut, seen from below. A point fits into a corner, a notch over one.
+enum class EndCut { kPoint, kNotch, kOneSided, kSquare };
+
+struct BeveledEnds {
+  EndCut Ridge;
+  EndCut Tail;
+};
+
+std::optional<BeveledEnds> EndsOf(RafterType type) {
+  switch (type) {
+    case RafterType::kHip:
+    case RafterType::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
+    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
+    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
+    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
+    default: return std::nullopt;
+  }
+}
+
+std::vector<std::string> RowsOf(EndCut cut) {
+  if (cut == EndCut::kSquare) return {};
+  return {cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels"};
+}
+
+std::vector<std::string> RowsOf(const CheekBevels& bevels) {
+  return {AngleText(bevels.Upper) + " bevel", AngleText(bevels.Lower) + " bevel"};
+}
 
 /// How far the two edges and the middle of an end stand inside of its outermost line, in half thicknesses.
 struct EndShape {
   double Upper, Middle, Lower;
 };
 
-EndShape ShapeOf(EndCut cut) {
+double SetBack(double bevel) {
+  return bevel == 45 ? 1 : std::min(std::tan(bevel * kRadiansPerDegree), kLongestPoint);
+}
+
+EndShape ShapeOf(EndCut cut, const CheekBevels& bevels) {
   switch (cut) {
-    case EndCut::kPoint: return {1, 0, 1};
+    case EndCut::kPoint: return {SetBack(bevels.Upper), 0, SetBack(bevels.Lower)};
     case EndCut::kNotch: return {0, 1, 0};
     case EndCut::kOneSided: return {0, 1, 2};
     case EndCut::kSquare: break;
@@ -25,19 +65,11 @@ EndShape ShapeOf(EndCut cut) {
 
 }  // namespace
 
-std::optional<BeveledEnds> EndsOf(RafterType type) {
-  switch (type) {
-    case RafterType::kHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
-    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
-    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
-    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
-    default: return std::nullopt;
-  }
-}
-
-const char* BevelLabel(EndCut cut) {
-  if (cut == EndCut::kSquare) return "";
-  return cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels";
+EndLabels EndLabelsOf(RafterType type, const ElevationMember& member) {
+  const std::optional<BeveledEnds> ends = EndsOf(type);
+  if (!ends) return {};
+  if (type == RafterType::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
+  return {RowsOf(ends->Tail), RowsOf(ends->Ridge)};
 }
 
 /// Only where the drawing is narrower than its canvas, beside which the labels have room.
@@ -46,8 +78,8 @@ void RafterElevationDrafter::DrawEndView() {
   if (!ends || context_.CurrentTab <= 0 || !(ratio_ < 1)) return;
   const double half = board_.DimTextHeight / 2;
   const double top = board_.MetaCanvas.MinY() - 2 * board_.DimTextHeight;
-  const EndShape ridge = ShapeOf(ends->Ridge);
-  const EndShape tail = ShapeOf(ends->Tail);
+  const EndShape ridge = ShapeOf(ends->Ridge, member_.RidgeBevels);
+  const EndShape tail = ShapeOf(ends->Tail, member_.TailBevels);
   const double right = X(0);
   const double left = X(2);
   board_.Pts(18) = {right - ridge.Upper * half, top};
@@ -65,13 +97,17 @@ void RafterElevationDrafter::DrawEndView() {
   for (int corner = 18; corner < 24; ++corner) board_.Line(corner, corner + 1);
   board_.DrawFX.SetPenColor(context_.DimColor);
   board_.DrawFX.SetDrawWidth(0);
-  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(25, 26);
   board_.DrawFX.SetDrawStyle(0);
 
-  board_.Text(BevelLabel(ends->Tail), left - half, Y(20), kAlignRightBottom);
-  if (ends->Ridge != EndCut::kSquare)
-    board_.Text(BevelLabel(ends->Ridge), right + half, Y(20), kAlignLeftBottom);
+  const EndLabels labels = EndLabelsOf(type_, member_);
+  constexpr int kTailRows[] = {kAlignRightBottom, kAlignRightTop};
+  constexpr int kRidgeRows[] = {kAlignLeftBottom, kAlignLeftTop};
+  for (std::size_t row = 0; row < labels.Tail.size(); ++row)
+    board_.Text(labels.Tail[row], left - half, Y(20), kTailRows[row]);
+  for (std::size_t row = 0; row < labels.Ridge.size(); ++row)
+    board_.Text(labels.Ridge[row], right + half, Y(20), kRidgeRows[row]);
 }
 
 }  // namespace pitchcraft

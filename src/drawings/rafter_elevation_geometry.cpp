@@ -67,7 +67,7 @@ void ElevationBuilder::LayOutTopEdge() {
 
 void ElevationBuilder::LayOutTail() {
   if (!geometry_.SquareCut) return CutPlumb();
-  if (member_.IsCommon()) return CutCommonSquare();
+  if (member_.SetsFascia()) return CutCommonSquare();
   CutAlongFasciaPlane();
 }
 
@@ -88,13 +88,13 @@ void ElevationBuilder::CutCommonSquare() {
   EndTailAt(angle, member_.Depth);
 }
 
-/// The fascia stands square to the commons. Its plane meets the plane of a hip or valley in a line that is
-/// flatter than the common's own cut, by the square root of two in plan; the tail is cut along that line to
-/// the underside.
+/// The fascia stands square to the main commons and keeps that tilt all round. Its plane meets the plane of a
+/// hip or valley in a line that is flatter than the common's own cut, by the square root of two in plan; the
+/// tail is cut along that line to the underside.
 void ElevationBuilder::CutAlongFasciaPlane() {
-  const double a = std::atan(member_.CommonUnitRun / member_.Slope);
+  const double a = std::atan(member_.CommonUnitRun / member_.CommonSlope);
   const PointRecord cut = DraftingBoard::AngleDistance(-a, member_.CommonDepth);
-  const double across = std::sqrt(2.0) * std::fabs(cut.X);
+  const double across = member_.FasciaFactor * std::fabs(cut.X);
   const Single e = Degrees(std::atan2(across, std::fabs(cut.Y)));  // between cut and plumb line
   const Single g = 180 - geometry_.PlumbAngle - e;                 // between cut and top edge
   geometry_.TailAngle = g;

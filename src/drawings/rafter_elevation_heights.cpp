@@ -7,6 +7,7 @@
 namespace pitchcraft {
 
 using namespace elevation;
+using namespace measures;
 
 namespace {
 

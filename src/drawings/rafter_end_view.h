@@ -1,24 +1,21 @@
-// How the two ends of a hip or valley rafter are beveled, as seen from below.
+// How the two ends of a hip or valley rafter are labelled, as seen from below.
 #pragma once
 
-#include <optional>
+#include <string>
+#include <vector>
 
 #include "core/rafter_type.h"
+#include "drawings/elevation_member.h"
 
 namespace pitchcraft {
 
-/// A point fits into a corner, a notch over one.
-enum class EndCut { kPoint, kNotch, kOneSided, kSquare };
-
-struct BeveledEnds {
-  EndCut Ridge;
-  EndCut Tail;
+/// The rows of either end from the top down: one for both cheeks, or one for each. None where an end is
+/// square.
+struct EndLabels {
+  std::vector<std::string> Tail;
+  std::vector<std::string> Ridge;
 };
 
-/// Nothing for a member whose ends are square.
-std::optional<BeveledEnds> EndsOf(RafterType type);
-
-/// "45º bevels"; empty for a square end.
-const char* BevelLabel(EndCut cut);
+EndLabels EndLabelsOf(RafterType type, const ElevationMember& member);
 
 }  // namespace pitchcraft

@@ -11,10 +11,9 @@ namespace pitchcraft {
 namespace {
 
 /// The view from below, moved clear of the dimensions that stand under the rafter.
-void ExportEndView(DxfForm& form, const DraftingBoard& board, RafterType type) {
-  const auto ends = EndsOf(type);
+void ExportEndView(DxfForm& form, const DraftingBoard& board, const EndLabels& labels) {
   const bool drawn = board.Pts(18).X != board.Pts(23).X || board.Pts(18).Y != board.Pts(23).Y;
-  if (!ends || !drawn) return;
+  if (!drawn) return;
   const double top = form.Bottom() - 2 * form.TextHeight();
   const double half = form.Grown(board.DimTextHeight / 2);
   const auto at = [&](int point) {
@@ -26,9 +25,15 @@ void ExportEndView(DxfForm& form, const DraftingBoard& board, RafterType type) {
   };
   for (int corner = 18; corner < 24; ++corner) form.Line(at(corner), at(corner + 1));
   form.CenterLine(at(25), at(26));
-  const double base = top - half;
-  form.Label(WithoutDegreeSign(BevelLabel(ends->Tail)), {form.Real(2).X - half, base}, "R");
-  form.Label(WithoutDegreeSign(BevelLabel(ends->Ridge)), {form.Real(0).X + half, base}, "L");
+  const auto label = [&](const std::vector<std::string>& rows, double x, const char* align) {
+    double y = top - half;
+    for (const std::string& row : rows) {
+      form.Label(WithoutDegreeSign(row), {x, y}, align);
+      y -= 1.5 * form.TextHeight();
+    }
+  };
+  label(labels.Tail, form.Real(2).X - half, "R");
+  label(labels.Ridge, form.Real(0).X + half, "L");
 }
 
 }  // namespace
@@ -49,12 +54,12 @@ void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter&
   form.Dimensions();
   const double gap = form.TextHeight();
   const PointRecord ridge = form.Real(0);
-  form.Label(WithoutDegreeSign(AngleLabel(geometry.PlumbAngle)), {ridge.X + gap, ridge.Y + gap / 2}, "L");
-  if (geometry.SquareCut && !member.IsCommon()) {
+  form.Label(WithoutDegreeSign(AngleText(geometry.PlumbAngle)), {ridge.X + gap, ridge.Y + gap / 2}, "L");
+  if (geometry.SquareCut && !member.SetsFascia()) {
     const PointRecord tail = form.Real(2);
-    form.Label(WithoutDegreeSign(AngleLabel(geometry.TailAngle)), {tail.X - gap, tail.Y - gap}, "R");
+    form.Label(WithoutDegreeSign(AngleText(geometry.TailAngle)), {tail.X - gap, tail.Y - gap}, "R");
   }
-  ExportEndView(form, board, rafter.RafterType);
+  ExportEndView(form, board, EndLabelsOf(rafter.RafterType, member));
   form.Title(RafterTitle(rafter, context));
   std::vector<std::string> rows;
   for (const std::vector<std::string>& column : RafterRows(rafter, context)) {

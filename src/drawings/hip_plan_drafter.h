@@ -1,0 +1,50 @@
+// The steps of the plan and of the layout of a hip roof's end, in the order in which they are recorded.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawing/drafting_board.h"
+#include "drawings/drawing_context.h"
+#include "drawings/hip_layout.h"
+
+namespace pitchcraft {
+
+class HipPlanDrafter {
+ public:
+  HipPlanDrafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+  void DrawPlan();
+  void DrawLayout();
+
+ private:
+  void DrawOutline(const HipOutline& outline);
+  void DrawLastCommon(const HipOutline& outline);
+  void DrawRafters(const HipLayout& layout);
+  void LabelSlopes(int endAlign, double endX);
+  /// Writes a slope at the first of the places where nothing stands; smaller where there is none.
+  void WriteWhereClear(const std::string& text, const std::vector<PointRecord>& places, int align);
+  void DimensionOutline();
+
+  // Lengths at the feet of the jacks, and the notes below them.
+  struct FootLettering;
+  void WriteFeet(const HipLayout& layout);
+  FootLettering ChooseFootLettering(const HipLayout& layout);
+  void WriteFeetOf(RoofFace face, const HipLayout& layout, const FootLettering& lettering);
+  void WriteFoot(RoofFace face, double foot, double at, const std::string& text, double away,
+                 const FootLettering& lettering);
+  std::string FootText(const LaidRafter& rafter) const;
+  void WriteNotes();
+
+  double Units(double length) const { return length * board_.DrawScale; }
+  double Twips(double twips) const { return twips * board_.PointFactor; }
+  double X(int point) const { return board_.Pts(point).X; }
+  double Y(int point) const { return board_.Pts(point).Y; }
+
+  DraftingBoard& board_;
+  const CRafter& rafter_;
+  const DrawingContext& context_;
+  double slopeLabelTop_ = 0;  // of the main slope's label
+};
+
+}  // namespace pitchcraft
