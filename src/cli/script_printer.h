@@ -23,7 +23,7 @@ class ScriptPrinter final : public PrintService {
                 PageWriter writePage, std::string today);
 
   void ShowSetup() override;
-  Paper NextPaper(bool metric) override { return metric ? kA4 : kLetter; }
+  Paper NextPaper(bool metric) override { return metric ? kA4Paper : kLetterPaper; }
   /// A queued reply is the file of this sheet; a queued Cancel calls it off.
   void Send(const PrintedPage& page, const std::string& name) override;
   std::string Today() override { return today_; }

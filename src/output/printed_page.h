@@ -19,8 +19,8 @@ struct Paper {
   double PrintableHeight() const { return Height - 2 * Margin; }
 };
 
-inline constexpr Paper kLetter{12240, 15840};
-inline constexpr Paper kA4{11906, 16838};
+inline constexpr Paper kLetterPaper{12240, 15840};
+inline constexpr Paper kA4Paper{11906, 16838};
 
 /// One recording and where it stands: the map leads to twips from the left upper corner of the printable
 /// area, y downward.
