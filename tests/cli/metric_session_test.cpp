@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kRunPerRun = 1000.0 / 12;
+const std::string kDump = "dump title document sheet drawing Rafter1 Rafter2";
 
 class MetricSession : public ::testing::TestWithParam<MetricRoof> {
  protected:
@@ -84,12 +85,12 @@ TEST_P(MetricSession, ShowsMillimetresOnEveryPageAndInTheOpenedProject) {
   const ScratchFolder folder;
   const std::string file = folder.PathOf("barn.pcf");
   const MetricRoof& roof = GetParam();
-  Add(std::vector<std::string>{"dump", "press " + std::string(roof.button), "click mnuMetric", "dump",
+  Add(std::vector<std::string>{kDump, "press " + std::string(roof.button), "click mnuMetric", kDump,
                                "press " + std::string(roof.button)});
   Add(EntryLines(roof, true));
-  for (int page = PageCount(roof) - 1; page >= 0; --page) Add({PageLine(page), "dump"});
-  Add({"answer " + file, "click mnufileSaveAs", "answer Shed", "click mnuFileNew", "dump", "answer " + file,
-       "click mnuFileOpen", "dump", "click mnuImperial", "dump"});
+  for (int page = PageCount(roof) - 1; page >= 0; --page) Add({PageLine(page), kDump});
+  Add({"answer " + file, "click mnufileSaveAs", "answer Shed", "click mnuFileNew", kDump, "answer " + file,
+       "click mnuFileOpen", kDump, "click mnuImperial", kDump});
   const std::vector<Json> dumps = Run();
   const auto pages = static_cast<std::size_t>(PageCount(roof));
   ASSERT_EQ(dumps.size(), pages + 5);
