@@ -158,8 +158,8 @@ void MetafilePlayer::Play(const FillOp& fill) {
 void MetafilePlayer::Play(const EllipseOp& ellipse) {
   UsePen(ellipse.Pen);
   UseBrush(ellipse.Brush);
-  records_.Add(MetaFunction::kEllipse,
-               {Scaled(ellipse.To.Y), Scaled(ellipse.To.X), Scaled(ellipse.From.Y), Scaled(ellipse.From.X)});
+  const Box box = BoxOf(ellipse.From, ellipse.To);
+  records_.Add(MetaFunction::kEllipse, {box[0], box[1], box[2], box[3]});
 }
 
 void MetafilePlayer::Play(const ArcOp& arc) {
