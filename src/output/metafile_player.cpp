@@ -63,8 +63,7 @@ void MetafilePlayer::Replace(Selected<Kind>& selected, const Kind& object, MetaF
 MetafilePlayer::Box MetafilePlayer::BoxOf(DrawnPoint a, DrawnPoint b) const {
   const int low = Scaled(std::min(a.Y, b.Y));
   const int high = Scaled(std::max(a.Y, b.Y));
-  return {upward_ ? low : high, Scaled(std::max(a.X, b.X)), upward_ ? high : low,
-          Scaled(std::min(a.X, b.X))};
+  return {upward_ ? low : high, Scaled(std::max(a.X, b.X)), upward_ ? high : low, Scaled(std::min(a.X, b.X))};
 }
 
 void MetafilePlayer::UsePen(const DrawnPen& pen) {
