@@ -140,6 +140,14 @@ TEST(DxfDimension, WithoutArrowsThereAreNone) {
   EXPECT_TRUE(Found(writer).Arrows.empty());
 }
 
+TEST(DxfDimension, APointNearItsLineHasNoExtensionLine) {
+  CDxfWriter writer = Writer();
+  writer.DimHorizontal(0, 0, 100, -30, -1.5);
+  const Found found(writer);
+  EXPECT_EQ(found.Lines.size(), 2U);
+  EXPECT_TRUE(found.HasLine("100.0, -28.0", "100.0, 2.5")) << "from below, too";
+}
+
 TEST(DxfDimension, EqualPointsAreALengthOfZero) {
   CDxfWriter writer = Writer();
   writer.DimAligned(5, 5, 5, 5, 5, 20);
@@ -182,6 +190,15 @@ TEST(DxfDimension, TierDistanceGrowsByTheIncrement) {
   EXPECT_EQ(writer.DimTierDistance(), 13);
   writer.DimFirstTier();
   EXPECT_EQ(writer.DimTierDistance(), 3);
+}
+
+TEST(DxfDimension, EveryLayerInUseIsDeclared) {
+  const DxfContent content(SampleDrawing().Bytes());
+  for (const DxfRecord& record : content.All()) {
+    if (record(8) != "-" && record.Type != "SECTION") {
+      EXPECT_EQ(content.Entry("LAYER", record(8))(2), record(8)) << record.Type;
+    }
+  }
 }
 
 TEST(DxfDimension, EachHasABlockOfItsOwn) {

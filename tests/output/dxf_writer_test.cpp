@@ -91,6 +91,10 @@ TEST(DxfWriter, ExtentsHoldLinesTextsAndDimensions) {
   EXPECT_EQ(content.Variable("$EXTMAX", 1), "8.0");
   writer.Text("on top", 0, 100, 6);
   EXPECT_EQ(Read(writer).Variable("$EXTMAX", 1), "106.0");
+  writer.Text("turned", 50, 0, 6, 90);
+  EXPECT_EQ(Read(writer).Variable("$EXTMAX"), "50.0") << "its letters stand left of its base line";
+  writer.Text("farther", 60, 50, 6, -45);
+  EXPECT_GT(std::stod(Read(writer).Variable("$EXTMAX")), 60 + 7 * 4 * 0.7) << "both ends count";
   EXPECT_EQ(Read(SampleWriter()).Variable("$EXTMIN") + Read(SampleWriter()).Variable("$EXTMAX"), "0.00.0");
 }
 
