@@ -60,6 +60,12 @@ void MetafilePlayer::Replace(Selected<Kind>& selected, const Kind& object, MetaF
   selected = {object, slot};
 }
 
+MetafilePlayer::Box MetafilePlayer::BoxOf(DrawnPoint a, DrawnPoint b) const {
+  const int low = Scaled(std::min(a.Y, b.Y));
+  const int high = Scaled(std::max(a.Y, b.Y));
+  return {upward_ ? low : high, Scaled(std::max(a.X, b.X)), upward_ ? high : low, Scaled(std::min(a.X, b.X))};
+}
+
 void MetafilePlayer::UsePen(const DrawnPen& pen) {
   if (pen_.Object == pen) return;
   MetaWords words;
@@ -151,8 +157,8 @@ void MetafilePlayer::Play(const FillOp& fill) {
 void MetafilePlayer::Play(const EllipseOp& ellipse) {
   UsePen(ellipse.Pen);
   UseBrush(ellipse.Brush);
-  records_.Add(MetaFunction::kEllipse,
-               {Scaled(ellipse.To.Y), Scaled(ellipse.To.X), Scaled(ellipse.From.Y), Scaled(ellipse.From.X)});
+  const Box box = BoxOf(ellipse.From, ellipse.To);
+  records_.Add(MetaFunction::kEllipse, {box[0], box[1], box[2], box[3]});
 }
 
 void MetafilePlayer::Play(const ArcOp& arc) {
@@ -160,16 +166,15 @@ void MetafilePlayer::Play(const ArcOp& arc) {
   // Players go counter-clockwise as it is seen; a picture upside down is seen from behind.
   const DrawnPoint start = upward_ ? arc.Start : arc.End;
   const DrawnPoint end = upward_ ? arc.End : arc.Start;
-  records_.Add(MetaFunction::kArc,
-               {Scaled(end.Y), Scaled(end.X), Scaled(start.Y), Scaled(start.X), Scaled(arc.To.Y),
-                Scaled(arc.To.X), Scaled(arc.From.Y), Scaled(arc.From.X)});
+  const Box box = BoxOf(arc.From, arc.To);
+  records_.Add(MetaFunction::kArc, {Scaled(end.Y), Scaled(end.X), Scaled(start.Y), Scaled(start.X), box[0],
+                                    box[1], box[2], box[3]});
 }
 
 void MetafilePlayer::Play(const RectangleOp& rectangle) {
   UsePen(rectangle.Pen);
   UseBrush(rectangle.Brush);
-  const std::array<int, 4> box = {Scaled(rectangle.To.Y), Scaled(rectangle.To.X), Scaled(rectangle.From.Y),
-                                  Scaled(rectangle.From.X)};
+  const Box box = BoxOf(rectangle.From, rectangle.To);
   const int corner = Scaled(rectangle.Corner);
   if (corner == 0) {
     records_.Add(MetaFunction::kRectangle, {box[0], box[1], box[2], box[3]});

@@ -1,6 +1,7 @@
 // Plays a recording into the records of a Windows metafile.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -46,7 +47,11 @@ class MetafilePlayer {
     int Slot = 0;
   };
 
+  /// Bottom, right, top and left as they are seen: the order of the records.
+  using Box = std::array<int, 4>;
+
   int Scaled(std::int32_t coordinate) const;
+  Box BoxOf(DrawnPoint a, DrawnPoint b) const;
   void UsePen(const DrawnPen& pen);
   void UseBrush(const DrawnBrush& brush);
   void UseFont(const Font& font);
