@@ -55,7 +55,7 @@ TEST(DxfWriter, HeaderNamesVersionUnitsAndScales) {
   EXPECT_EQ(inches.Variable("$INSUNITS") + inches.Variable("$MEASUREMENT"), "10");
   EXPECT_EQ(inches.Variable("$LTSCALE"), "12.0");
   EXPECT_EQ(inches.Variable("$DIMSCALE") + " " + inches.Variable("$DIMLFAC"), "1.0 1.0");
-  writer.Units = DxfUnits::kMillimetres;
+  writer.Units = DxfUnits::kMillimetre;
   const DxfContent millimetres = Read(writer);
   EXPECT_EQ(millimetres.Variable("$INSUNITS") + millimetres.Variable("$MEASUREMENT"), "41");
   EXPECT_EQ(millimetres.Variable("$LTSCALE"), "300.0");
