@@ -49,7 +49,7 @@ std::vector<Entity> EntitiesOf(const std::string& text) {
 
 class ExportTest : public PaperTest {
  protected:
-  std::string File(const char* name) { return (folder.path / name).string(); }
+  std::string File(const char* name) { return (folder.Path() / name).string(); }
   std::vector<Entity> Export(const char* name = "roof.dxf") {
     dialogs.answers.emplace_back(File(name));
     Click("mnuFileExportDXF");

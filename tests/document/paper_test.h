@@ -92,7 +92,7 @@ class PaperTest : public testing::Test {
   AnsweringDialogs dialogs;
   MemoryStore store;
   RecordingPrinter printer;
-  frmDocument document{{dialogs, store, folder.path, &printer}};
+  frmDocument document{{dialogs, store, folder.Path(), &printer}};
   Actions actions{document};
 };
 

@@ -312,7 +312,7 @@ TEST_F(PrintTest, PageSetupAndPopupsReachThePrinter) {
 }
 
 TEST_F(PrintTest, WithoutAPrinterAMessageSaysSo) {
-  frmDocument lonely({dialogs, store, folder.path});
+  frmDocument lonely({dialogs, store, folder.Path()});
   lonely.Form_Load();
   lonely.mnuFilePageSetup_Click();
   lonely.mnuFilePrint_Click();
