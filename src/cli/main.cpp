@@ -1,5 +1,7 @@
 // pitchcraft-cli: the document without its window, for scripts, batches and reproducible reports.
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -26,7 +28,9 @@ int Fail(const std::string& text, int status) {
 
 /// DXF and metafile are the document's own exports, the rest are pictures of what it shows.
 std::optional<std::string> WriteShownPicture(frmDocument& document, const std::string& file) {
-  const std::string extension = std::filesystem::path(file).extension().string();
+  std::string extension = std::filesystem::path(file).extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(),
+                 [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
   try {
     if (extension == ".dxf") {
       document.ExportDxf(file);

@@ -57,6 +57,15 @@ TEST_F(PictureFiles, SvgHoldsTheDrawing) {
   EXPECT_THAT(text, HasSubstr("M16 292 584 8"));
 }
 
+TEST_F(PictureFiles, PdfHasThePicturesSize) {
+  ASSERT_EQ(WritePicture(Sheet(), File("a.pdf")), std::nullopt);
+  QFile file(QString::fromStdString(File("a.pdf").string()));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const std::string text = file.readAll().toStdString();
+  EXPECT_THAT(text, StartsWith("%PDF"));
+  EXPECT_THAT(text, HasSubstr("[0 0 450 225]")) << "in points";
+}
+
 TEST_F(PictureFiles, FileIsReplacedWhole) {
   ASSERT_EQ(WritePicture(Sheet(), File("a.svg")), std::nullopt);
   const CMetaFile empty(meter_);
