@@ -11,6 +11,7 @@ declare -A list=(
   [fuzz]="clang libclang-rt-14-dev"
   [bench]="libbenchmark-dev"
   [window]="xvfb"
+  [readers]="python3-ezdxf librecad libwmf-bin libreoffice-draw poppler-utils"
 )
 
 [ $# -gt 0 ] || { echo "usage: $0 PURPOSE..., of: ${!list[*]}" >&2; exit 2; }

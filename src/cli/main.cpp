@@ -9,6 +9,9 @@
 #include "cli/dump.h"
 #include "cli/file_store.h"
 #include "cli/script.h"
+#include "cli/script_printer.h"
+#include "drawing/arial_meter.h"
+#include "platform/pdf_pages.h"
 #include "platform/picture_files.h"
 #include "platform/program_folder.h"
 #include "platform/qt_store.h"
@@ -21,8 +24,21 @@ int Fail(const std::string& text, int status) {
   return status;
 }
 
-std::optional<std::string> WriteShownPicture(const frmDocument& document, const std::string& file) {
-  return WritePicture(ShownPicture(document), file);
+/// DXF and metafile are the document's own exports, the rest are pictures of what it shows.
+std::optional<std::string> WriteShownPicture(frmDocument& document, const std::string& file) {
+  const std::string extension = std::filesystem::path(file).extension().string();
+  try {
+    if (extension == ".dxf") {
+      document.ExportDxf(file);
+    } else if (extension == ".wmf") {
+      document.ExportMetafile(file);
+    } else {
+      return WritePicture(ShownPicture(document), file);
+    }
+  } catch (const RunTimeError& error) {
+    return error.Message() + ": " + file;
+  }
+  return std::nullopt;
 }
 
 /// The keyed settings: a file in the data folder, else the user's own.
@@ -60,19 +76,48 @@ std::filesystem::path FolderOf(const std::string& data) {
   return data.empty() ? ProgramFolder() : std::filesystem::path(data);
 }
 
-/// What `calc` and `draw` are told.
+void WriteSheet(const PrintedPage& page, const std::string& name, const std::filesystem::path& file) {
+  WritePdf(page, ArialMeter(), name, file);
+}
+
+/// What a document of the driver stands in.
+struct DriverSurroundings {
+  DriverSurroundings(KeyedStore& settings, const std::string& data)
+      : folder(FolderOf(data)),
+        store(settings),
+        printer(dialogs, std::cout, folder, &WriteSheet, ShortDateOfToday()) {}
+  Surroundings Get() { return {dialogs, store, folder, &printer}; }
+
+  std::filesystem::path folder;
+  KeyedStore& store;
+  ScriptDialogs dialogs{std::cout};
+  ScriptPrinter printer;
+};
+
+/// What `calc`, `draw` and `print` are told.
 struct ProjectRequest {
   std::string data;
   std::string project;
   int page = 0;
-  std::string out;  ///< empty for `calc`
+  std::string out;       ///< empty for `calc`
+  bool onPaper = false;  ///< the page's sheet, not its drawing
 };
+
+/// Writes what the request asks for. Gives what went wrong, or nothing.
+std::optional<std::string> WriteOut(frmDocument& document, DriverSurroundings& around,
+                                    const ProjectRequest& request) {
+  if (!request.onPaper) return WriteShownPicture(document, request.out);
+  around.printer.file = request.out;
+  document.mnuFilePrint_Click();
+  if (around.printer.sheetsPrinted > 0) return std::nullopt;
+  return "no sheet was printed to " + request.out;
+}
 
 int ShowProject(const ProjectRequest& request) {
   Stores stores(request.data);
   LookedAtStore store(stores.Get());
-  ScriptDialogs dialogs(std::cout);
-  frmDocument document({dialogs, store, FolderOf(request.data)});
+  DriverSurroundings around(store, request.data);
+  frmDocument document(around.Get());
   document.Form_Load();
   if (!document.OpenProject(request.project)) {
     std::cout.flush();
@@ -84,7 +129,10 @@ int ShowProject(const ProjectRequest& request) {
     if (const Refusal refusal = Actions(document).Page("VSTab(0)", request.page)) {
       return Fail(*refusal, kNotUnderstood);
     }
-    if (const auto failure = WriteShownPicture(document, request.out)) return Fail(*failure, kWorkFailed);
+    if (const auto failure = WriteOut(document, around, request)) {
+      std::cout.flush();
+      return Fail(*failure, kWorkFailed);
+    }
   }
   std::cout.flush();
   return std::cout ? kDone : Fail("the output could not be written", kWorkFailed);
@@ -100,10 +148,10 @@ int RunScript(const std::string& data, const std::string& scriptFile) {
     if (!file) return Fail("cannot read " + scriptFile, kWorkFailed);
   }
   Stores stores(data);
-  ScriptDialogs dialogs(std::cout);
-  frmDocument document({dialogs, stores.Get(), FolderOf(data)});
+  DriverSurroundings around(stores.Get(), data);
+  frmDocument document(around.Get());
   document.Form_Load();
-  Script script(document, dialogs, std::cout, &WriteShownPicture);
+  Script script(document, around.dialogs, std::cout, &WriteShownPicture);
   const int status = script.Run(fromFile ? file : std::cin);
   document.Form_Unload();
   std::cout.flush();
@@ -124,12 +172,17 @@ int Main(int argc, char** argv) {
   run->add_option("script", scriptFile, "Script file; standard input with - or none");
   CLI::App* calc = app.add_subcommand("calc", "Opens a project and prints all of it as one JSON object");
   CLI::App* draw = app.add_subcommand("draw", "Opens a project and writes the drawing of a page");
-  for (CLI::App* command : {calc, draw}) {
+  CLI::App* print =
+      app.add_subcommand("print", "Opens a project and prints the sheet of a page to a PDF file");
+  for (CLI::App* command : {calc, draw, print}) {
     command->add_option("project", request.project, "Project file (.pcf)")->required();
   }
-  draw->add_option("--page", request.page, "Page, counted from 0")->required();
-  draw->add_option("--out", request.out, "Picture to write: .png or .svg")->required();
-  for (CLI::App* command : {run, calc, draw}) {
+  for (CLI::App* command : {draw, print}) {
+    command->add_option("--page", request.page, "Page, counted from 0")->required();
+  }
+  draw->add_option("--out", request.out, "Drawing to write: .dxf, .wmf, .svg, .png or .pdf")->required();
+  print->add_option("--out", request.out, "PDF file to write")->required();
+  for (CLI::App* command : {run, calc, draw, print}) {
     command
         ->add_option("--data", request.data, "Folder that holds lists and settings instead of the user's own")
         ->check(CLI::ExistingDirectory);
@@ -142,7 +195,9 @@ int Main(int argc, char** argv) {
     return Fail(error.what(), kNotUnderstood);
   }
   if (run->parsed()) return RunScript(request.data, scriptFile);
-  if (draw->parsed() && request.out.empty()) return Fail("--out names no file", kNotUnderstood);
+  request.onPaper = print->parsed();
+  if ((draw->parsed() || print->parsed()) && request.out.empty())
+    return Fail("--out names no file", kNotUnderstood);
   return ShowProject(request);
 }
 

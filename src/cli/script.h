@@ -17,7 +17,7 @@ namespace pitchcraft {
 
 /// Writes the drawing that the document shows to a file, format by extension. Gives what went wrong, or
 /// nothing.
-using PictureWriter = std::function<std::optional<std::string>(const frmDocument&, const std::string& file)>;
+using PictureWriter = std::function<std::optional<std::string>(frmDocument&, const std::string& file)>;
 
 /// Exit statuses of the driver.
 inline constexpr int kDone = 0;
@@ -34,12 +34,13 @@ class ScriptDialogs final : public Dialogs {
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   std::optional<std::string> Input(const InputBox& box) override;
 
+  /// Reports that a dialog came up, and takes the reply to it.
+  std::optional<std::string> Answer(const char* kind, const std::string& title, const std::string& name);
+
   /// Replies to the dialogs to come; no value is Cancel.
   std::deque<std::optional<std::string>> answers;
 
  private:
-  std::optional<std::string> Answer(const char* kind, const std::string& title, const std::string& name);
-
   std::ostream& output_;
 };
 

@@ -23,6 +23,10 @@ class RunTimeError : public std::runtime_error {
   static RunTimeError SubscriptOutOfRange() { return {9, "Subscript out of range"}; }
   static RunTimeError DivisionByZero() { return {11, "Division by zero"}; }
   static RunTimeError FileNotFound() { return {53, "File not found"}; }
+  static RunTimeError PathFileAccess() { return {75, "Path/File access error"}; }
+  static RunTimeError PathNotFound() { return {76, "Path not found"}; }
+  static RunTimeError NotAvailable() { return {445, "Object doesn't support this action"}; }
+  static RunTimeError PrinterError() { return {482, "Printer error"}; }
 
  private:
   int number_;

@@ -13,12 +13,6 @@ constexpr const char* kNewPrompt =
     "Enter a name for the new project:\n\nThe project name is used as the filename when saving a project and "
     "also appears on all printed pages.";
 
-/// A name without an extension gets that of the projects, as the dialogs of a desktop do it.
-std::string WithExtension(const std::string& path) {
-  const bool has = FileNameOf(path).find('.') != std::string::npos;
-  return has || path.empty() ? path : path + "." + kExtension;
-}
-
 std::string NameOfProject(const std::string& path) {
   const std::string name = FileNameOf(path);
   return name.substr(0, name.find('.'));
@@ -30,6 +24,11 @@ bool Exists(const std::string& path) {
 }
 
 }  // namespace
+
+std::string frmDocument::WithExtension(const std::string& path, const char* extension) {
+  const bool has = FileNameOf(path).find('.') != std::string::npos;
+  return has || path.empty() ? path : path + "." + extension;
+}
 
 // A new project begins with a common gable; the values of the sheet stay.
 void frmDocument::mnuFileNew_Click(int) {
@@ -57,7 +56,7 @@ void frmDocument::mnuFileOpen_Click(int) {
         {"Open Project", surroundings_.programFolder, "", kExtension, kFilter, true, false});
     const std::string path(Trimmed(answer.value_or("")));
     if (path.empty()) return;
-    OpenProject(Exists(path) ? path : WithExtension(path));
+    OpenProject(Exists(path) ? path : WithExtension(path, kExtension));
   });
 }
 
@@ -81,7 +80,7 @@ void frmDocument::mnufileSaveAs_Click(int) {
         {"Save Project", surroundings_.programFolder, ProjectName, kExtension, kFilter, false, true});
     const std::string path(Trimmed(answer.value_or("")));
     if (path.empty()) return;
-    ProjectFile = WithExtension(path);
+    ProjectFile = WithExtension(path, kExtension);
     if (SaveRafter(ProjectFile)) ShowProjectTitle(MRU::LongDirFix(ProjectFile, kTitleLength));
   });
 }

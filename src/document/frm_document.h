@@ -4,11 +4,13 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "core/rafter.h"
 #include "core/run_time_error.h"
+#include "document/drawing_forms.h"
 #include "document/form_layout.h"
 #include "document/picture_box.h"
 #include "document/surroundings.h"
@@ -190,6 +192,18 @@ class frmDocument {
   void mnuFileProjectName_Click(int = 0);
   void mnuFileMRU_Click(int Index);
 
+  // --- On paper and in files
+  // --------------------------------------------------------------------------------------
+  void mnuFilePageSetup_Click(int = 0);
+  /// Prints the sheet of the page shown.
+  void mnuFilePrint_Click(int = 0);
+  void mnuFileExportDXF_Click(int = 0);
+  void mnuFileExportMetafile_Click(int = 0);
+  /// Write the drawing shown. Raise RunTimeError, the old file untouched; an error of a part of a DXF drawing
+  /// is shown, and the rest is written.
+  void ExportDxf(const std::string& path);
+  void ExportMetafile(const std::filesystem::path& path) const;
+
   // --- Menus
   // ------------------------------------------------------------------------------------------------------
   /// Runs the handler of the item. False where it has none: a holder, a separator, what is not available yet.
@@ -356,6 +370,8 @@ class frmDocument {
   void ReadGambrelSupport(const std::string& text);
   void TakeProjectLocks();
   void FinishProjectRoof();
+  /// A name without an extension gets that one, as the dialogs of a desktop do it.
+  static std::string WithExtension(const std::string& path, const char* extension);
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
 
   // Settings commands.
@@ -372,25 +388,6 @@ class frmDocument {
   void ShowPopUp1Items();
 
   // Pages and drawings.
-  enum class Drawing {
-    kRafter,
-    kHipPlan,
-    kHipLayout,
-    kBastardHipRafters,
-    kSaltbox,
-    kBayPlan,
-    kBayDiagram,
-    kBayRafter,
-    kBayCenterLedger,
-    kDutchPlan,
-    kOctagonPlan,
-    kOctagonRafter,
-    kOctagonLayout,
-    kUnequalSpanValley,
-    kBlindValley,
-    kGambrelRafter,
-    kGambrelPreview
-  };
   void Draw(Drawing drawing, const CRafter& rafter);
   void DrawPage(int page);
   /// Draws the page shown again, without moving the focus.
@@ -405,6 +402,22 @@ class frmDocument {
   void ShowSpacing();
   DrawingContext Context() const;
   HipLayoutOptions HipLayoutChoice() const;
+
+  // On paper and in files.
+  PageOutput OutputOfPage(OutputForm form) const;
+  /// Runs `work`, which reports its own errors, with the rafter of the page in the type that the output
+  /// takes.
+  template <typename Work>
+  void WithOutputRafter(const PageOutput& output, Work work) {
+    CRafter& rafter = output.Rafter == 2 ? Rafter2 : Rafter1;
+    if (output.TypeBefore >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeBefore);
+    work(rafter);
+    if (output.TypeAfter >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeAfter);
+  }
+  PrintContext OutputContext(int rafter) const;
+  PrintContext PaperContext(int rafter, bool color) const;
+  void PrintPage(const PageOutput& output, const CRafter& rafter);
+  void SetUpWriter(CDxfWriter& writer) const;
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made

@@ -8,6 +8,7 @@ void frmDocument::tbToolBar_ButtonClick(std::string_view key) {
     if (key == "New") return mnuFileNew_Click();
     if (key == "Open") return mnuFileOpen_Click();
     if (key == "Save") return mnuFileSave_Click();
+    if (key == "Print") return mnuFilePrint_Click();
     if (key == "Plumb") return mnuSettingsPlumbCut_Click();
     if (key == "Square") return mnuSettingsSquareCut_Click();
     if (key == "Level") return mnuSettingsLevelCut_Click();

@@ -1,21 +1,7 @@
 // The pages of VSTab(0) and what is drawn on each.
-#include <iterator>
-
 #include "document/frm_document.h"
-#include "drawings/hip_plan.h"
-#include "drawings/rafter_elevation.h"
 
 namespace pitchcraft {
-namespace {
-
-using DrawProcedure = void (*)(DraftingBoard&, const CRafter&, const DrawingContext&);
-
-struct DrawingRow {
-  const char* name;         // also the title of its error messages
-  DrawProcedure procedure;  // null while the drawing does not exist
-};
-
-}  // namespace
 
 void frmDocument::VSTab_Switch(int Index, int, int NewTab) {
   constexpr const char* kProcedure = "VSTab_Switch";
@@ -132,26 +118,12 @@ void frmDocument::DrawOctagonPage(int page) {
   Rafter1.RafterType = RafterType::kOctagonJack;
 }
 
-// The one place that says which drawings exist.
 void frmDocument::Draw(Drawing drawing, const CRafter& rafter) {
-  constexpr DrawingRow kDrawings[] = {
-      {"DrawRafter", &DrawRafter},       {"DrawHipPlan", &DrawHipPlan},
-      {"DrawHipLayout", &DrawHipLayout}, {"DrawBastardHipRafters", &DrawBastardHipRafters},
-      {"DrawSaltbox", nullptr},          {"DrawBayPlan", nullptr},
-      {"DrawBayDiagram", nullptr},       {"DrawBayRafter", nullptr},
-      {"DrawBayCenterLedger", nullptr},  {"DrawDutchPlan", nullptr},
-      {"DrawOctagonPlan", nullptr},      {"DrawOctagonRafter", nullptr},
-      {"DrawOctagonLayout", nullptr},    {"DrawUnequalSpanValley", nullptr},
-      {"DrawBlindValley", nullptr},      {"DrawGambrelRafter", nullptr},
-      {"DrawGambrelPreview", nullptr},
-  };
-  static_assert(std::size(kDrawings) == static_cast<std::size_t>(Drawing::kGambrelPreview) + 1);
   if (!CalcEnabled) return;
-  const DrawingRow& row = kDrawings[static_cast<std::size_t>(drawing)];
-  DrawingExists = row.procedure != nullptr;
+  const DrawingForms& forms = FormsOf(drawing);
+  DrawingExists = forms.Draw != nullptr;
   ClearPicture();
-  const DrawProcedure procedure = row.procedure;
-  if (procedure != nullptr) Try(row.name, [&] { procedure(board, rafter, Context()); });
+  if (DrawingExists) Try(forms.DrawName, [&] { forms.Draw(board, rafter, Context()); });
 }
 
 DrawingContext frmDocument::Context() const {

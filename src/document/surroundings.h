@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "output/printed_page.h"
 #include "storage/keyed_store.h"
 
 namespace pitchcraft {
@@ -40,10 +41,26 @@ class Dialogs {
   virtual std::optional<std::string> Input(const InputBox&) { return std::nullopt; }
 };
 
+/// The printer: what it prints on, and where its sheets go.
+class PrintService {
+ public:
+  virtual ~PrintService() = default;
+  /// The box that chooses printer and paper. Has no other effect.
+  virtual void ShowSetup() = 0;
+  /// The paper that the next sheet comes on. Where no printer says: A4 for a metric document, else Letter.
+  virtual Paper NextPaper(bool metric) = 0;
+  /// Sends one sheet. `name` is the job's. Raises RunTimeError with what went wrong; a sheet that the person
+  /// calls off is none.
+  virtual void Send(const PrintedPage& page, const std::string& name) = 0;
+  /// Today in the system's short form.
+  virtual std::string Today() = 0;
+};
+
 struct Surroundings {
   Dialogs& dialogs;
   KeyedStore& store;
   std::filesystem::path programFolder;  ///< holds the lists and the tips
+  PrintService* printer = nullptr;      ///< none where nothing can be printed
 };
 
 }  // namespace pitchcraft

@@ -26,6 +26,7 @@ struct CanvasMap {
   double ScaleY = 1;
   double OffsetX = 0;
   double OffsetY = 0;
+  bool operator==(const CanvasMap&) const = default;
 };
 
 struct CanvasPoint {

@@ -103,6 +103,8 @@ class DimensionDrafter {
     DrawDimensionLine();
     DrawArrowheads();
     PlaceText();
+    board_.Dimensions.push_back(
+        {dim_.Kind, p1_, p2_, end1_, end2_, dim_.TextAt, dim_.ArrowsOutside == 1, text_});
     board_.DimText(text_, dim_.TextHeight, direction_.Radians, dim_.TextMode, kAlignCenterBase);
   }
 

@@ -73,6 +73,7 @@ void DraftingBoard::BeginDrawing(DrawColor backColor, DrawColor lineColor) {
   MetaCanvas.Cls();
   Pts.Clear();
   DimensionPoints.clear();
+  Dimensions.clear();
   DrawFX.EntryMode = 0;
   DrawFX.SetDrawStyle(0);
   DrawFX.SetDrawWidth(0);
@@ -91,6 +92,7 @@ void DraftingBoard::EndDrawing() {
 void DraftingBoard::AbandonDrawing() {
   MetaCanvas.Cls();
   DimensionPoints.clear();
+  Dimensions.clear();
   EndDrawing();
 }
 

@@ -5,10 +5,10 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "core/single.h"
+#include "drawing/dimension_value.h"
 #include "drawing/draw_fx.h"
 #include "drawing/meta_file.h"
 #include "drawing/text_fx.h"
@@ -33,10 +33,6 @@ class PointArray {
   std::array<PointRecord, kCount> points_;
 };
 
-/// What the DXF writer repeats: four numbers a stroke; x, y, text, angle in radians and a letter (L, C or R)
-/// a text.
-using DimensionValue = std::variant<Single, std::string>;
-
 /// One dimension between two points. Distances are drawing units.
 struct Dimension {
   int Kind = 1;  ///< 1 aligned with the points, 2 horizontal, 3 vertical
@@ -53,6 +49,16 @@ struct Dimension {
   std::optional<PointRecord> TextAt;  ///< centre of the text's base line, in place of the usual one
 };
 
+/// A dimension as it was drawn, for whoever repeats it at another scale. Drawing units.
+struct DrawnDimension {
+  int Kind = 1;
+  PointRecord P1, P2;
+  PointRecord End1, End2;             ///< of the dimension line
+  std::optional<PointRecord> TextAt;  ///< centre of the text's base line, where it was given
+  bool ArrowsOutside = false;         ///< was asked for
+  std::string Text;
+};
+
 class DraftingBoard {
  public:
   /// `lengthText` renders a length in the document's unit.
@@ -66,6 +72,7 @@ class DraftingBoard {
   CTextFX TextFX;
   PointArray Pts;
   std::vector<DimensionValue> DimensionPoints;
+  std::vector<DrawnDimension> Dimensions;  ///< in the order of their drawing
   std::function<std::string(double)> LengthText;
 
   Single PointFactor;     ///< drawing units for one twip at the extents of the outline

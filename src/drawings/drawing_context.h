@@ -14,6 +14,7 @@ struct DrawingContext {
   bool SquareCut = false;         ///< mnuSettingsSquareCut is checked: the fascia stands square to the rafter
   bool RiseOverRun = true;  ///< mnuSettingsRiseOverRun is checked: slopes as rise over run, else as degrees
   HipLayoutOptions HipLayout;
+  int LineWidth = 0;  ///< pen width of outlines; 0 is the thinnest, as on screen
   DrawColor BackColor = 0;
   DrawColor LineColor = 0xFFFFFF;
   DrawColor DimColor = 0xFF;

@@ -7,17 +7,19 @@
 #include "drawing/text_align.h"
 
 namespace pitchcraft {
-namespace {
-
-constexpr const char* kDegreeSign = "\u00BA";
-
-}  // namespace
-
 std::string AngleText(double degrees) {
   std::array<char, 64> digits{};
   const auto end =
       std::to_chars(digits.data(), digits.data() + digits.size(), degrees, std::chars_format::fixed, 1);
   return std::string(digits.data(), end.ptr) + kDegreeSign;
+}
+
+std::string WithoutDegreeSign(std::string_view label) {
+  const std::string_view degree = kDegreeSign;
+  const std::size_t sign = label.find(degree);
+  if (sign == std::string_view::npos) return std::string(label);
+  const std::string_view rest = label.substr(sign + degree.size());
+  return std::string(label.substr(0, sign)) + (rest.empty() ? "" : "d") + std::string(rest);
 }
 
 std::string SlopeText(const std::string& pitch, double degrees, bool riseOverRun) {

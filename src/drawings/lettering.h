@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/run_time_error.h"
 #include "drawing/drafting_board.h"
@@ -10,8 +11,12 @@
 
 namespace pitchcraft {
 
+inline constexpr const char* kDegreeSign = "\u00BA";
+
 /// One decimal, and the degree sign of the lettering.
 std::string AngleText(double degrees);
+/// A label for a file whose readers may not have the sign: "63.4º" is "63.4", "45º bevels" is "45d bevels".
+std::string WithoutDegreeSign(std::string_view label);
 /// `pitch`, or the degrees with two decimals.
 std::string SlopeText(const std::string& pitch, double degrees, bool riseOverRun);
 /// Dimension pen and text colour, plain text at the height of a dimension.

@@ -1,9 +1,12 @@
-// The side view of one rafter with the measures that it is laid out by.
+// The side view of one common, shed, hip or valley rafter with the measures that it is laid out by: on
+// screen, on paper and as a DXF drawing.
 #pragma once
 
 #include "core/rafter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/drawing_context.h"
+#include "drawings/printed_sheet.h"
+#include "output/dxf_writer.h"
 
 namespace pitchcraft {
 
@@ -14,5 +17,12 @@ void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContex
 
 /// The same for main common, hip end common and hip of a roof whose end has a slope of its own.
 void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+
+/// Draws the rafter for paper and prints its sheet: the measures that it is cut by, under the drawing.
+void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
+
+/// Writes the rafter that the board holds since its last drawing, in real size.
+void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                  const PrintContext& context);
 
 }  // namespace pitchcraft

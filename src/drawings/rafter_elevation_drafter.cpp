@@ -41,6 +41,7 @@ void RafterElevationDrafter::Draw() {
 }
 
 void RafterElevationDrafter::DrawOutline() {
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   board_.Line(0, 1);
   DrawTail();
   DrawHeelLines();
@@ -48,6 +49,7 @@ void RafterElevationDrafter::DrawOutline() {
     const auto [from, to] = geometry_.Strokes[at];
     if (X(from) != X(to) || Y(from) != Y(to)) board_.Line(from, to);
   }
+  board_.DrawFX.SetDrawWidth(0);
 }
 
 /// The tail of a hip's square cut is measured from the corner that the roof planes meet in: it counts towards
@@ -66,10 +68,12 @@ void RafterElevationDrafter::DrawTail() {
 void RafterElevationDrafter::DrawHeelLines() {
   if (member_.Heel == 0) return;
   board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.DrawFX.SetDrawWidth(0);
   board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(1, 5);
   if (geometry_.Kneewall) board_.Line(27, 28);
   board_.DrawFX.SetPenColor(context_.LineColor);
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   board_.DrawFX.SetDrawStyle(0);
 }
 

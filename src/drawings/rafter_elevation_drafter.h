@@ -64,7 +64,6 @@ class RafterElevationDrafter {
   double AngleLabelEnd();
   void WriteTitle();
   void DrawEndView();
-  void LabelCheeks(double leftEnd, double rightEnd);
 
   double X(int point) const { return board_.Pts(point).X; }
   double Y(int point) const { return board_.Pts(point).Y; }

@@ -8,6 +8,7 @@
 #include "drawings/drawing_measures.h"
 #include "drawings/lettering.h"
 #include "drawings/rafter_elevation_drafter.h"
+#include "drawings/rafter_end_view.h"
 
 namespace pitchcraft {
 namespace {
@@ -34,9 +35,13 @@ std::optional<BeveledEnds> EndsOf(RafterType type) {
   }
 }
 
-const char* LabelOf(EndCut cut) {
-  if (cut == EndCut::kSquare) return "";
-  return cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels";
+std::vector<std::string> RowsOf(EndCut cut) {
+  if (cut == EndCut::kSquare) return {};
+  return {cut == EndCut::kOneSided ? "45\u00BA bevel" : "45\u00BA bevels"};
+}
+
+std::vector<std::string> RowsOf(const CheekBevels& bevels) {
+  return {AngleText(bevels.Upper) + " bevel", AngleText(bevels.Lower) + " bevel"};
 }
 
 /// How far the two edges and the middle of an end stand inside of its outermost line, in half thicknesses.
@@ -60,6 +65,13 @@ EndShape ShapeOf(EndCut cut, const CheekBevels& bevels) {
 
 }  // namespace
 
+EndLabels EndLabelsOf(RafterType type, const ElevationMember& member) {
+  const std::optional<BeveledEnds> ends = EndsOf(type);
+  if (!ends) return {};
+  if (type == RafterType::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
+  return {RowsOf(ends->Tail), RowsOf(ends->Ridge)};
+}
+
 /// Only where the drawing is narrower than its canvas, beside which the labels have room.
 void RafterElevationDrafter::DrawEndView() {
   const std::optional<BeveledEnds> ends = EndsOf(type_);
@@ -81,25 +93,21 @@ void RafterElevationDrafter::DrawEndView() {
   board_.Pts(26) = board_.Pts(23);
 
   board_.DrawFX.SetPenColor(context_.LineColor);
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   for (int corner = 18; corner < 24; ++corner) board_.Line(corner, corner + 1);
   board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.DrawFX.SetDrawWidth(0);
   board_.DrawFX.SetDrawStyle(measures::kDashed);
   board_.Line(25, 26);
   board_.DrawFX.SetDrawStyle(0);
 
-  if (type_ == RafterType::kBastardHip) return LabelCheeks(left - half, right + half);
-  board_.Text(LabelOf(ends->Tail), left - half, Y(20), kAlignRightBottom);
-  if (ends->Ridge != EndCut::kSquare)
-    board_.Text(LabelOf(ends->Ridge), right + half, Y(20), kAlignLeftBottom);
-}
-
-/// The two cheeks of either end on a row each, the upper one above.
-void RafterElevationDrafter::LabelCheeks(double leftEnd, double rightEnd) {
-  const auto label = [](double bevel) { return AngleText(bevel) + " bevel"; };
-  board_.Text(label(member_.TailBevels.Upper), leftEnd, Y(20), kAlignRightBottom);
-  board_.Text(label(member_.RidgeBevels.Upper), rightEnd, Y(20), kAlignLeftBottom);
-  board_.Text(label(member_.TailBevels.Lower), leftEnd, Y(20), kAlignRightTop);
-  board_.Text(label(member_.RidgeBevels.Lower), rightEnd, Y(20), kAlignLeftTop);
+  const EndLabels labels = EndLabelsOf(type_, member_);
+  constexpr int kTailRows[] = {kAlignRightBottom, kAlignRightTop};
+  constexpr int kRidgeRows[] = {kAlignLeftBottom, kAlignLeftTop};
+  for (std::size_t row = 0; row < labels.Tail.size(); ++row)
+    board_.Text(labels.Tail[row], left - half, Y(20), kTailRows[row]);
+  for (std::size_t row = 0; row < labels.Ridge.size(); ++row)
+    board_.Text(labels.Ridge[row], right + half, Y(20), kRidgeRows[row]);
 }
 
 }  // namespace pitchcraft

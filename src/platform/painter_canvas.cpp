@@ -5,13 +5,14 @@
 #include <cmath>
 
 #include "core/angles.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 #include "platform/font_setup.h"
 
 namespace pitchcraft {
 namespace {
 
 constexpr double kHairlineTwips = 15;
+constexpr double kPaperHairlineTwips = 6;  // 0.3 points: finer than the finest outline
 constexpr double kHatchTwips = 90;
 // Beyond this many units a point lies so far off any picture that only its direction matters.
 constexpr double kFarAway = 1e6;
@@ -46,7 +47,8 @@ PainterCanvas::PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter
 }
 
 void PainterCanvas::doPen(const CanvasPen& pen) {
-  const double width = std::max(pen.Width, kHairlineTwips * UnitsPerTwip());
+  const double hairline = Size().Printer ? kPaperHairlineTwips : kHairlineTwips;
+  const double width = std::max(pen.Width, hairline * UnitsPerTwip());
   // Whole device pixels: a line then begins and ends between two of them and is not smeared.
   penWidth_ = std::max(1.0, std::round(width / devicePixel_)) * devicePixel_;
   QPen qtPen(ToColor(pen.Color), penWidth_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);

@@ -9,7 +9,8 @@
 namespace pitchcraft {
 
 /// Paints in the painter's own coordinates, sharp at any device pixel ratio. The thinnest line is as thick as
-/// 15 twips, a pixel of a screen at the usual scale, and never thinner than a pixel of the device.
+/// 15 twips, a pixel of a screen at the usual scale, on paper 6, and never thinner than a pixel of the
+/// device.
 class PainterCanvas : public Canvas {
  public:
   /// The painter outlives the canvas. `unitsPerTwip` is the size of a twip in the painter's coordinates.

@@ -9,10 +9,12 @@
 #include <cctype>
 #include <cmath>
 
+#include "core/run_time_error.h"
 #include "document/frm_document.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
+#include "platform/pdf_pages.h"
 #include "platform/svg_canvas.h"
 
 namespace pitchcraft {
@@ -59,6 +61,18 @@ QByteArray SvgOf(const Picture& picture) {
   return QByteArray::fromStdString(canvas.Document(picture.Background, picture.Title));
 }
 
+/// A page of the picture's own size, on its ground.
+QByteArray PdfOf(const Picture& picture) {
+  PrintedPage page;
+  page.Paper = {std::fabs(picture.Size.ScaleWidth), std::fabs(picture.Size.ScaleHeight), 0};
+  const std::int32_t right = ToLong(page.Paper.Width);
+  const std::int32_t bottom = ToLong(page.Paper.Height);
+  page.Layers.push_back(
+      {{FillOp{{{0, 0}, {right, 0}, {right, bottom}, {0, bottom}}, {picture.Background, 0}}}, {}});
+  page.Layers.push_back({picture.Drawing.Finished(), picture.Drawing.FitInto(picture.Size, 1, kArea)});
+  return PdfOf(page, picture.Drawing.Meter(), picture.Title);
+}
+
 struct FormatRow {
   const char* extension;
   QByteArray (*contents)(const Picture&);
@@ -66,6 +80,7 @@ struct FormatRow {
 constexpr FormatRow kFormats[] = {
     {".png", &PngOf},
     {".svg", &SvgOf},
+    {".pdf", static_cast<QByteArray (*)(const Picture&)>(&PdfOf)},
 };
 
 const FormatRow* FormatOf(const std::filesystem::path& file) {
@@ -101,7 +116,7 @@ void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip
 std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file) {
   const FormatRow* format = FormatOf(file);
   if (format == nullptr) {
-    return "The format of " + TextOf(file) + " is not known: a picture is a .png or an .svg file.";
+    return "The format of " + TextOf(file) + " is not known: a picture is a .png, .svg or .pdf file.";
   }
   if (!picture.Drawing.IsClosed()) return "There is no drawing to write.";
   if (picture.Size.ScaleWidth == 0 || picture.Size.ScaleHeight == 0) return "The picture has no size.";

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/angles.h"
-#include "platform/colors.h"
+#include "drawing/colors.h"
 
 namespace pitchcraft {
 namespace {

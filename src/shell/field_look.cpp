@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/colors.h"
+#include "drawing/colors.h"
 
 namespace pitchcraft {
 

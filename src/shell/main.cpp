@@ -10,6 +10,7 @@
 #include "platform/qt_store.h"
 #include "shell/main_window.h"
 #include "shell/qt_dialogs.h"
+#include "shell/qt_printer.h"
 
 namespace {
 
@@ -65,8 +66,10 @@ int main(int argc, char** argv) {
 
   pitchcraft::QtDialogs dialogs;
   pitchcraft::QtStore store;
-  pitchcraft::MainWindow window({dialogs, store, pitchcraft::ProgramFolder()});
+  pitchcraft::QtPrinter printer(dialogs);
+  pitchcraft::MainWindow window({dialogs, store, pitchcraft::ProgramFolder(), &printer});
   dialogs.SetOwner(&window);
+  printer.SetOwner(&window);
   window.Open();
   return QApplication::exec();
 }

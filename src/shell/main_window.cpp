@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <algorithm>
 
 #include "shell/icons.h"
 #include "shell/twips.h"
@@ -15,11 +16,15 @@ constexpr int kNormal = 0;
 constexpr int kMinimized = 1;
 constexpr int kMaximized = 2;
 
+// Twips inside a screen: a window whose corner stands nearer to the edge leaves nothing to take hold of.
+constexpr int kReach = 500;
+
 }  // namespace
 
 MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings) {
   setObjectName("frmDocument");
   Document().Form_Load();
+  FitToScreens();
   menus_ = new MenuStrip(session_, this);
   tools_ = new ToolStrip(session_, this);
   bay_ = new BayStrip(session_, this);
@@ -43,6 +48,16 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   Sync();
 }
 
+// The screens of the last time may have been larger.
+void MainWindow::FitToScreens() {
+  const QSize room = QGuiApplication::primaryScreen()->virtualSize() * kTwipsPerPixel;
+  Area& place = Document().Window;
+  if (place.Width <= room.width() && place.Height <= room.height()) return;
+  place.Width = std::min(place.Width, room.width());
+  place.Height = std::min(place.Height, room.height());
+  Document().Form_Resize();
+}
+
 template <typename Action>
 void MainWindow::ForEachView(Action action) {
   for (const auto* views : {&sheet_->Views(), &tabs_->Views(), &bay_->Views()}) {
@@ -62,11 +77,14 @@ void MainWindow::ChainTabOrder() {
 }
 
 void MainWindow::Open() {
-  const frmDocument& document = Document();
+  frmDocument& document = Document();
   QPoint place(ToPixels(document.Window.Left), ToPixels(document.Window.Top));
-  const QScreen* screen = QGuiApplication::screenAt(place);
   // The screen of the last time may be gone.
-  if (screen == nullptr) place = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+  if (QGuiApplication::screenAt(place + QPoint(ToPixels(kReach), ToPixels(kReach))) == nullptr) {
+    place = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+    document.Window.Left = place.x() * kTwipsPerPixel;
+    document.Window.Top = place.y() * kTwipsPerPixel;
+  }
   move(place);
   if (document.WindowState == kMaximized) {
     showMaximized();

@@ -38,6 +38,7 @@ class MainWindow : public QWidget {
   void SyncOnce();
   void SyncStatus();
   void PlaceParts();
+  void FitToScreens();
   void ChainTabOrder();
   void GiveFocus();
   void FollowSize();

@@ -22,7 +22,7 @@ inline ScriptRun RunScript(const std::string& text) {
   ScriptDialogs dialogs(output);
   frmDocument document({dialogs, store, {}});
   document.Form_Load();
-  Script script(document, dialogs, output, [&run](const frmDocument&, const std::string& file) {
+  Script script(document, dialogs, output, [&run](frmDocument&, const std::string& file) {
     run.pictures.push_back(file);
     return file == "fails.png" ? std::optional<std::string>("no such folder") : std::nullopt;
   });

@@ -212,13 +212,13 @@ TEST_F(Window, WindowThatWasPutAwayComesBackWhole) {
 
 TEST_F(Window, NextWindowStandsWhereTheLastOneStood) {
   window_.move(60, 40);
-  window_.resize(900, 650);
+  window_.resize(780, 650);
   QApplication::processEvents();
   window_.close();
   MainWindow next(surroundings_.Get());
   next.Open();
   QApplication::processEvents();
-  EXPECT_EQ(next.size(), QSize(900, 650));
+  EXPECT_EQ(next.size(), QSize(780, 650));
   EXPECT_EQ(next.pos(), QPoint(60, 40));
 }
 

@@ -23,14 +23,10 @@ namespace pitchcraft::testing {
 /// "12 [LWSlope(0)] 6 | 12, ...": all that a person could tell two documents apart by.
 std::string StateOf(frmDocument& document);
 
-class WindowTest : public ::testing::Test {
- protected:
-  WindowTest() : window_(surroundings_.Get()) {
-    window_.Open();
-    window_.resize(1000, 700);
-    window_.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
-  }
+/// A person's hand in a window: it finds the widgets by the names of their controls.
+class WindowHand {
+ public:
+  explicit WindowHand(MainWindow& window) : window_(window) {}
 
   frmDocument& Document() { return window_.Document(); }
 
@@ -57,13 +53,29 @@ class WindowTest : public ::testing::Test {
     box.selectAll();
     QTest::keyClicks(&box, text);
   }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
   static std::string FocusName() {
     const QWidget* focus = QApplication::focusWidget();
     return focus == nullptr ? "" : focus->objectName().toStdString();
   }
+
+ private:
+  MainWindow& window_;
+};
+
+/// Shows the window at the size that the tests count on.
+inline void OpenForTest(MainWindow& window) {
+  window.Open();
+  window.resize(1000, 700);
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+class WindowTest : public ::testing::Test, protected WindowHand {
+ protected:
+  WindowTest() : WindowHand(window_), window_(surroundings_.Get()) { OpenForTest(window_); }
 
   /// Counts the calculations of the first rafter from here on.
   void CountCalculations() {

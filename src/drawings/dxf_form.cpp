@@ -1,0 +1,151 @@
+#include "drawings/dxf_form.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/text_meter.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr int kAligned = 1;
+constexpr int kHorizontal = 2;
+constexpr double kLetterWidth = 0.85;  // of a stroke font, in letter heights
+constexpr const char* kCenterLayer = "CENTER";
+
+/// Where a dimension line stands whose distance from the nearer of its points has grown.
+double GrownLine(double line, double a, double b, double growth) {
+  const double base = std::clamp(line, std::min(a, b), std::max(a, b));
+  return base + (line - base) * growth;
+}
+
+}  // namespace
+
+DxfForm::DxfForm(CDxfWriter& writer, const DraftingBoard& board)
+    : writer_(writer),
+      board_(board),
+      textHeight_(writer.TextHeight),
+      right_(board.MetaCanvas.MaxX() / board.DrawScale),
+      top_(board.MetaCanvas.MaxY() / board.DrawScale),
+      bottom_(board.MetaCanvas.MinY() / board.DrawScale) {
+  const double capital = board.DimTextHeight * kCapitalPerCell / board.DrawScale;
+  if (capital > 0 && textHeight_ > 0) growth_ = textHeight_ / capital;
+}
+
+PointRecord DxfForm::Real(int point) const {
+  const PointRecord& drawn = board_.Pts(point);
+  return {drawn.X / board_.DrawScale, drawn.Y / board_.DrawScale};
+}
+
+void DxfForm::Cover(PointRecord point) {
+  right_ = std::max<double>(right_, point.X);
+  top_ = std::max<double>(top_, point.Y);
+  bottom_ = std::min<double>(bottom_, point.Y);
+}
+
+void DxfForm::Line(PointRecord from, PointRecord to) {
+  if (from.X == to.X && from.Y == to.Y) return;
+  writer_.Line(from.X, from.Y, to.X, to.Y);
+  Cover(from);
+  Cover(to);
+}
+
+void DxfForm::CenterLine(PointRecord from, PointRecord to) {
+  if (from.X == to.X && from.Y == to.Y) return;
+  const int kept = writer_.Color;
+  writer_.Color = writer_.DimColor;
+  writer_.Line(from.X, from.Y, to.X, to.Y, kCenterLayer);
+  writer_.Color = kept;
+  Cover(from);
+  Cover(to);
+}
+
+void DxfForm::Line(int from, int to) { Line(Real(from), Real(to)); }
+void DxfForm::CenterLine(int from, int to) { CenterLine(Real(from), Real(to)); }
+
+void DxfForm::Dimensions() {
+  writer_.DimFirstTier();
+  for (const DrawnDimension& dimension : board_.Dimensions) {
+    switch (dimension.Kind) {
+      case kAligned: Aligned(dimension); break;
+      case kHorizontal: Horizontal(dimension); break;
+      default: Vertical(dimension); break;
+    }
+    writer_.DimNextTier();
+  }
+}
+
+void DxfForm::Aligned(const DrawnDimension& dimension) {
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
+  if (p1.X == p2.X && p1.Y == p2.Y) return;
+  const double scale = board_.DrawScale;
+  const PointRecord third{(p1.X + (end1.X - p1.X) * growth_) / scale,
+                          (p1.Y + (end1.Y - p1.Y) * growth_) / scale};
+  writer_.DimAligned(p1.X / scale, p1.Y / scale, p2.X / scale, p2.Y / scale, third.X, third.Y);
+  Cover(third);
+  Cover({third.X + (p2.X - p1.X) / scale, third.Y + (p2.Y - p1.Y) / scale});
+}
+
+// A text with a place of its own keeps it along the measured way; across, it stands off as the lettering
+// does. The file places a text by its middle.
+void DxfForm::Horizontal(const DrawnDimension& dimension) {
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
+  if (p1.X == p2.X) return;
+  const double scale = board_.DrawScale;
+  const double line = GrownLine(end1.Y, p1.Y, p2.Y, growth_) / scale;
+  std::optional<Single> textX;
+  std::optional<Single> textY;
+  if (text) {
+    textX = text->X / scale;
+    textY = line + Grown(text->Y - end1.Y) + textHeight_ / 2;
+  }
+  writer_.DimHorizontal(p1.X / scale, p1.Y / scale, p2.X / scale, p2.Y / scale, line, textX, textY);
+  Cover({p1.X / scale, line - 2 * textHeight_});
+  Cover({p2.X / scale, line + 2 * textHeight_});
+}
+
+void DxfForm::Vertical(const DrawnDimension& dimension) {
+  const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
+  if (p1.Y == p2.Y) return;
+  const double scale = board_.DrawScale;
+  const double line = GrownLine(end1.X, p1.X, p2.X, growth_) / scale;
+  std::optional<Single> textX;
+  std::optional<Single> textY;
+  if (text && outside) {
+    // A file's text runs along its line: beside a short line it would cross the wood, below it is free.
+    const double length = static_cast<double>(shown.size()) * textHeight_ * kLetterWidth;
+    textX = line + 1.5 * textHeight_;
+    textY = std::min<double>(p1.Y, p2.Y) / scale - textHeight_ - length / 2;
+  } else if (text) {
+    textX = line + Grown(text->X - end1.X);
+    textY = text->Y / scale + textHeight_ / 2;
+  }
+  writer_.DimVertical(p1.X / scale, p1.Y / scale, p2.X / scale, p2.Y / scale, line, textX, textY);
+  const double reach = textX ? std::max(0.0, 2 * (*textX - line)) : 0;
+  Cover({line + std::max(reach, 2 * textHeight_), p1.Y / scale});
+}
+
+void DxfForm::Label(const std::string& text, PointRecord at, const char* align) {
+  writer_.TextAlign = align;
+  writer_.Text(text, at.X, at.Y);
+  writer_.TextAlign = "L";
+  Cover(at);
+}
+
+void DxfForm::Title(const std::string& text) {
+  const CMetaFile& canvas = board_.MetaCanvas;
+  const double middle = (canvas.MinX() + canvas.MaxX()) / 2 / board_.DrawScale;
+  const double y = top_ + 2 * textHeight_;
+  writer_.Text(text, middle - static_cast<double>(text.size()) * textHeight_ / 2, y, 2 * textHeight_);
+}
+
+void DxfForm::Block(const std::vector<std::string>& rows, int first) {
+  const double x = right_ + 3 * textHeight_;
+  double y = Real(first).Y;
+  for (const std::string& row : rows) {
+    writer_.Text(row, x, y);
+    y -= 3 * textHeight_;
+  }
+}
+
+}  // namespace pitchcraft

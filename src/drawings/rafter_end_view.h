@@ -1,0 +1,21 @@
+// How the two ends of a hip or valley rafter are labelled, as seen from below.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/rafter_type.h"
+#include "drawings/elevation_member.h"
+
+namespace pitchcraft {
+
+/// The rows of either end from the top down: one for both cheeks, or one for each. None where an end is
+/// square.
+struct EndLabels {
+  std::vector<std::string> Tail;
+  std::vector<std::string> Ridge;
+};
+
+EndLabels EndLabelsOf(RafterType type, const ElevationMember& member);
+
+}  // namespace pitchcraft

@@ -1,0 +1,149 @@
+// The printed sheet of one rafter: which measures stand in which column.
+#include "drawings/rafter_sheet.h"
+
+#include "drawings/rafter_elevation.h"
+#include "sheet/roof_types.h"
+
+namespace pitchcraft {
+namespace {
+
+enum class SheetFamily { kCommon, kHip, kValley };
+
+SheetFamily FamilyOf(RafterType type) {
+  if (type == RafterType::kHip) return SheetFamily::kHip;
+  return IsValley(type) ? SheetFamily::kValley : SheetFamily::kCommon;
+}
+
+struct TitleRow {
+  int RoofType;
+  RafterType Type;
+  const char* Title;
+};
+
+// A roof whose two rafters are of one type has a row for each: the first is the front roof's.
+constexpr TitleRow kTitles[] = {
+    {roof::kGable, RafterType::kCommon, "Gable Roof - Common Rafter"},
+    {roof::kShed, RafterType::kShed, "Shed Roof - Rafter"},
+    {roof::kHip, RafterType::kCommon, "Hip Roof - Common Rafter"},
+    {roof::kHip, RafterType::kHip, "Hip Roof - Hip Rafter"},
+    {roof::kValley, RafterType::kValley, "Valley - Valley Rafter"},
+    {roof::kDualSlope, RafterType::kCommon, "Dual Slope Roof - Front Rafter"},
+    {roof::kDualSlope, RafterType::kCommon, "Dual Slope Roof - Rear Rafter"},
+    {roof::kDutchHip, RafterType::kCommon, "Dutch Hip Roof - Common Rafter"},
+    {roof::kUnequalSpanValley, RafterType::kShortValley, "Unequal Span Valley - Short Valley Rafter"},
+    {roof::kUnequalSpanValley, RafterType::kLongValley, "Unequal Span Valley - Long Valley Rafter"},
+};
+
+std::string TitleOf(int roofType, RafterType type, std::size_t row) {
+  const char* title = nullptr;
+  std::size_t seen = 0;
+  for (const TitleRow& candidate : kTitles) {
+    if (candidate.RoofType != roofType || candidate.Type != type) continue;
+    title = candidate.Title;
+    if (seen++ == row) break;
+  }
+  return title == nullptr ? "Rafter" : title;
+}
+
+class RafterSheet {
+ public:
+  RafterSheet(const CRafter& rafter, const PrintContext& context)
+      : rafter_(rafter), context_(context), fields_(context.Fields), row_(context.Row) {}
+
+  SheetColumns Columns() const {
+    switch (FamilyOf(rafter_.RafterType)) {
+      case SheetFamily::kHip: return {Commons("Common "), HipRun(), Hip()};
+      case SheetFamily::kValley: return {Commons("Common "), ValleyRun(), Valley()};
+      default: return {Commons(""), Lumber(nullptr), Common()};
+    }
+  }
+
+ private:
+  using Rows = std::vector<std::string>;
+
+  std::string Length(const std::string& label, double value) const {
+    return label + " = " + context_.LengthText(value);
+  }
+
+  Rows Commons(const std::string& member) const {
+    return {SlopeRow(member + "Slope", rafter_.Pitch.Stored(), rafter_.degrees),
+            Row(member + "Run", fields_.FtSpan[row_]), Row(member + "Overhang", fields_.FtOverhang[row_]),
+            Length(member + "Heel", rafter_.CommonHeel), Length(member + "Seat", rafter_.CommonSeat)};
+  }
+
+  /// `hipOrValley` names the member whose lumber stands between common and ridge; null where there is none.
+  Rows Lumber(const char* hipOrValley) const {
+    Rows rows{Row("Common", fields_.LWRafter[row_])};
+    if (hipOrValley != nullptr) rows.push_back(Row(hipOrValley, fields_.LWHipVal));
+    if (fields_.LWRidge.Visible) rows.push_back(Row("Ridge", fields_.LWRidge));
+    if (context_.Drawing.SquareCut) rows.push_back(Row("Fascia", fields_.LWFascia[row_]));
+    return rows;
+  }
+
+  Rows Common() const {
+    Rows rows;
+    if (rafter_.RafterType != RafterType::kShed)
+      rows.push_back(Length("Ridge Allowance", rafter_.RidgeAllowance));
+    rows.push_back(Length("Adjusted Run", rafter_.AdjSpan));
+    if (rafter_.Kneewall > 0) {
+      rows.push_back(Length("Kneewall Location", rafter_.Kneewall));
+      rows.push_back(Length("Kneewall Height Above Plate", rafter_.KneewallRise));
+    }
+    return rows;
+  }
+
+  Rows HipRun() const {
+    return {SlopeRow("Hip Slope", rafter_.HipPitch.Stored(), rafter_.HipDegrees),
+            Length("Hip Run", rafter_.HipValSpan), Length("Hip Overhang", rafter_.HipValOverhang),
+            Length("Hip Heel", rafter_.HipHeel), Length("Hip Seat", rafter_.HipValSeat)};
+  }
+
+  Rows Hip() const {
+    Rows rows = Lumber("Hip");
+    rows.push_back(Length("Hip Drop", rafter_.HipDrop));
+    rows.push_back(Length("Ridge Allowance", rafter_.HipRidgeAllowance));
+    rows.push_back(Length("Adjusted Run", rafter_.AdjHipSpan));
+    const std::string inch = context_.Drawing.UnitRun == 12 ? "\"" : "";
+    rows.push_back(Length("CommonDiff 16" + inch, rafter_.CommonDifference16));
+    rows.push_back(Length("CommonDiff 24" + inch, rafter_.CommonDifference24));
+    return rows;
+  }
+
+  Rows ValleyRun() const {
+    const char* run = rafter_.RafterType == RafterType::kShortValley  ? "Short Valley Run"
+                      : rafter_.RafterType == RafterType::kLongValley ? "Long Valley Run"
+                                                                      : "Valley Run";
+    return {SlopeRow("Valley Slope", rafter_.HipPitch.Stored(), rafter_.HipDegrees),
+            Length(run, rafter_.HipValSpan), Length("Valley Overhang", rafter_.HipValOverhang),
+            Length("Valley Heel", rafter_.Heel), Length("Valley Seat", rafter_.HipValSeat)};
+  }
+
+  Rows Valley() const {
+    Rows rows = Lumber("Valley");
+    rows.push_back(Length("Ridge Allowance", rafter_.ValRidgeAllowance));
+    rows.push_back(Length("Adjusted Run", rafter_.AdjValSpan));
+    return rows;
+  }
+
+  const CRafter& rafter_;
+  const PrintContext& context_;
+  const Sheet& fields_;
+  std::size_t row_;
+};
+
+}  // namespace
+
+std::string RafterTitle(const CRafter& rafter, const PrintContext& context) {
+  return TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row);
+}
+
+SheetColumns RafterRows(const CRafter& rafter, const PrintContext& context) {
+  return RafterSheet(rafter, context).Columns();
+}
+
+void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
+  DrawRafter(board, rafter, context.Drawing);
+  PrintSheet(page, context, board.MetaCanvas, RafterTitle(rafter, context), RafterRows(rafter, context));
+}
+
+}  // namespace pitchcraft

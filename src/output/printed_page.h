@@ -1,0 +1,40 @@
+// A finished page: what a printer, a PDF file or a test plays.
+#pragma once
+
+#include <vector>
+
+#include "drawing/canvas.h"
+#include "drawing/recording.h"
+
+namespace pitchcraft {
+
+/// The paper in a printer, upright. Twips: 1440 to the inch.
+struct Paper {
+  double Width = 0;
+  double Height = 0;
+  double Margin = 720;  ///< on every side, left free
+  bool Color = true;    ///< false where the printer knows black alone
+
+  double PrintableWidth() const { return Width - 2 * Margin; }
+  double PrintableHeight() const { return Height - 2 * Margin; }
+};
+
+inline constexpr Paper kLetterPaper{12240, 15840};
+inline constexpr Paper kA4Paper{11906, 16838};
+
+/// One recording and where it stands: the map leads to twips from the left upper corner of the printable
+/// area, y downward.
+struct PageLayer {
+  Recording Drawing;
+  CanvasMap Map;
+};
+
+struct PrintedPage {
+  pitchcraft::Paper Paper;
+  std::vector<PageLayer> Layers;
+
+  /// Plays the page on a canvas whose origin is the corner of the printable area.
+  void PlayOn(Canvas& canvas) const;
+};
+
+}  // namespace pitchcraft

@@ -1,0 +1,29 @@
+// Pages as PDF, with their fonts inside, and on any painter.
+#pragma once
+
+#include <QByteArray>
+#include <filesystem>
+#include <string>
+
+#include "drawing/text_meter.h"
+#include "output/printed_page.h"
+
+class QPainter;
+
+namespace pitchcraft {
+
+/// Paints a page whose printable area begins at the painter's origin. `unitsPerTwip` is the size of a twip in
+/// the painter's coordinates.
+void PaintPage(QPainter& painter, const PrintedPage& page, const TextMeter& meter, double unitsPerTwip);
+
+/// One page as a PDF document.
+QByteArray PdfOf(const PrintedPage& page, const TextMeter& meter, const std::string& title);
+
+/// Writes the page to a PDF file, whole or not at all. Raises RunTimeError where it could not be written.
+void WritePdf(const PrintedPage& page, const TextMeter& meter, const std::string& title,
+              const std::filesystem::path& file);
+
+/// Today in the short form of the user's locale.
+std::string ShortDateOfToday();
+
+}  // namespace pitchcraft
