@@ -198,8 +198,11 @@ void frmDocument::FtLastCommon_Commit(int) {
     if (field.Value() < Rafter1.HipEndSpan) {
       field.SetValue(Rafter1.HipEndSpan);
     } else if (field.Value() > Rafter1.HipEndSpan + Rafter1.spacing) {
-      MsgBox("Distance to last common cannot be more than the hipend span plus the rafter spacing (" +
-             sheet.cboSpacing.Text() + ")");
+      // A value that nobody uses, left over from another roof, is put right without a word.
+      if (sheet.chkLastCommon.Ticked()) {
+        MsgBox("Distance to last common cannot be more than the hipend span plus the rafter spacing (" +
+               sheet.cboSpacing.Text() + ")");
+      }
       field.SetValue(Rafter1.HipEndSpan);
     }
     Draw(Drawing::kHipPlan, Rafter1);

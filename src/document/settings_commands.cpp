@@ -259,7 +259,7 @@ void frmDocument::mnuHipLayoutOverhangsEqual_Click(int) {
     menus.mnuPopUp1OverhangsEqual.Checked = menus.mnuHipLayoutOverhangsEqual.Checked;
     CalculateBastard();
     // The moved end wall may leave the last common where it cannot stand.
-    if (sheet.VSTab[0].Page == 0 && sheet.chkLastCommon.Ticked()) return FtLastCommon_Commit();
+    if (sheet.VSTab[0].Page == 0) return FtLastCommon_Commit();
     RepeatDrawing();
   });
 }

@@ -19,7 +19,7 @@ bool IsPlain(const CRafter& rafter) { return rafter.RafterType != RafterType::kB
 
 /// One face as its jacks see it: they stand along its eave and run square to it.
 struct Face {
-  RoofFace Side = RoofFace::kEnd;
+  HipRoofFace Side = HipRoofFace::kEnd;
   double Middle = 0;   // where its common stands along the eave
   double Corner = 0;   // the wall corner along the eave
   double Wall = 0;     // the wall along a jack
@@ -46,7 +46,7 @@ class HipLayoutBuilder {
     layout_.Spacing = rafter.spacing;
     same_ = kSamePlace * std::max(outline_.MainRun, outline_.EndRun);
     const double ratio = outline_.Ratio();
-    end_ = {RoofFace::kEnd,
+    end_ = {HipRoofFace::kEnd,
             outline_.MainRun,
             outline_.Overhang,
             outline_.EndOverhang,
@@ -54,7 +54,7 @@ class HipLayoutBuilder {
             (IsPlain(rafter) ? rafter.Slope : rafter.HipEndSlope) / rafter.SlopeBase,
             outline_.EndRun - rafter.RidgeAllowance * ratio,
             outline_.EndRun};
-    main_ = {RoofFace::kMain,
+    main_ = {HipRoofFace::kMain,
              outline_.EndRun,
              outline_.EndOverhang,
              outline_.Overhang,

@@ -19,7 +19,7 @@ enum class JackLayout {
   kCornersFlush,  ///< the first jack's side flush with the wall corner
 };
 
-enum class RoofFace { kEnd, kMain };
+enum class HipRoofFace { kEnd, kMain };
 
 struct HipLayoutOptions {
   JackLayout Layout = JackLayout::kCenter;
@@ -44,7 +44,7 @@ struct HipOutline {
 
 /// One rafter of the left half of the hip end, or of the left main face.
 struct LaidRafter {
-  RoofFace Face = RoofFace::kEnd;
+  HipRoofFace Face = HipRoofFace::kEnd;
   const char* Label = nullptr;  ///< of a common; a jack has none
   double Place = 0;             ///< of its middle, along the eave that it starts from
   double PlanLength = 0;        ///< from that eave to the middle of the hip, or of the ridge

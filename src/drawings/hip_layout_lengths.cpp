@@ -36,8 +36,8 @@ struct HipPlanDrafter::FootLettering {
 void HipPlanDrafter::WriteFeet(const HipLayout& layout) {
   const FootLettering lettering = ChooseFootLettering(layout);
   board_.TextFX.FontHeight = ToLong(lettering.Height);
-  WriteFeetOf(RoofFace::kEnd, layout, lettering);
-  WriteFeetOf(RoofFace::kMain, layout, lettering);
+  WriteFeetOf(HipRoofFace::kEnd, layout, lettering);
+  WriteFeetOf(HipRoofFace::kMain, layout, lettering);
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
 }
 
@@ -56,7 +56,7 @@ std::string HipPlanDrafter::FootText(const LaidRafter& rafter) const {
   return rafter.Length ? board_.LengthText(*rafter.Length) : std::string();
 }
 
-void HipPlanDrafter::WriteFeetOf(RoofFace face, const HipLayout& layout, const FootLettering& lettering) {
+void HipPlanDrafter::WriteFeetOf(HipRoofFace face, const HipLayout& layout, const FootLettering& lettering) {
   std::vector<const LaidRafter*> rafters;
   double longest = 0;
   for (const LaidRafter& rafter : layout.Rafters) {
@@ -78,10 +78,10 @@ void HipPlanDrafter::WriteFeetOf(RoofFace face, const HipLayout& layout, const F
 
 /// `away` is how much further out than the first row the text begins; a thin line leads to one that does not
 /// stand at its rafter's foot.
-void HipPlanDrafter::WriteFoot(RoofFace face, double foot, double at, const std::string& text, double away,
+void HipPlanDrafter::WriteFoot(HipRoofFace face, double foot, double at, const std::string& text, double away,
                                const FootLettering& lettering) {
   if (text.empty()) return;
-  const bool end = face == RoofFace::kEnd;
+  const bool end = face == HipRoofFace::kEnd;
   const double begin = board_.DimTextHeight + away;
   if (at != foot || away > 0) {
     const double from = kLeaderGap * board_.DimTextHeight;

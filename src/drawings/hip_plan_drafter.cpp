@@ -102,7 +102,7 @@ void HipPlanDrafter::DrawRafters(const HipLayout& layout) {
   for (const LaidRafter& rafter : layout.Rafters) {
     const double place = Units(rafter.Place);
     const double length = Units(rafter.PlanLength);
-    const bool end = rafter.Face == RoofFace::kEnd;
+    const bool end = rafter.Face == HipRoofFace::kEnd;
     const PointRecord foot = end ? PointRecord{place, 0} : PointRecord{0, place};
     const PointRecord top = end ? PointRecord{place, length} : PointRecord{length, place};
     board_.DrawFX.DrawLine(foot.X, foot.Y, top.X, top.Y);

@@ -30,8 +30,8 @@ class HipPlanDrafter {
   struct FootLettering;
   void WriteFeet(const HipLayout& layout);
   FootLettering ChooseFootLettering(const HipLayout& layout);
-  void WriteFeetOf(RoofFace face, const HipLayout& layout, const FootLettering& lettering);
-  void WriteFoot(RoofFace face, double foot, double at, const std::string& text, double away,
+  void WriteFeetOf(HipRoofFace face, const HipLayout& layout, const FootLettering& lettering);
+  void WriteFoot(HipRoofFace face, double foot, double at, const std::string& text, double away,
                  const FootLettering& lettering);
   std::string FootText(const LaidRafter& rafter) const;
   void WriteNotes();

@@ -40,6 +40,108 @@ TEST_F(PagesTest, SpacingShowsOnTheLayoutPageAlone) {
   }
 }
 
+std::string Shown(const frmDocument& document) {
+  std::string words;
+  for (const DrawOp& operation : document.board.MetaCanvas.Finished()) {
+    if (const auto* text = std::get_if<TextOp>(&operation)) words += text->Text + "\n";
+  }
+  return words;
+}
+
+TEST_F(PagesTest, AHipHasADrawingOnEveryPage) {
+  Pick("cboType", "Hip");
+  for (int page = 0; page < 4; ++page) {
+    Page(page);
+    EXPECT_FALSE(document.board.MetaCanvas.Finished().empty()) << page;
+  }
+  Page(0);
+  Type("LWSlope(0)", "6 | 12");
+  Type("LWSlope(2)", "9 | 12");
+  for (int page = 0; page < 5; ++page) {
+    Page(page);
+    EXPECT_FALSE(document.board.MetaCanvas.Finished().empty()) << page;
+    EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip) << page;
+  }
+  const char* const titles[] = {" 6/12\n", " 9/12\n", " 4.99/12\n"};
+  for (int page = 1; page < 4; ++page) {
+    Page(page);
+    EXPECT_NE(Shown(document).find(titles[page - 1]), std::string::npos) << page;
+  }
+}
+
+TEST_F(PagesTest, TheLayoutFollowsItsMenus) {
+  Pick("cboType", "Hip");
+  Type("LWSlope(0)", "6 | 12");
+  Click("mnuHipLayoutCorners");
+  Page(3);
+  const auto shows = [&](const char* words) { return Shown(document).find(words) != std::string::npos; };
+  EXPECT_TRUE(shows("layout is on center from outside wall corners"));
+  Click("mnuPopUp1LayoutCornerFlush");
+  EXPECT_TRUE(shows("layout is flush from outside wall corners"));
+  Click("mnuPopUp1LayoutCenter");
+  EXPECT_TRUE(shows("layout is on center from hip center to outside corners"));
+  Click("mnuPopUp1LayoutCorner");
+  EXPECT_TRUE(shows("layout is on center from outside wall corners"));
+  const bool measured = shows("jack measurement includes overhang");
+  Click("mnuPopUp1JackMeasurement");
+  EXPECT_EQ(shows("jack measurement DOES NOT includes overhang"), measured);
+  const std::string before = Shown(document);
+  Pick("cboSpacing", "24\"");
+  EXPECT_NE(Shown(document), before);
+}
+
+TEST_F(PagesTest, EachPageFollowsTheEqualOverhangs) {
+  Pick("cboType", "Hip");
+  Type("LWSlope(0)", "6 | 12");
+  Type("LWSlope(2)", "9 | 12");
+  const bool equal = menus.mnuHipLayoutOverhangsEqual.Checked;
+  for (const int page : {0, 1, 2, 3, 4}) {
+    Page(page);
+    const std::string before = Shown(document);
+    Click("mnuPopUp1OverhangsEqual");
+    const std::string after = Shown(document);
+    Page(page);
+    EXPECT_EQ(Shown(document), after) << "page " << page << " shows its own drawing";
+    EXPECT_EQ(after == before, page < 2) << page;  // the main common does not move
+    Click("mnuPopUp1OverhangsEqual");
+    EXPECT_EQ(Shown(document), before) << page;
+  }
+  EXPECT_EQ(menus.mnuHipLayoutOverhangsEqual.Checked, equal);
+}
+
+TEST_F(PagesTest, TheLastCommonStandsOnPlanAndLayout) {
+  Pick("cboType", "Hip");
+  Type("LWSlope(0)", "6 | 12");
+  Check("chkLastCommon", true);
+  Type("FtLastCommon", "12' 6");
+  EXPECT_NE(Shown(document).find("Last Common"), std::string::npos);
+  Page(3);
+  EXPECT_NE(Shown(document).find("last common is 12' 6\" on center from wall corner"), std::string::npos);
+  Page(0);
+  Check("chkLastCommon", false);
+  EXPECT_EQ(Shown(document).find("Last Common"), std::string::npos);
+}
+
+TEST_F(PagesTest, AnUnusedLastCommonIsPutRightWithoutAWord) {
+  Pick("cboType", "Hip");
+  Type("LWSlope(0)", "6 | 12");
+  Type("LWSlope(2)", "4 | 12");
+  Type("FtSpan(0)", "6'");
+  around.dialogs.messages.clear();
+  Click("mnuHipLayoutOverhangsEqual");
+  EXPECT_TRUE(around.dialogs.messages.empty());
+}
+
+TEST_F(PagesTest, TooManyJacksAreOneMessageAndABlank) {
+  Pick("cboType", "Hip");
+  Type("LWSlope(0)", "6 | 12");
+  Type("FtSpan(0)", "1000000");
+  around.dialogs.messages.clear();
+  Page(3);
+  EXPECT_EQ(around.dialogs.messages.size(), 1U);
+  EXPECT_TRUE(document.board.MetaCanvas.Finished().empty());
+}
+
 TEST_F(PagesTest, APageThatIsNotThereIsRefused) {
   EXPECT_TRUE(actions.Page("VSTab(0)", 2));
   EXPECT_TRUE(actions.Page("VSTab(0)", -1));

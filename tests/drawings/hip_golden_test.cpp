@@ -30,7 +30,7 @@ void ExpectTrueLengths(const HipCase& c, const DrawnHip& drawn) {
   }
   for (const char* label : {"End Common", "Common", "Commons"}) shown.erase(label);
   std::multiset<std::string> real;
-  for (const RoofFace face : {RoofFace::kEnd, RoofFace::kMain}) {
+  for (const HipRoofFace face : {HipRoofFace::kEnd, HipRoofFace::kMain}) {
     for (const double place : space.PlacesOf(face)) {
       const auto length = space.LongestEdge(face, place, c.WithOverhang);
       if (length) real.insert(drawn.LengthText(*length));

@@ -23,7 +23,7 @@ HipLayout LayOut(const HipCase& c) {
   return LayOutHip(rafter, testing::ContextOf(c, rafter).HipLayout);
 }
 
-std::vector<LaidRafter> JacksOf(const HipLayout& layout, RoofFace face) {
+std::vector<LaidRafter> JacksOf(const HipLayout& layout, HipRoofFace face) {
   std::vector<LaidRafter> jacks;
   for (const LaidRafter& rafter : layout.Rafters) {
     if (rafter.Face == face && rafter.IsJack()) jacks.push_back(rafter);
@@ -53,10 +53,10 @@ void ExpectJackInSpace(const HipCase& c, const LaidRafter& jack, double place) {
 void ExpectLayoutInSpace(const HipCase& c) {
   SCOPED_TRACE(::testing::PrintToString(c));
   const HipLayout layout = LayOut(c);
-  for (const RoofFace face : {RoofFace::kEnd, RoofFace::kMain}) {
+  for (const HipRoofFace face : {HipRoofFace::kEnd, HipRoofFace::kMain}) {
     const std::vector<LaidRafter> jacks = JacksOf(layout, face);
     const std::vector<double> places = HipSpace(c).PlacesOf(face);
-    ASSERT_EQ(jacks.size(), places.size()) << (face == RoofFace::kEnd ? "end" : "main");
+    ASSERT_EQ(jacks.size(), places.size()) << (face == HipRoofFace::kEnd ? "end" : "main");
     for (std::size_t at = 0; at < jacks.size(); ++at) ExpectJackInSpace(c, jacks[at], places[at]);
   }
 }
@@ -160,7 +160,7 @@ TEST(HipLayout, HasEveryJackInMillimetresWithItsLength) {
 
 TEST(HipLayout, BeginsBesideTheCommon) {
   HipCase c;
-  const std::vector<LaidRafter> jacks = JacksOf(LayOut(c), RoofFace::kEnd);
+  const std::vector<LaidRafter> jacks = JacksOf(LayOut(c), HipRoofFace::kEnd);
   EXPECT_NEAR(jacks[0].Place, 154.5 - 16, 1e-4) << "the first place out";
   // Its run: to the edge half a thickness further in, less half the hip across the jack.
   const double run = 154.5 - 16 + 0.75 - 0.75 * std::sqrt(2.0);
@@ -179,7 +179,7 @@ TEST(HipLayout, DrawsAJackToTheMiddleOfTheHip) {
   c.EndSlope = 9;
   for (const LaidRafter& jack : LayOut(c).Rafters) {
     if (!jack.IsJack()) continue;
-    const bool end = jack.Face == RoofFace::kEnd;
+    const bool end = jack.Face == HipRoofFace::kEnd;
     const double ratio = end ? 6.0 / 9 : 9.0 / 6;
     const double run = *jack.Length / std::hypot(1, end ? 9.0 / 12 : 6.0 / 12);
     EXPECT_NEAR(jack.PlanLength - run, 0.75 * std::hypot(1, ratio) - 0.75 * ratio, 1e-3);
@@ -189,9 +189,9 @@ TEST(HipLayout, DrawsAJackToTheMiddleOfTheHip) {
 TEST(HipLayout, StandsFlushByTheJacksSide) {
   HipCase c;
   c.Layout = JackLayout::kCorners;
-  const auto centered = JacksOf(LayOut(c), RoofFace::kEnd);
+  const auto centered = JacksOf(LayOut(c), HipRoofFace::kEnd);
   c.Layout = JackLayout::kCornersFlush;
-  const auto flush = JacksOf(LayOut(c), RoofFace::kEnd);
+  const auto flush = JacksOf(LayOut(c), HipRoofFace::kEnd);
   EXPECT_NEAR(centered.back().Place, 10.5, 1e-4) << "the middle at the corner of the walls";
   EXPECT_NEAR(flush.back().Place, 11.25, 1e-4) << "the side at the corner of the walls";
 }
@@ -200,19 +200,19 @@ TEST(HipLayout, CountsWholeSpacingsOutIntoTheOverhang) {
   HipCase c;
   c.Layout = JackLayout::kCorners;
   c.Overhang = 40;
-  EXPECT_NEAR(JacksOf(LayOut(c), RoofFace::kEnd).back().Place, 8, 1e-4);
+  EXPECT_NEAR(JacksOf(LayOut(c), HipRoofFace::kEnd).back().Place, 8, 1e-4);
   c.Overhang = 47.5;  // nearly three spacings are still two
-  EXPECT_NEAR(JacksOf(LayOut(c), RoofFace::kEnd).back().Place, 15.5, 1e-4);
+  EXPECT_NEAR(JacksOf(LayOut(c), HipRoofFace::kEnd).back().Place, 15.5, 1e-4);
   c.Overhang = 48;  // the third would stand in the corner of the eaves, under the hip
-  EXPECT_NEAR(JacksOf(LayOut(c), RoofFace::kEnd).back().Place, 16, 1e-4);
+  EXPECT_NEAR(JacksOf(LayOut(c), HipRoofFace::kEnd).back().Place, 16, 1e-4);
 }
 
 TEST(HipLayout, CountsTheOverhangOnce) {
   HipCase c;
   c.Layout = JackLayout::kCorners;
-  const auto whole = JacksOf(LayOut(c), RoofFace::kMain);
+  const auto whole = JacksOf(LayOut(c), HipRoofFace::kMain);
   c.WithOverhang = false;
-  const auto fromWall = JacksOf(LayOut(c), RoofFace::kMain);
+  const auto fromWall = JacksOf(LayOut(c), HipRoofFace::kMain);
   ASSERT_EQ(whole.size(), fromWall.size());
   for (std::size_t at = 0; at + 1 < whole.size(); ++at) {
     EXPECT_NEAR(*whole[at].Length - *fromWall[at].Length, 10.5 * std::sqrt(1.25), 1e-3);
@@ -225,7 +225,7 @@ TEST(HipLayout, LeavesOutAJackThatWouldStandInTheCommon) {
   c.Layout = JackLayout::kCorners;
   for (const double gap : {0.0, 1.0, 1.5}) {
     c.Run = 9 * 16 + gap;
-    const double first = JacksOf(LayOut(c), RoofFace::kEnd)[0].Place;
+    const double first = JacksOf(LayOut(c), HipRoofFace::kEnd)[0].Place;
     EXPECT_NEAR(first, gap < 1.5 ? 10.5 + 8 * 16 : 10.5 + 9 * 16, 1e-4) << "touching it at " << gap;
   }
 }

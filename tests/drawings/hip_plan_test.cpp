@@ -116,7 +116,7 @@ TEST(HipLayoutDrawing, WritesEachLengthAtTheFootOfItsJack) {
       if (rafter.IsJack() && !rafter.Length) continue;
       const std::string words = rafter.IsJack() ? drawn.LengthText(*rafter.Length) : rafter.Label;
       const double place = rafter.Place * 10;
-      if (rafter.Face == RoofFace::kEnd) {
+      if (rafter.Face == HipRoofFace::kEnd) {
         take(words, place + height / 4, -height);
       } else {
         take(words, -height, place - height / 4);
@@ -136,7 +136,7 @@ TEST(HipLayoutDrawing, DrawsEachRafterFromItsEave) {
     const std::vector<LineOp> lines = drawn.All<LineOp>();
     std::size_t at = 9;  // after hips, eaves, ridge and walls
     for (const LaidRafter& rafter : drawn.Layout().Rafters) {
-      const bool end = rafter.Face == RoofFace::kEnd;
+      const bool end = rafter.Face == HipRoofFace::kEnd;
       const auto place = static_cast<int>(std::lround(rafter.Place * 10));
       const auto length = static_cast<int>(std::lround(rafter.PlanLength * 10));
       const LineOp& line = lines.at(at++);

@@ -29,20 +29,20 @@ class HipSpace {
                    : geometry::Intersect(endEdge, geometry::AtHeight(wallHeight)).y;
   }
 
-  double MiddleOf(RoofFace face) const { return face == RoofFace::kEnd ? peak_.x : peak_.y; }
+  double MiddleOf(HipRoofFace face) const { return face == HipRoofFace::kEnd ? peak_.x : peak_.y; }
   /// The wall corner along the eave of a face.
-  double CornerOf(RoofFace face) const { return face == RoofFace::kEnd ? case_.Overhang : endWall_; }
+  double CornerOf(HipRoofFace face) const { return face == HipRoofFace::kEnd ? case_.Overhang : endWall_; }
 
   /// Where the middle of a jack at `place` passes under the middle of the hip, from its eave.
-  double ToMiddleOfHip(RoofFace face, double place) const {
+  double ToMiddleOfHip(HipRoofFace face, double place) const {
     const geometry::Vector meet = geometry::Intersect(hip_, Across(face, place));
-    return face == RoofFace::kEnd ? meet.y : meet.x;
+    return face == HipRoofFace::kEnd ? meet.y : meet.x;
   }
 
   /// The longest edge of a jack, from the eave or from the wall to the side of the hip or to the ridge board,
   /// whichever it meets first; nothing where no wood is left.
-  std::optional<double> LongestEdge(RoofFace face, double place, bool fromEave) const {
-    const bool end = face == RoofFace::kEnd;
+  std::optional<double> LongestEdge(HipRoofFace face, double place, bool fromEave) const {
+    const bool end = face == HipRoofFace::kEnd;
     const geometry::Line edge =
         geometry::Intersect(end ? end_ : main_, Across(face, place + case_.Thickness / 2));
     const geometry::Vector atHip = geometry::Intersect(edge, SideOfHip(face));
@@ -58,9 +58,9 @@ class HipSpace {
 
   /// All places on a face at which a jack can stand, found by trying every step of the layout: inside of its
   /// eave, beside its common and not in it, with wood left beside the hip.
-  std::vector<double> PlacesOf(RoofFace face) const {
+  std::vector<double> PlacesOf(HipRoofFace face) const {
     std::vector<double> places;
-    const bool last = face == RoofFace::kMain && case_.PastPeak;
+    const bool last = face == HipRoofFace::kMain && case_.PastPeak;
     const bool fromCommon = last || case_.Layout == JackLayout::kCenter;
     const double common = MiddleOf(face) + (last ? *case_.PastPeak : 0);
     const bool flush = !fromCommon && case_.Layout == JackLayout::kCornersFlush;
@@ -79,16 +79,16 @@ class HipSpace {
  private:
   static constexpr double kNothing = 2e-3;
 
-  static geometry::Plane Across(RoofFace face, double place) {
-    return face == RoofFace::kEnd ? geometry::AtX(place) : geometry::AtY(place);
+  static geometry::Plane Across(HipRoofFace face, double place) {
+    return face == HipRoofFace::kEnd ? geometry::AtX(place) : geometry::AtY(place);
   }
 
-  geometry::Plane SideOfHip(RoofFace face) const {
+  geometry::Plane SideOfHip(HipRoofFace face) const {
     const geometry::Vector across =
         geometry::Unit(geometry::Cross(geometry::InPlan(hip_.direction), {0, 0, 1}));
     // Towards the end face x grows and y falls.
     const double towardsEnd = across.x > 0 ? 1 : -1;
-    const double side = face == RoofFace::kEnd ? towardsEnd : -towardsEnd;
+    const double side = face == HipRoofFace::kEnd ? towardsEnd : -towardsEnd;
     return geometry::Upright(hip_.origin + side * case_.HipThickness / 2 * across, across);
   }
 
