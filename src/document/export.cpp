@@ -28,9 +28,14 @@ void frmDocument::mnuFileExportDXF_Click(int) {
   });
 }
 
-void frmDocument::ExportDxf(const std::string& path) {
-  // A drawing whose figures are infinite has left nothing that could be written.
+/// A page without a drawing has nothing to write, nor has one whose figures are infinite.
+void frmDocument::RequireDrawing() const {
+  if (!DrawingExists) throw RunTimeError::NotAvailable();
   if (!board.MetaCanvas.IsClosed() || board.MetaCanvas.Operations().empty()) throw RunTimeError::Overflow();
+}
+
+void frmDocument::ExportDxf(const std::string& path) {
+  RequireDrawing();
   CDxfWriter writer;
   writer.FileName = path;
   SetUpWriter(writer);
@@ -66,6 +71,7 @@ void frmDocument::mnuFileExportMetafile_Click(int) {
 }
 
 void frmDocument::ExportMetafile(const std::filesystem::path& path) const {
+  RequireDrawing();
   const CMetaFile& canvas = board.MetaCanvas;
   MetafileFrame frame;
   frame.Left = ToLong(canvas.MinX());

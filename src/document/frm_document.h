@@ -418,6 +418,7 @@ class frmDocument {
   PrintContext PaperContext(int rafter, bool color) const;
   void PrintPage(const PageOutput& output, const CRafter& rafter);
   void SetUpWriter(CDxfWriter& writer) const;
+  void RequireDrawing() const;
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made
