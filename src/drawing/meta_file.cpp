@@ -11,7 +11,6 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kMetaFileError = 513;  // the first number that is free for a program's own errors
 constexpr double kStartFontSize = 10;
 constexpr double kUnitsPerPoint = 20;
 

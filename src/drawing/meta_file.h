@@ -16,6 +16,9 @@ namespace pitchcraft {
 class CDrawFX;
 class CTextFX;
 
+/// Number of the errors that a recording raises: the first that is free for a program's own.
+inline constexpr int kMetaFileError = 513;
+
 inline constexpr int kIsotropic = 7;
 inline constexpr int kAnisotropic = 8;
 

@@ -13,6 +13,8 @@ namespace {
 constexpr double kTwipsPerPoint = 20;
 constexpr int kLineWidth = 20;
 constexpr double kHalfPoint = 10;
+constexpr double kPrintWidth = 1400;
+constexpr double kPrintHeight = 1600;
 
 /// Pen widths that are counted in half points, as drawing units at a scale in twips for a unit.
 Recording WithPaperPens(Recording drawing, double scale) {
@@ -91,6 +93,12 @@ void Printer::Play(const CMetaFile& drawing, const PlayArea& area) {
   const CanvasSize page{ScaleWidth, ScaleHeight, true};
   const CanvasMap map = drawing.FitInto(page, 1, below);
   page_.Layers.push_back({WithPaperPens(drawing.Finished(), std::fabs(map.ScaleX)), map});
+}
+
+void Printer::MetaPrint(const CMetaFile& drawing) {
+  if (!drawing.IsClosed()) throw RunTimeError(kMetaFileError, "No metafile to print!");
+  const double scale = std::min(ScaleWidth / kPrintWidth, std::fabs(ScaleHeight) / kPrintHeight);
+  page_.Layers.push_back({WithPaperPens(drawing.Finished(), scale), {scale, scale, 0, 0}});
 }
 
 PrintedPage Printer::EndDoc() {

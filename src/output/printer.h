@@ -42,6 +42,9 @@ class Printer {
   void Line(double x1, double y1, double x2, double y2);
   /// Plays a finished drawing into an area, Top counted in y; its pen widths are half points of the paper.
   void Play(const CMetaFile& drawing, const PlayArea& area);
+  /// Plays a finished drawing alone into a window of 1400 by 1600 units that fills the page. "No metafile to
+  /// print!" when there is none.
+  void MetaPrint(const CMetaFile& drawing);
   /// Gives the page away; an empty one stands for it.
   PrintedPage EndDoc();
 

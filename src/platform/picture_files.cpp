@@ -75,12 +75,12 @@ QByteArray PdfOf(const Picture& picture) {
 
 struct FormatRow {
   const char* extension;
-  QByteArray (*contents)(const Picture&);
+  PictureFormat format;
 };
 constexpr FormatRow kFormats[] = {
-    {".png", &PngOf},
-    {".svg", &SvgOf},
-    {".pdf", static_cast<QByteArray (*)(const Picture&)>(&PdfOf)},
+    {".png", PictureFormat::kPng},
+    {".svg", PictureFormat::kSvg},
+    {".pdf", PictureFormat::kPdf},
 };
 
 const FormatRow* FormatOf(const std::filesystem::path& file) {
@@ -108,6 +108,15 @@ Picture ShownPicture(const frmDocument& document) {
   return {document.board.MetaCanvas, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
 }
 
+QByteArray PictureBytes(const Picture& picture, PictureFormat format) {
+  switch (format) {
+    case PictureFormat::kPng: return PngOf(picture);
+    case PictureFormat::kSvg: return SvgOf(picture);
+    case PictureFormat::kPdf: break;
+  }
+  return PdfOf(picture);
+}
+
 void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip) {
   PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), unitsPerTwip);
   picture.Drawing.MetaPlay(canvas, kArea);
@@ -120,7 +129,7 @@ std::optional<std::string> WritePicture(const Picture& picture, const std::files
   }
   if (!picture.Drawing.IsClosed()) return "There is no drawing to write.";
   if (picture.Size.ScaleWidth == 0 || picture.Size.ScaleHeight == 0) return "The picture has no size.";
-  return Save(format->contents(picture), file);
+  return Save(PictureBytes(picture, format->format), file);
 }
 
 }  // namespace pitchcraft

@@ -1,6 +1,7 @@
 // Writes a drawing to a picture file.
 #pragma once
 
+#include <QByteArray>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -27,6 +28,11 @@ Picture ShownPicture(const frmDocument& document);
 /// Paints the picture, its proportions kept, with a narrow border of its ground about it. The ground itself
 /// is there already. `unitsPerTwip` is the size of a twip in the painter's coordinates.
 void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip);
+
+enum class PictureFormat { kPng, kSvg, kPdf };
+
+/// The picture as the contents of a file.
+QByteArray PictureBytes(const Picture& picture, PictureFormat format);
 
 /// Writes the picture to a file whose ending tells the format: .png is 1600 pixels wide with the proportions
 /// of the area, .svg scalable. The file is replaced whole or not touched at all. Nothing on success; else

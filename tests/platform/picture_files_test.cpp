@@ -4,13 +4,18 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImage>
+#include <QMimeData>
 #include <QTemporaryDir>
 
+#include "core/run_time_error.h"
 #include "document/frm_document.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
+#include "platform/clipboard.h"
 
 namespace pitchcraft {
 namespace {
@@ -55,6 +60,15 @@ TEST_F(PictureFiles, SvgHoldsTheDrawing) {
   const std::string text = file.readAll().toStdString();
   EXPECT_THAT(text, StartsWith("<svg"));
   EXPECT_THAT(text, HasSubstr("M16 292 584 8"));
+}
+
+TEST_F(PictureFiles, TheClipboardHoldsAnImageAndSvg) {
+  CopyToClipboard(Sheet());
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).width(), 1600);
+  EXPECT_THAT(data->data("image/svg+xml").toStdString(), StartsWith("<svg"));
+  const CMetaFile empty(meter_);
+  EXPECT_THROW(CopyToClipboard({empty, {9000, 4500, false}, 0, ""}), RunTimeError);
 }
 
 TEST_F(PictureFiles, PdfHasThePicturesSize) {
