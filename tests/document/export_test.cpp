@@ -141,7 +141,9 @@ TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {
   document.DXFMetricTextsize = 60;
   Roof6In12();
   for (const Entity& e : Export()) {
-    if (e.Kind == "TEXT" && e.Text(1) == "63.4") EXPECT_EQ(e.Number(40), 4);
+    if (e.Kind == "TEXT" && e.Text(1) == "63.4") {
+      EXPECT_EQ(e.Number(40), 4);
+    }
   }
   Click("mnuMetric");
   Page(1);

@@ -44,7 +44,7 @@ struct SheetText {
   TextOp Op;
 };
 
-class PaperTest : public testing::Test {
+class PaperTest : public ::testing::Test {
  protected:
   PaperTest() { document.Form_Load(); }
 
@@ -59,7 +59,7 @@ class PaperTest : public testing::Test {
   const PrintedPage& Print() {
     const std::size_t before = printer.sheets.size();
     Click("mnuFilePrint");
-    EXPECT_EQ(printer.sheets.size(), before + 1) << testing::PrintToString(dialogs.messages);
+    EXPECT_EQ(printer.sheets.size(), before + 1) << ::testing::PrintToString(dialogs.messages);
     if (printer.sheets.empty()) printer.sheets.emplace_back();
     return printer.sheets.back();
   }
