@@ -16,7 +16,7 @@ namespace {
 constexpr double kSlopeHeight = 1.25;
 constexpr double kFootPitch = 1.4;  // from one text to the next
 constexpr double kLeaderGap = 0.25;
-constexpr double kNotePitch = 1.75;
+constexpr double kNotePitch = 2;
 constexpr double kLetterWidth = 0.85;
 
 constexpr int kUpward = 90;
@@ -33,7 +33,7 @@ class HipExport {
         rafter_(rafter),
         context_(context),
         gap_(form_.TextHeight()),
-        slopeGap_(form_.TextHeight() / 2) {}
+        slopeGap_(0.75 * form_.TextHeight()) {}
 
   void WritePlan() {
     outline_ = OutlineOfHip(rafter_, context_.Drawing.HipLayout);
