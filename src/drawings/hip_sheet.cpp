@@ -42,8 +42,9 @@ SheetColumns HipRows(const CRafter& rafter, const PrintContext& context) {
                 length("Hip End CommonDifference", rafter.HipEndCommonDifference * spacing)};
   columns[2] = {Row("Common", fields.LWRafter[0]), Row("Hip", fields.LWHipVal), Row("Ridge", fields.LWRidge)};
   if (context.Drawing.SquareCut) columns[2].push_back(Row("Fascia", fields.LWFascia[0]));
-  if (context.Drawing.HipLayout.LastCommon)
-    columns[2].push_back(Row("Last Common (distance o.c. from corner)", fields.FtLastCommon));
+  // Where it is drawn: a field that tells less than the run to the peak is raised to it.
+  if (outline.LastCommon)
+    columns[2].push_back(length("Last Common (distance o.c. from corner)", *outline.LastCommon));
   return columns;
 }
 

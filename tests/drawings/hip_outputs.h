@@ -19,14 +19,13 @@ class HipOutputs {
         context{drawn.context, fields, 0, "Barn", "1/2/2003", drawn.board.LengthText},
         metric_(c.Metric) {
     if (c.Metric) {
-      for (FtInText* field : {&fields.FtSpan[0], &fields.FtOverhang[0], &fields.FtLastCommon}) {
+      for (FtInText* field : {&fields.FtSpan[0], &fields.FtOverhang[0]}) {
         field->Format.Units = kMillimetres;
         field->Format.BaseUnits = kBaseMillimetres;
       }
     }
     fields.FtSpan[0].SetValue(c.Run);
     fields.FtOverhang[0].SetValue(c.Overhang);
-    fields.FtLastCommon.SetValue(drawn.context.HipLayout.LastCommon.value_or(0));
     fields.cboSpacing.SetText(c.Metric ? "400" : "16\"");
     for (LWCombo* lumber : {&fields.LWRafter[0], &fields.LWHipVal, &fields.LWRidge, &fields.LWFascia[0]})
       lumber->SetValues(1.5, 7.25);

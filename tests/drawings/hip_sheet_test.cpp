@@ -53,6 +53,15 @@ TEST(HipSheet, Rows) {
               ElementsAre("Common", "Hip", "Ridge", "Fascia", "Last Common (distance o.c. from corner)"));
 }
 
+// Sheet and note tell one figure, also where the field tells of a place below the peak.
+TEST(HipSheet, LastCommonIsTheOneThatIsDrawn) {
+  HipCase c;
+  c.PastPeak = -20;
+  const HipOutputs outputs(c);
+  const auto rows = Joined(HipRows(outputs.drawn.rafter, outputs.context));
+  EXPECT_EQ(ValueOf(rows, "Last Common (distance o.c. from corner)"), "12' 0\"");
+}
+
 TEST(HipSheet, ValuesOfAPlainHip) {
   const HipOutputs outputs({});
   const auto rows = Joined(HipRows(outputs.drawn.rafter, outputs.context));
