@@ -14,10 +14,10 @@ namespace {
 // The one place that says which drawings exist.
 constexpr DrawingForms kForms[] = {
     {"DrawRafter", &DrawRafter, "PrintRafter", &PrintRafter, "ExportRafter", &ExportRafter},
-    {"DrawHipPlan", &DrawHipPlan, "PrintHipPlan", nullptr, "ExportHipPlan", nullptr},
-    {"DrawHipLayout", &DrawHipLayout, "PrintHipLayout", nullptr, "ExportHipLayout", nullptr},
-    {"DrawBastardHipRafters", &DrawBastardHipRafters, "PrintBastardHipRafters", nullptr,
-     "ExportBastardHipRafter", nullptr},
+    {"DrawHipPlan", &DrawHipPlan, "PrintHipPlan", &PrintHipPlan, "ExportHipPlan", &ExportHipPlan},
+    {"DrawHipLayout", &DrawHipLayout, "PrintHipLayout", &PrintHipLayout, "ExportHipLayout", &ExportHipLayout},
+    {"DrawBastardHipRafters", &DrawBastardHipRafters, "PrintBastardHipRafters", &PrintBastardHipRafters,
+     "ExportBastardHipRafter", &ExportBastardHipRafter},
     {"DrawSaltbox", nullptr, "PrintSaltBox", nullptr, "ExportSaltbox", nullptr},
     {"DrawBayPlan", nullptr, "PrintBayPlan", nullptr, "ExportBayPlan", nullptr},
     {"DrawBayDiagram", nullptr, "PrintBayDiagram", nullptr, "ExportBayPlan", nullptr},

@@ -11,7 +11,6 @@ namespace {
 constexpr int kAligned = 1;
 constexpr int kHorizontal = 2;
 constexpr double kLetterWidth = 0.85;  // of a stroke font, in letter heights
-constexpr const char* kCenterLayer = "CENTER";
 
 /// Where a dimension line stands whose distance from the nearer of its points has grown.
 double GrownLine(double line, double a, double b, double growth) {
@@ -41,21 +40,31 @@ void DxfForm::Cover(PointRecord point) {
   right_ = std::max<double>(right_, point.X);
   top_ = std::max<double>(top_, point.Y);
   bottom_ = std::min<double>(bottom_, point.Y);
+  written_.Include(DxfPoint{point.X, point.Y});
 }
 
 void DxfForm::Line(PointRecord from, PointRecord to) {
   if (from.X == to.X && from.Y == to.Y) return;
-  writer_.Line(from.X, from.Y, to.X, to.Y);
-  Cover(from);
-  Cover(to);
+  Write(from, to, kDxfPlainLayer);
 }
 
 void DxfForm::CenterLine(PointRecord from, PointRecord to) {
   if (from.X == to.X && from.Y == to.Y) return;
   const int kept = writer_.Color;
   writer_.Color = writer_.DimColor;
-  writer_.Line(from.X, from.Y, to.X, to.Y, kCenterLayer);
+  Write(from, to, kDxfCenterLayer);
   writer_.Color = kept;
+}
+
+void DxfForm::HiddenLine(PointRecord from, PointRecord to) {
+  if (from.X == to.X && from.Y == to.Y) return;
+  Write(from, to, kDxfHiddenLayer);
+}
+
+void DxfForm::Leader(PointRecord from, PointRecord to) { Write(from, to, kDxfDimensionLayer); }
+
+void DxfForm::Write(PointRecord from, PointRecord to, const char* layer) {
+  writer_.Line(from.X, from.Y, to.X, to.Y, layer);
   Cover(from);
   Cover(to);
 }
@@ -125,11 +134,21 @@ void DxfForm::Vertical(const DrawnDimension& dimension) {
   Cover({line + std::max(reach, 2 * textHeight_), p1.Y / scale});
 }
 
-void DxfForm::Label(const std::string& text, PointRecord at, const char* align) {
+void DxfForm::Label(const std::string& text, PointRecord at, const char* align, std::optional<double> height,
+                    int rotation) {
+  const double high = height.value_or(textHeight_);
   writer_.TextAlign = align;
-  writer_.Text(text, at.X, at.Y);
+  writer_.Text(text, at.X, at.Y, Single(high), rotation);
   writer_.TextAlign = "L";
-  Cover(at);
+  const double width = static_cast<double>(text.size()) * high * kLetterWidth;
+  const double left = -width * (*align == 'C' ? 0.5 : *align == 'R' ? 1 : 0);
+  const DxfPoint along = DirectionAt(rotation);
+  for (const double x : {left, left + width}) {
+    for (const double y : {0.0, high}) {
+      const DxfPoint corner = DxfPoint{at.X, at.Y} + x * along + y * LeftOf(along);
+      Cover({corner.X, corner.Y});
+    }
+  }
 }
 
 void DxfForm::Title(const std::string& text) {

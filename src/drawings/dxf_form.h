@@ -27,10 +27,15 @@ class DxfForm {
   void CenterLine(int from, int to);
   void Line(PointRecord from, PointRecord to);
   void CenterLine(PointRecord from, PointRecord to);
+  /// The edge of what lies under something else.
+  void HiddenLine(PointRecord from, PointRecord to);
+  /// From a text to what it tells about, among the dimensions.
+  void Leader(PointRecord from, PointRecord to);
   /// The drawing's dimensions, each measured between its points.
   void Dimensions();
-  /// In real size. `align` is "L", "C" or "R".
-  void Label(const std::string& text, PointRecord at, const char* align);
+  /// In real size. `align` is "L", "C" or "R", `rotation` whole degrees; without a height in TextHeight.
+  void Label(const std::string& text, PointRecord at, const char* align, std::optional<double> height = {},
+             int rotation = 0);
   /// Twice as high as the texts, centred over all that was written.
   void Title(const std::string& text);
   /// Right of all that was written, the first row at the level of `first`.
@@ -41,9 +46,12 @@ class DxfForm {
   double Grown(double distance) const { return distance / board_.DrawScale * growth_; }
   double TextHeight() const { return textHeight_; }
   double Bottom() const { return bottom_; }
+  /// The lowest of what is written so far, in the file's own lettering.
+  double LowestWritten() const { return written_.IsEmpty() ? 0 : written_.Min.Y; }
 
  private:
   void Cover(PointRecord point);
+  void Write(PointRecord from, PointRecord to, const char* layer);
   void Aligned(const DrawnDimension& dimension);
   void Horizontal(const DrawnDimension& dimension);
   void Vertical(const DrawnDimension& dimension);
@@ -53,6 +61,7 @@ class DxfForm {
   double textHeight_;
   double growth_ = 1;
   double right_, top_, bottom_;
+  DxfExtents written_;
 };
 
 }  // namespace pitchcraft

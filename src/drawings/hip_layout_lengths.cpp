@@ -51,18 +51,13 @@ HipPlanDrafter::FootLettering HipPlanDrafter::ChooseFootLettering(const HipLayou
   return {std::min(full, 2 * fitting), 2};
 }
 
-std::string HipPlanDrafter::FootText(const LaidRafter& rafter) const {
-  if (!rafter.IsJack()) return rafter.Label;
-  return rafter.Length ? board_.LengthText(*rafter.Length) : std::string();
-}
-
 void HipPlanDrafter::WriteFeetOf(HipRoofFace face, const HipLayout& layout, const FootLettering& lettering) {
   std::vector<const LaidRafter*> rafters;
   double longest = 0;
   for (const LaidRafter& rafter : layout.Rafters) {
     if (rafter.Face != face) continue;
     rafters.push_back(&rafter);
-    longest = std::max(longest, board_.WidthOf(FootText(rafter), lettering.Height));
+    longest = std::max(longest, board_.WidthOf(FootText(rafter, board_.LengthText), lettering.Height));
   }
   for (std::size_t at = 0; at < rafters.size(); ++at) {
     const double foot = Units(rafters[at]->Place);
@@ -72,7 +67,7 @@ void HipPlanDrafter::WriteFeetOf(HipRoofFace face, const HipLayout& layout, cons
       place = std::max(place, Units(rafters[1]->Place) + lettering.LeastPitch());
     }
     const double row = at % 2 == 1 && lettering.Rows == 2 ? longest + lettering.Height : 0;
-    WriteFoot(face, foot, place, FootText(*rafters[at]), row, lettering);
+    WriteFoot(face, foot, place, FootText(*rafters[at], board_.LengthText), row, lettering);
   }
 }
 

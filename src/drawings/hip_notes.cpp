@@ -3,6 +3,9 @@
 #include <array>
 #include <cmath>
 
+#include "core/number_text.h"
+#include "drawings/lettering.h"
+
 namespace pitchcraft {
 namespace {
 
@@ -90,6 +93,19 @@ std::string ScreenText(const HipNote& note, const LengthTextFunction& lengthText
 
 std::string ExportText(const HipNote& note, const LengthTextFunction& lengthText) {
   return Told(kExportIndent, WordingOf(note.Kind).Export, note, lengthText);
+}
+
+std::string FootText(const LaidRafter& rafter, const LengthTextFunction& lengthText) {
+  if (!rafter.IsJack()) return rafter.Label;
+  return rafter.Length ? lengthText(*rafter.Length) : std::string();
+}
+
+std::string MainSlopeText(const CRafter& rafter, bool riseOverRun) {
+  return std::string(Trimmed(SlopeText(rafter.Pitch, rafter.degrees, riseOverRun)));
+}
+
+std::string EndSlopeText(const CRafter& rafter, bool riseOverRun) {
+  return std::string(Trimmed(SlopeText(rafter.HipEndPitch, rafter.HipEndDegrees, riseOverRun)));
 }
 
 }  // namespace pitchcraft

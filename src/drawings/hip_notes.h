@@ -1,5 +1,5 @@
-// What a hip layout tells beside its figure: the rules that it follows, in one order for screen, paper and
-// DXF.
+// What plan and layout of a hip roof tell in words, the same on screen, on paper and in DXF: slopes, what
+// stands at a rafter's foot, and the rules that the layout follows, in one order.
 #pragma once
 
 #include <functional>
@@ -40,5 +40,12 @@ using LengthTextFunction = std::function<std::string(double)>;
 std::string ScreenText(const HipNote& note, const LengthTextFunction& lengthText);
 /// As a DXF file holds it; some of its wording is its own.
 std::string ExportText(const HipNote& note, const LengthTextFunction& lengthText);
+
+/// The name of a common, the length of a jack; nothing for a jack without one.
+std::string FootText(const LaidRafter& rafter, const LengthTextFunction& lengthText);
+
+/// Rise over run, or degrees.
+std::string MainSlopeText(const CRafter& rafter, bool riseOverRun);
+std::string EndSlopeText(const CRafter& rafter, bool riseOverRun);
 
 }  // namespace pitchcraft

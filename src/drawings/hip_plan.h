@@ -1,9 +1,12 @@
-// The end of a hip roof from above: its plan, and the layout of its rafters.
+// The end of a hip roof from above: its plan, and the layout of its rafters, on screen, on paper and as DXF
+// drawings.
 #pragma once
 
 #include "core/rafter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/drawing_context.h"
+#include "drawings/printed_sheet.h"
+#include "output/dxf_writer.h"
 
 namespace pitchcraft {
 
@@ -14,5 +17,16 @@ void DrawHipPlan(DraftingBoard& board, const CRafter& rafter, const DrawingConte
 /// The same with each common and jack, the jacks' lengths at their feet and the rules of the layout. Raises
 /// the error of LayOutHip, too.
 void DrawHipLayout(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+
+/// Draws for paper and prints the sheet.
+void PrintHipPlan(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
+void PrintHipLayout(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
+
+/// Writes the roof whose drawing the board holds, in real size, to the fraction of a unit that the layout is
+/// worked out to.
+void ExportHipPlan(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                   const PrintContext& context);
+void ExportHipLayout(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                     const PrintContext& context);
 
 }  // namespace pitchcraft

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
-#include "core/number_text.h"
 #include "core/run_time_error.h"
 #include "drawing/text_align.h"
 #include "drawings/drawing_measures.h"
+#include "drawings/hip_notes.h"
 #include "drawings/lettering.h"
 
 namespace pitchcraft {
@@ -78,12 +78,14 @@ void HipPlanDrafter::DrawOutline(const HipOutline& outline) {
   pts(7) = {wall, Units(outline.EndOverhang)};
   pts(8) = {width - wall, pts(7).Y};
   pts(9) = {width - wall, top};
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   board_.Line(kLeftCorner, kRightCorner);
   board_.Line(kRightCorner, kPeak);
   board_.Line(kPeak, kLeftCorner);
   board_.Line(kPeak, kRidgeEnd);
   board_.Line(kLeftCorner, kLeftEaveEnd);
   board_.Line(kRightCorner, kRightEaveEnd);
+  board_.DrawFX.SetDrawWidth(0);
   board_.DrawFX.SetDrawStyle(kDashed);
   for (int wallPoint = 6; wallPoint < 9; ++wallPoint) board_.Line(wallPoint, wallPoint + 1);
   board_.DrawFX.SetDrawStyle(0);
@@ -93,7 +95,9 @@ void HipPlanDrafter::DrawLastCommon(const HipOutline& outline) {
   const double y = Units(outline.LastCommonPlace());
   board_.Pts(kMainCommonFoot) = {0, y};
   board_.Pts(kMainCommonFoot + 1) = {X(kPeak), y};
+  board_.DrawFX.SetDrawWidth(context_.LineWidth);
   board_.Line(kMainCommonFoot, kMainCommonFoot + 1);
+  board_.DrawFX.SetDrawWidth(0);
 }
 
 /// The left half stands for the whole end: the right half holds what is written into it.
@@ -116,16 +120,13 @@ void HipPlanDrafter::DrawRafters(const HipLayout& layout) {
 /// The main slope stands right of the ridge, above the dimension's extension line that runs out from the
 /// peak; the slope of the end above its eave.
 void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
-  const auto text = [this](const std::string& pitch, double degrees) {
-    return std::string(Trimmed(SlopeText(pitch, degrees, context_.RiseOverRun)));
-  };
   const double base = Y(kPeak) + Twips(kGap);
   const double middle = (X(kPeak) + X(9)) / 2;
-  WriteWhereClear(text(rafter_.Pitch, rafter_.degrees), {{X(kRightCorner) * 0.75, base}, {middle, base}},
-                  kAlignCenterBase);
+  WriteWhereClear(MainSlopeText(rafter_, context_.RiseOverRun),
+                  {{X(kRightCorner) * 0.75, base}, {middle, base}}, kAlignCenterBase);
   slopeLabelTop_ = base + Twips(kSlopeText * kCapitalPerCell);
   const double wall = Y(7) + Twips(kClear);
-  WriteWhereClear(text(rafter_.HipEndPitch, rafter_.HipEndDegrees),
+  WriteWhereClear(EndSlopeText(rafter_, context_.RiseOverRun),
                   {{endX, Y(kPeak) / 4}, {endX, wall}, {endX, Y(kPeak) / 2}}, endAlign);
   board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
 }

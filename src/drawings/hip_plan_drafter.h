@@ -33,7 +33,6 @@ class HipPlanDrafter {
   void WriteFeetOf(HipRoofFace face, const HipLayout& layout, const FootLettering& lettering);
   void WriteFoot(HipRoofFace face, double foot, double at, const std::string& text, double away,
                  const FootLettering& lettering);
-  std::string FootText(const LaidRafter& rafter) const;
   void WriteNotes();
 
   double Units(double length) const { return length * board_.DrawScale; }

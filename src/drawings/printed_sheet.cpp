@@ -80,6 +80,13 @@ void PrintRows(Printer& page, const PlacedColumns& columns) {
 
 }  // namespace
 
+std::vector<std::string> Joined(const SheetColumns& columns) {
+  std::vector<std::string> rows;
+  for (const std::vector<std::string>& column : columns)
+    rows.insert(rows.end(), column.begin(), column.end());
+  return rows;
+}
+
 std::string FourDecimals(double degrees) {
   if (!std::isfinite(degrees)) return PlainText(degrees);
   std::string text = PlainText(RoundTo(degrees, 4));

@@ -28,6 +28,9 @@ struct PrintContext {
 /// The rows of a sheet, column by column.
 using SheetColumns = std::array<std::vector<std::string>, 3>;
 
+/// All rows below each other.
+std::vector<std::string> Joined(const SheetColumns& columns);
+
 /// The top line: the product at the left, the project in the middle, the date at the right. A name that is
 /// too long for its place is cut.
 void PrintHeader(Printer& page, const PrintContext& context);

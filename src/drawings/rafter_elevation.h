@@ -20,9 +20,13 @@ void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const Dr
 
 /// Draws the rafter for paper and prints its sheet: the measures that it is cut by, under the drawing.
 void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
+void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const CRafter& rafter,
+                            const PrintContext& context);
 
 /// Writes the rafter that the board holds since its last drawing, in real size.
 void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
                   const PrintContext& context);
+void ExportBastardHipRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                            const PrintContext& context);
 
 }  // namespace pitchcraft

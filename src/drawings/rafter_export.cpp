@@ -36,10 +36,8 @@ void ExportEndView(DxfForm& form, const DraftingBoard& board, const EndLabels& l
   label(labels.Ridge, form.Real(0).X + half, "L");
 }
 
-}  // namespace
-
-void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
-                  const PrintContext& context) {
+void ExportElevation(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                     const PrintContext& context, const RafterSheet& sheet) {
   const ElevationMember member = ChooseElevationMember(rafter, context.Drawing);
   PointArray points = board.Pts;
   const ElevationGeometry geometry =
@@ -60,12 +58,20 @@ void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter&
     form.Label(WithoutDegreeSign(AngleText(geometry.TailAngle)), {tail.X - gap, tail.Y - gap}, "R");
   }
   ExportEndView(form, board, EndLabelsOf(rafter.RafterType, member));
-  form.Title(RafterTitle(rafter, context));
-  std::vector<std::string> rows;
-  for (const std::vector<std::string>& column : RafterRows(rafter, context)) {
-    rows.insert(rows.end(), column.begin(), column.end());
-  }
-  form.Block(rows, 0);
+  form.Title(sheet.Title);
+  form.Block(Joined(sheet.Rows), 0);
+}
+
+}  // namespace
+
+void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                  const PrintContext& context) {
+  ExportElevation(writer, board, rafter, context, RafterSheetOf(rafter, context));
+}
+
+void ExportBastardHipRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+                            const PrintContext& context) {
+  ExportElevation(writer, board, rafter, context, BastardHipSheetOf(rafter, context));
 }
 
 }  // namespace pitchcraft

@@ -32,6 +32,9 @@ constexpr TitleRow kTitles[] = {
     {roof::kDutchHip, RafterType::kCommon, "Dutch Hip Roof - Common Rafter"},
     {roof::kUnequalSpanValley, RafterType::kShortValley, "Unequal Span Valley - Short Valley Rafter"},
     {roof::kUnequalSpanValley, RafterType::kLongValley, "Unequal Span Valley - Long Valley Rafter"},
+    {roof::kBastardHip, RafterType::kCommon, "Bastard Hip Roof - Common Rafter"},
+    {roof::kBastardHip, RafterType::kHipEndCommon, "Bastard Hip Roof - Hip End Common Rafter"},
+    {roof::kBastardHip, RafterType::kBastardHip, "Bastard Hip Roof - Bastard Hip Rafter"},
 };
 
 std::string TitleOf(int roofType, RafterType type, std::size_t row) {
@@ -45,9 +48,9 @@ std::string TitleOf(int roofType, RafterType type, std::size_t row) {
   return title == nullptr ? "Rafter" : title;
 }
 
-class RafterSheet {
+class RowBuilder {
  public:
-  RafterSheet(const CRafter& rafter, const PrintContext& context)
+  RowBuilder(const CRafter& rafter, const PrintContext& context)
       : rafter_(rafter), context_(context), fields_(context.Fields), row_(context.Row) {}
 
   SheetColumns Columns() const {
@@ -56,6 +59,15 @@ class RafterSheet {
       case SheetFamily::kValley: return {Commons("Common "), ValleyRun(), Valley()};
       default: return {Commons(""), Lumber(nullptr), Common()};
     }
+  }
+
+  SheetColumns BastardHipColumns() const {
+    Rows allowances{Length("Ridge Allowance", rafter_.RidgeAllowance),
+                    Length("Hip End Ridge Allowance", rafter_.HipEndRidgeAllowance),
+                    Length("Bastard Hip Ridge Allowance", rafter_.HipRidgeAllowance)};
+    const Rows lumber = Lumber("Hip");
+    allowances.insert(allowances.end(), lumber.begin(), lumber.end());
+    return {BastardHipRuns(), allowances, BastardHipNotches()};
   }
 
  private:
@@ -125,6 +137,24 @@ class RafterSheet {
     return rows;
   }
 
+  Rows BastardHipRuns() const {
+    return {Row("Common Rafter Run", fields_.FtSpan[row_]),
+            Row("Common Overhang", fields_.FtOverhang[row_]),
+            Length("Hip End Common Run", rafter_.HipEndSpan),
+            Length("Hip End Overhang", rafter_.HipEndOverhang),
+            Length("Hip Rafter Run", rafter_.HipValSpan),
+            Length("Hip Rafter Overhang", rafter_.HipValOverhang),
+            SlopeRow("Main Slope", rafter_.Pitch.Stored(), rafter_.degrees),
+            SlopeRow("Hip End Slope", rafter_.HipEndPitch.Stored(), rafter_.HipEndDegrees),
+            SlopeRow("Hip Rafter Slope", rafter_.HipPitch.Stored(), rafter_.HipDegrees)};
+  }
+
+  Rows BastardHipNotches() const {
+    return {Length("Common Heel", rafter_.CommonHeel),  Length("Common Seat", rafter_.CommonSeat),
+            Length("Hip End Seat", rafter_.HipEndSeat), Length("Hip Heel", rafter_.HipHeel),
+            Length("Hip Seat", rafter_.HipValSeat),     Length("Hip Drop", rafter_.HipDrop)};
+  }
+
   const CRafter& rafter_;
   const PrintContext& context_;
   const Sheet& fields_;
@@ -133,17 +163,26 @@ class RafterSheet {
 
 }  // namespace
 
-std::string RafterTitle(const CRafter& rafter, const PrintContext& context) {
-  return TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row);
+RafterSheet RafterSheetOf(const CRafter& rafter, const PrintContext& context) {
+  return {TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row),
+          RowBuilder(rafter, context).Columns()};
 }
 
-SheetColumns RafterRows(const CRafter& rafter, const PrintContext& context) {
-  return RafterSheet(rafter, context).Columns();
+RafterSheet BastardHipSheetOf(const CRafter& rafter, const PrintContext& context) {
+  return {TitleOf(roof::kBastardHip, rafter.RafterType, 0), RowBuilder(rafter, context).BastardHipColumns()};
 }
 
 void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
   DrawRafter(board, rafter, context.Drawing);
-  PrintSheet(page, context, board.MetaCanvas, RafterTitle(rafter, context), RafterRows(rafter, context));
+  const RafterSheet sheet = RafterSheetOf(rafter, context);
+  PrintSheet(page, context, board.MetaCanvas, sheet.Title, sheet.Rows);
+}
+
+void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const CRafter& rafter,
+                            const PrintContext& context) {
+  DrawBastardHipRafters(board, rafter, context.Drawing);
+  const RafterSheet sheet = BastardHipSheetOf(rafter, context);
+  PrintSheet(page, context, board.MetaCanvas, sheet.Title, sheet.Rows);
 }
 
 }  // namespace pitchcraft

@@ -7,10 +7,14 @@
 
 namespace pitchcraft {
 
-/// "Hip Roof - Hip Rafter".
-std::string RafterTitle(const CRafter& rafter, const PrintContext& context);
+struct RafterSheet {
+  std::string Title;  ///< "Hip Roof - Hip Rafter"
+  SheetColumns Rows;  ///< the measures that the rafter is cut by
+};
 
-/// The measures that the rafter is cut by, in three columns.
-SheetColumns RafterRows(const CRafter& rafter, const PrintContext& context);
+RafterSheet RafterSheetOf(const CRafter& rafter, const PrintContext& context);
+/// For main common, hip end common and hip of a roof whose end has a slope of its own: each names its member
+/// and states the measures of all three.
+RafterSheet BastardHipSheetOf(const CRafter& rafter, const PrintContext& context);
 
 }  // namespace pitchcraft

@@ -13,6 +13,11 @@ enum class DxfUnits { kInch, kMillimetre };
 
 inline constexpr int kDxfByLayer = 256;
 
+inline constexpr const char* kDxfPlainLayer = "0";
+inline constexpr const char* kDxfCenterLayer = "CENTER";
+inline constexpr const char* kDxfHiddenLayer = "HIDDEN";
+inline constexpr const char* kDxfDimensionLayer = "DIMENSIONS";
+
 struct DxfPoint {
   double X = 0;
   double Y = 0;

@@ -16,9 +16,6 @@ struct DxfFileStyle {
   DxfDimensionStyle Dimensions;
 };
 
-inline constexpr const char* kDxfCenterLayer = "CENTER";
-inline constexpr const char* kDxfDimensionLayer = "DIMENSIONS";
-
 /// A whole file of release 12. Raises Overflow for a figure that is none as a Single.
 std::string DxfFile(const DxfDrawing& drawing, const DxfFileStyle& style);
 

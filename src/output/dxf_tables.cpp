@@ -9,6 +9,7 @@ namespace pitchcraft {
 namespace {
 
 constexpr int kWhite = 7;
+constexpr const char* kHiddenLineType = "HIDDEN";
 // One dash and dot of the line type CENTER are 2 units long; at this scale 2 feet of a building.
 constexpr double kInchLineScale = 12;
 constexpr double kMillimetreLineScale = 300;
@@ -139,7 +140,7 @@ void WriteLayers(DxfPairs& pairs, const std::vector<std::string>& layers, int di
     const bool isCenter = layer == kDxfCenterLayer;
     BeginEntry(pairs, "LAYER", layer);
     pairs.Whole(62, isCenter || layer == kDxfDimensionLayer ? dimColor : kWhite);
-    pairs.Name(6, isCenter ? "CENTER" : "CONTINUOUS");
+    pairs.Name(6, isCenter ? "CENTER" : layer == kDxfHiddenLayer ? kHiddenLineType : "CONTINUOUS");
   }
   EndTable(pairs);
 }
@@ -198,9 +199,11 @@ void WriteDxfTables(DxfPairs& pairs, const DxfFileStyle& style, const DxfExtents
                     const std::vector<std::string>& layers) {
   BeginDxfSection(pairs, "TABLES");
   WriteView(pairs, extents);
-  BeginTable(pairs, "LTYPE", 2);
+  const bool hidden = std::find(layers.begin(), layers.end(), kDxfHiddenLayer) != layers.end();
+  BeginTable(pairs, "LTYPE", hidden ? 3 : 2);
   WriteLineType(pairs, "CONTINUOUS", "Solid line", {});
   WriteLineType(pairs, "CENTER", "____ _ ____ _ ____ _ ____ _ ____", {1.25, -0.25, 0.25, -0.25});
+  if (hidden) WriteLineType(pairs, kHiddenLineType, "__ __ __ __ __ __ __ __ __ __", {0.25, -0.125});
   EndTable(pairs);
   WriteLayers(pairs, layers, style.Dimensions.Color);
   WriteTextStyle(pairs, TextHeightOf(style));

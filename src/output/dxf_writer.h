@@ -38,7 +38,8 @@ class CDxfWriter {
   /// How far the running tier lies from the object: DimOffset and one DimIncrement for each further tier.
   double DimTierDistance() const { return DimOffset + tier_ * DimIncrement; }
 
-  /// `layer` "CENTER" is for centre lines. Another name makes a layer of that name; none is layer 0.
+  /// `layer` "CENTER" is for centre lines, "HIDDEN" for what lies under something. Another name makes a layer
+  /// of that name; none is layer 0.
   void Line(Single x1, Single y1, Single x2, Single y2, std::optional<std::string_view> layer = {});
   /// A text on its base line, in TextHeight and TextAlign unless `height` is given; `rotation` is whole
   /// degrees, counter-clockwise. A text that is empty or not higher than 0 is not written.
