@@ -14,6 +14,7 @@ sheet    : core measure
 drawings : core measure drawing output sheet
 storage  : core measure sheet files
 document : core measure drawing output sheet drawings storage files
+ftcalc   : core measure Qt
 platform : core measure drawing output sheet drawings storage document files Qt
 shell    : core measure drawing output sheet drawings storage document platform files Qt
 cli      : core measure drawing output sheet drawings storage document platform files Qt

@@ -11,6 +11,7 @@ declare -A list=(
   [fuzz]="clang libclang-rt-14-dev"
   [bench]="libbenchmark-dev"
   [window]="xvfb"
+  [package]="dpkg-dev file"
   [readers]="python3-ezdxf librecad libwmf-bin libreoffice-draw poppler-utils"
 )
 

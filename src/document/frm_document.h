@@ -222,6 +222,12 @@ class frmDocument {
   void mnuMetric_Click(int = 0) { mnuImperial_Click(); }
   void mnuViewToolbar_Click(int = 0);
   void mnuViewStatusBar_Click(int = 0);
+  void mnuTools_Click(int = 0);
+  void mnuHelpcontents_Click(int = 0) { ShowHelp(HelpPlace::kContents); }
+  void mnuHelpGlossary_Click(int = 0) { ShowHelp(HelpPlace::kGlossary); }
+  void mnuHelpSearch_Click(int = 0) { ShowHelp(HelpPlace::kSearch); }
+  /// The help of a place; of kTopic that of the roof type.
+  void ShowHelp(HelpPlace place);
   void mnuDutchLedger_Click(int Index);
   void mnuHipLayoutCenter_Click(int = 0);
   void mnuHipLayoutCorners_Click(int = 0);

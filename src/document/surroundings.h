@@ -56,11 +56,31 @@ class PrintService {
   virtual std::string Today() = 0;
 };
 
+/// The feet-and-inches calculator, a program of its own.
+class CalculatorService {
+ public:
+  virtual ~CalculatorService() = default;
+  /// Starts it, or brings the running one to the front. False where it cannot be started.
+  virtual bool Open(bool metric) = 0;
+};
+
+enum class HelpPlace { kContents, kGlossary, kSearch, kTopic };
+
+/// The pages of help.
+class HelpService {
+ public:
+  virtual ~HelpService() = default;
+  /// `topic` is the number of the roof type's page. False where there are no pages.
+  virtual bool Show(HelpPlace place, int topic) = 0;
+};
+
 struct Surroundings {
   Dialogs& dialogs;
   KeyedStore& store;
   std::filesystem::path programFolder;  ///< holds the lists and the tips
   PrintService* printer = nullptr;      ///< none where nothing can be printed
+  CalculatorService* calculator = nullptr;
+  HelpService* help = nullptr;
 };
 
 }  // namespace pitchcraft

@@ -8,6 +8,8 @@
 #include "platform/font_setup.h"
 #include "platform/program_folder.h"
 #include "platform/qt_store.h"
+#include "shell/calculator_starter.h"
+#include "shell/help_viewer.h"
 #include "shell/main_window.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
@@ -15,9 +17,9 @@
 namespace {
 
 constexpr const char* kHelp =
-    "Usage: pitchcraft [--help] [--version]\n"
+    "Usage: pitchcraft [--help] [--version] [PROJECT.pcf]\n"
     "\n"
-    "Opens the window of Pitchcraft, the roof-framing calculator.\n"
+    "Opens the window of Pitchcraft, the roof-framing calculator, with the project where one is named.\n"
     "For scripts and for machines without a display there is pitchcraft-cli.\n";
 
 constexpr const char* kNoDisplay =
@@ -62,14 +64,30 @@ int main(int argc, char** argv) {
   std::setlocale(LC_NUMERIC, "C");
   QCoreApplication::setOrganizationName("Pitchcraft");
   QCoreApplication::setApplicationName("Pitchcraft");
+  QGuiApplication::setDesktopFileName("pitchcraft");
   pitchcraft::EnsureDrawingFont();
 
   pitchcraft::QtDialogs dialogs;
   pitchcraft::QtStore store;
   pitchcraft::QtPrinter printer(dialogs);
-  pitchcraft::MainWindow window({dialogs, store, pitchcraft::ProgramFolder(), &printer});
+  pitchcraft::Surroundings around{dialogs, store, pitchcraft::ProgramFolder(), &printer};
+  const QString own = QCoreApplication::applicationDirPath();
+  pitchcraft::CalculatorStarter calculator({QString::fromStdString(around.programFolder.string()), own});
+  around.calculator = &calculator;
+  pitchcraft::HelpViewer help(pitchcraft::HelpFolder(own));
+  around.help = &help;
+  pitchcraft::MainWindow window(around);
   dialogs.SetOwner(&window);
   printer.SetOwner(&window);
   window.Open();
+  // The toolkit has taken its own arguments out.
+  const QStringList arguments = QCoreApplication::arguments().mid(1);
+  for (const QString& argument : arguments) {
+    if (argument.startsWith('-')) continue;
+    // A message of its own needs the application to run.
+    QMetaObject::invokeMethod(
+        &window, [&window, argument] { window.OpenProject(argument); }, Qt::QueuedConnection);
+    break;
+  }
   return QApplication::exec();
 }

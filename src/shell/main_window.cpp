@@ -2,10 +2,15 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
+#include "shell/entry_box.h"
 #include "shell/icons.h"
 #include "shell/twips.h"
 
@@ -18,6 +23,14 @@ constexpr int kMaximized = 2;
 
 // Twips inside a screen: a window whose corner stands nearer to the edge leaves nothing to take hold of.
 constexpr int kReach = 500;
+
+/// The one project that is dragged; empty where it is anything else.
+QString DraggedProject(const QMimeData& dragged) {
+  const QList<QUrl> urls = dragged.urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+  const QString path = urls.front().toLocalFile();
+  return QFileInfo(path).suffix().compare("pcf", Qt::CaseInsensitive) == 0 ? path : QString();
+}
 
 }  // namespace
 
@@ -41,6 +54,10 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   setMinimumSize(ToPixels(kMinimumWidth), ToPixels(kMinimumHeight));
   resize(ToPixels(Document().Window.Width), ToPixels(Document().Window.Height));
   ChainTabOrder();
+  TakeDroppedProjects();
+  auto* help = new QShortcut(QKeySequence::HelpContents, this);
+  connect(help, &QShortcut::activated, this,
+          [this] { session_.Do([this](Actions&) { Document().ShowHelp(HelpPlace::kTopic); }); });
   connect(&session_, &Session::Changed, this, &MainWindow::Sync);
   // The action that asks for it comes to its end first.
   connect(this, &MainWindow::CloseAsked, this, &QWidget::close, Qt::QueuedConnection);
@@ -96,6 +113,34 @@ void MainWindow::Open() {
     }
     show();
   }
+}
+
+// --- Projects from outside
+// ------------------------------------------------------------------------------------------
+
+void MainWindow::TakeDroppedProjects() {
+  setAcceptDrops(true);
+  // A field would take the file's name for a text.
+  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
+}
+
+void MainWindow::OpenProject(const QString& path) {
+  EntryBox::CommitFocused();
+  const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
+  session_.Do([&](Actions&) { Document().OpenProject(file); });
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedProject(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// The program that it was dragged from waits until the drop is taken, so what opening has to say comes after.
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString path = DraggedProject(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  QMetaObject::invokeMethod(
+      this, [this, path] { OpenProject(path); }, Qt::QueuedConnection);
 }
 
 // --- The document's state into the widgets

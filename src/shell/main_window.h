@@ -23,6 +23,8 @@ class MainWindow : public QWidget {
   frmDocument& Document() { return session_.Document(); }
   /// Shows the window where and how it stood when it was last closed.
   void Open();
+  /// Opens a project that came from outside: the command line, or dropped on the window.
+  void OpenProject(const QString& path);
 
  signals:
   void CloseAsked();
@@ -32,6 +34,8 @@ class MainWindow : public QWidget {
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void Sync();
@@ -40,6 +44,7 @@ class MainWindow : public QWidget {
   void PlaceParts();
   void FitToScreens();
   void ChainTabOrder();
+  void TakeDroppedProjects();
   void GiveFocus();
   void FollowSize();
   template <typename Action>

@@ -1,0 +1,73 @@
+// The calculator and the help as the document asks for them.
+#include "document_test.h"
+
+namespace pitchcraft {
+namespace {
+
+struct Services final : CalculatorService, HelpService {
+  bool Open(bool metric) override { return calculators.push_back(metric), there; }
+  bool Show(HelpPlace place, int topic) override { return places.emplace_back(place, topic), there; }
+  bool there = true;
+  std::vector<bool> calculators;
+  std::vector<std::pair<HelpPlace, int>> places;
+};
+
+class SidePrograms : public testing::Test {
+ protected:
+  SidePrograms() {
+    Surroundings around = surroundings_.Get();
+    around.calculator = &services_;
+    around.help = &services_;
+    document_.emplace(around);
+    document_->Form_Load();
+  }
+  NullSurroundings surroundings_;
+  Services services_;
+  std::optional<frmDocument> document_;
+};
+
+TEST_F(SidePrograms, CalculatorHasTheUnitsOfTheDocument) {
+  EXPECT_TRUE(document_->menus.mnuTools.Enabled);
+  document_->ClickMenu(document_->menus.mnuTools);
+  document_->mnuMetric_Click();
+  document_->ClickMenu(document_->menus.mnuTools);
+  EXPECT_EQ(services_.calculators, (std::vector<bool>{false, true}));
+  EXPECT_TRUE(surroundings_.dialogs.messages.empty());
+}
+
+TEST_F(SidePrograms, HelpOpensAtItsPlace) {
+  Menus& menus = document_->menus;
+  for (MenuItem* item : {&menus.mnuHelpcontents, &menus.mnuHelpGlossary, &menus.mnuHelpSearch}) {
+    EXPECT_TRUE(item->Enabled) << item->Name;
+    document_->ClickMenu(*item);
+  }
+  document_->tbToolBar_ButtonClick("Octagon");
+  document_->ShowHelp(HelpPlace::kTopic);
+  EXPECT_EQ(services_.places, (std::vector<std::pair<HelpPlace, int>>{{HelpPlace::kContents, 60},
+                                                                      {HelpPlace::kGlossary, 60},
+                                                                      {HelpPlace::kSearch, 60},
+                                                                      {HelpPlace::kTopic, 410}}));
+  EXPECT_TRUE(surroundings_.dialogs.messages.empty());
+}
+
+TEST_F(SidePrograms, WhatIsNotThereIsAMessage) {
+  services_.there = false;
+  document_->mnuTools_Click();
+  document_->mnuHelpcontents_Click();
+  ASSERT_EQ(surroundings_.dialogs.messages.size(), 2U);
+  EXPECT_NE(surroundings_.dialogs.messages[0].second.find("ftcalc"), std::string::npos);
+  EXPECT_EQ(surroundings_.dialogs.messages[1].second,
+            "Unable to display Help Contents. There is no Help associated with this project.");
+}
+
+TEST(NoSidePrograms, AreMessages) {
+  NullSurroundings surroundings;
+  frmDocument document(surroundings.Get());
+  document.Form_Load();
+  document.mnuTools_Click();
+  document.mnuHelpSearch_Click();
+  EXPECT_EQ(surroundings.dialogs.messages.size(), 2U);
+}
+
+}  // namespace
+}  // namespace pitchcraft
