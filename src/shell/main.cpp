@@ -11,6 +11,7 @@
 #include "shell/main_window.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
+#include "shell/splash.h"
 
 namespace {
 
@@ -64,12 +65,21 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName("Pitchcraft");
   pitchcraft::EnsureDrawingFont();
 
+  // The window is made behind it.
+  pitchcraft::Splash splash(PITCHCRAFT_VERSION);
+  splash.show();
+  QCoreApplication::processEvents();
+
   pitchcraft::QtDialogs dialogs;
   pitchcraft::QtStore store;
   pitchcraft::QtPrinter printer(dialogs);
-  pitchcraft::MainWindow window({dialogs, store, pitchcraft::ProgramFolder(), &printer});
+  pitchcraft::MainWindow window(
+      {dialogs, store, pitchcraft::ProgramFolder(), &printer, pitchcraft::DataFolder()});
   dialogs.SetOwner(&window);
   printer.SetOwner(&window);
+  dialogs.OnApplied([&window] { window.ShowState(); });
+  splash.Wait();
   window.Open();
+  window.ShowStartForms();
   return QApplication::exec();
 }

@@ -98,6 +98,10 @@ void MainWindow::Open() {
   }
 }
 
+void MainWindow::ShowStartForms() {
+  session_.Do([this](Actions&) { Document().ShowStartForms(); });
+}
+
 // --- The document's state into the widgets
 // --------------------------------------------------------------------------
 

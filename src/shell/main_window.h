@@ -23,6 +23,10 @@ class MainWindow : public QWidget {
   frmDocument& Document() { return session_.Document(); }
   /// Shows the window where and how it stood when it was last closed.
   void Open();
+  /// Shows the document's state again, also while a form is open over the window.
+  void ShowState() { Sync(); }
+  /// The forms of a start.
+  void ShowStartForms();
 
  signals:
   void CloseAsked();
