@@ -6,6 +6,7 @@
 #include "cli/dump.h"
 #include "cli/script_line.h"
 #include "core/number_text.h"
+#include "document/forms.h"
 
 namespace pitchcraft {
 namespace {
@@ -41,6 +42,24 @@ struct SwitchVerb {
 constexpr SwitchVerb kSwitchVerbs[] = {{"check", "on", "off", &Actions::Check},
                                        {"spin", "up", "down", &Actions::Spin}};
 
+struct FormReply {
+  ScriptDialogs& dialogs;
+
+  void operator()(IncrementForm* form) const {
+    const auto reply = dialogs.Answer(IncrementForm::kName, IncrementForm::kTitle, form->FtIncrement.Text());
+    if (!reply) return;
+    form->FtIncrement.SetText(*reply);
+    form->Accepted = true;
+  }
+  void operator()(OptionsForm* form) const {
+    if (dialogs.Answer(OptionsForm::kName, OptionsForm::kTitle, "")) form->Apply();
+  }
+  template <typename Form>
+  void operator()(Form*) const {
+    dialogs.Answer(Form::kName, Form::kTitle, "");
+  }
+};
+
 }  // namespace
 
 void PrintEvent(std::ostream& output, const Json& event) {
@@ -62,6 +81,8 @@ std::optional<std::string> ScriptDialogs::SaveFile(const FileDialog& dialog) {
 std::optional<std::string> ScriptDialogs::Input(const InputBox& box) {
   return Answer("input", box.Title, box.Name);
 }
+
+void ScriptDialogs::ShowForm(const AnyForm& form) { std::visit(FormReply{*this}, form); }
 
 std::optional<std::string> ScriptDialogs::Answer(const char* kind, const std::string& title,
                                                  const std::string& name) {

@@ -33,6 +33,8 @@ class ScriptDialogs final : public Dialogs {
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   std::optional<std::string> Input(const InputBox& box) override;
+  /// A reply closes a form with its OK, in the field where it has one.
+  void ShowForm(const AnyForm& form) override;
 
   /// Reports that a dialog came up, and takes the reply to it.
   std::optional<std::string> Answer(const char* kind, const std::string& title, const std::string& name);

@@ -76,10 +76,15 @@ void frmDocument::ReadSettingsIntoVariables() {
   Window = {stored.MainLeft, stored.MainTop, stored.MainWidth, stored.MainHeight};
 }
 
+// A field that is switched off stays grey, and one that was calculated keeps the colour that says so.
 void frmDocument::ColorFields() {
   sheet.ForEachMeasure([this](auto& field) {
-    field.ForeColor = CtlForeColor;
     field.BackColor = CtlBackColor;
+    if (!field.Enabled && field.ForeColor == kSystemGrayTextColor) return;
+    field.ForeColor = CtlForeColor;
+    if constexpr (requires { field.Calculated; }) {
+      if (field.Calculated) field.ForeColor = CtlCalcColor;
+    }
   });
 }
 

@@ -29,6 +29,7 @@
 namespace pitchcraft {
 
 class IniText;
+enum class OptionsPage;
 
 /// The keys that a field's handler tells apart.
 inline constexpr int kKeyTab = 9;
@@ -234,12 +235,19 @@ class frmDocument {
   void mnuHipLayoutCornersFlush_Click(int = 0);
   void mnuHipLayoutJackMeasurement_Click(int = 0);
   void mnuHipLayoutOverhangsEqual_Click(int = 0);
+  void mnuSpinIncrement_Click(int = 0);
   void mnuSpinCancel_Click(int = 0) {}  ///< the popup closes by itself
   void mnuGambrelRegular_Click(int = 0);
   void mnuGambrelCustom_Click(int = 0);
   void mnuGambrelPurlins_Click(int = 0);
   void mnuGambrelWallSupport_Click(int = 0);
   void mnuGambrelWallSupportRaised_Click(int = 0);
+  void mnuViewOptions_Click(int = 0);
+  void mnuFileDXFSettings_Click(int = 0);
+  void mnuHelpTips_Click(int = 0);
+  void mnuHelpAbout_Click(int = 0);
+  /// The forms of a start: what the user has not switched off. They belong to the window alone.
+  void ShowStartForms();
   void tbToolBar_ButtonClick(std::string_view key);
 
   // --- The mouse on a drawing
@@ -379,6 +387,13 @@ class frmDocument {
   /// A name without an extension gets that one, as the dialogs of a desktop do it.
   static std::string WithExtension(const std::string& path, const char* extension);
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
+
+  // Forms.
+  void ShowForm(const AnyForm& form);
+  void ShowOptions(OptionsPage page);
+  void FillOptions(OptionsForm& form) const;
+  void ApplyOptions(OptionsForm& form);
+  void TakeDxfTextsize(FtInText& field);
 
   // Settings commands.
   void SwitchUnits(bool metric);

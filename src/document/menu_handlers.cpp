@@ -72,6 +72,13 @@ constexpr MenuHandlerRow kMenuHandlers[] = {
     {&Menus::mnuPopup2GambrelWallSupport, &D::mnuGambrelWallSupport_Click},
     {&Menus::mnuGambrelWallSupportRaised, &D::mnuGambrelWallSupportRaised_Click},
     {&Menus::mnuPopup2GambrelWallSupportRaised, &D::mnuGambrelWallSupportRaised_Click},
+    {&Menus::mnuFileDXFSettings, &D::mnuFileDXFSettings_Click},
+    {&Menus::mnuPopUp1DXFSettings, &D::mnuFileDXFSettings_Click},
+    {&Menus::mnuPopUp2DXFSettings, &D::mnuFileDXFSettings_Click},
+    {&Menus::mnuViewOptions, &D::mnuViewOptions_Click},
+    {&Menus::mnuHelpTips, &D::mnuHelpTips_Click},
+    {&Menus::mnuHelpAbout, &D::mnuHelpAbout_Click},
+    {&Menus::mnuSpinIncrement, &D::mnuSpinIncrement_Click},
     {&Menus::mnuSpinCancel, &D::mnuSpinCancel_Click},
 };
 

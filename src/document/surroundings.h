@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <variant>
 
 #include "output/printed_page.h"
 #include "storage/keyed_store.h"
@@ -28,6 +29,14 @@ struct InputBox {
   std::string Name;  ///< that it offers
 };
 
+struct IncrementForm;
+struct AboutForm;
+struct OptionsForm;
+class DisclaimerForm;
+class TipForm;
+/// A form of the product; see document/forms.h.
+using AnyForm = std::variant<IncrementForm*, AboutForm*, DisclaimerForm*, TipForm*, OptionsForm*>;
+
 /// Boxes that speak to the person. The window gives real ones, the driver scripted ones, a test recording
 /// ones.
 class Dialogs {
@@ -39,6 +48,8 @@ class Dialogs {
   virtual std::optional<std::string> OpenFile(const FileDialog&) { return std::nullopt; }
   virtual std::optional<std::string> SaveFile(const FileDialog&) { return std::nullopt; }
   virtual std::optional<std::string> Input(const InputBox&) { return std::nullopt; }
+  /// Shows a form and returns when it was closed; what its buttons do is the form's.
+  virtual void ShowForm(const AnyForm&) {}
 };
 
 /// The printer: what it prints on, and where its sheets go.
@@ -79,6 +90,7 @@ struct Surroundings {
   KeyedStore& store;
   std::filesystem::path programFolder;  ///< holds the lists and the tips
   PrintService* printer = nullptr;      ///< none where nothing can be printed
+  std::filesystem::path dataFolder{};   ///< came with the program; serves where its folder has no such file
   CalculatorService* calculator = nullptr;
   HelpService* help = nullptr;
 };

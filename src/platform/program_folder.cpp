@@ -19,4 +19,10 @@ std::filesystem::path ProgramFolder() {
   return QDir(own).filesystemPath();
 }
 
+std::filesystem::path DataFolder() {
+  const QDir folder = QFileInfo(QFileInfo("/proc/self/exe").canonicalFilePath()).dir();
+  const QDir shared(folder.filePath("../share/pitchcraft"));
+  return (shared.exists() ? shared : folder).filesystemPath();
+}
+
 }  // namespace pitchcraft

@@ -9,4 +9,7 @@ namespace pitchcraft {
 /// driver have the same.
 std::filesystem::path ProgramFolder();
 
+/// What came with the program: beside the executable, or in share/pitchcraft next to its folder.
+std::filesystem::path DataFolder();
+
 }  // namespace pitchcraft

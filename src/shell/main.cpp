@@ -13,6 +13,7 @@
 #include "shell/main_window.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
+#include "shell/splash.h"
 
 namespace {
 
@@ -67,19 +68,28 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName("pitchcraft");
   pitchcraft::EnsureDrawingFont();
 
+  // The window is made behind it.
+  pitchcraft::Splash splash(PITCHCRAFT_VERSION);
+  splash.show();
+  QCoreApplication::processEvents();
+
   pitchcraft::QtDialogs dialogs;
   pitchcraft::QtStore store;
   pitchcraft::QtPrinter printer(dialogs);
   pitchcraft::Surroundings around{dialogs, store, pitchcraft::ProgramFolder(), &printer};
   const QString own = QCoreApplication::applicationDirPath();
   pitchcraft::CalculatorStarter calculator({QString::fromStdString(around.programFolder.string()), own});
+  around.dataFolder = pitchcraft::DataFolder();
   around.calculator = &calculator;
   pitchcraft::HelpViewer help(pitchcraft::HelpFolder(own));
   around.help = &help;
   pitchcraft::MainWindow window(around);
   dialogs.SetOwner(&window);
   printer.SetOwner(&window);
+  dialogs.OnApplied([&window] { window.ShowState(); });
+  splash.Wait();
   window.Open();
+  window.ShowStartForms();
   // The toolkit has taken its own arguments out.
   const QStringList arguments = QCoreApplication::arguments().mid(1);
   for (const QString& argument : arguments) {

@@ -143,6 +143,10 @@ void MainWindow::dropEvent(QDropEvent* event) {
       this, [this, path] { OpenProject(path); }, Qt::QueuedConnection);
 }
 
+void MainWindow::ShowStartForms() {
+  session_.Do([this](Actions&) { Document().ShowStartForms(); });
+}
+
 // --- The document's state into the widgets
 // --------------------------------------------------------------------------
 

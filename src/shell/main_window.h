@@ -25,6 +25,10 @@ class MainWindow : public QWidget {
   void Open();
   /// Opens a project that came from outside: the command line, or dropped on the window.
   void OpenProject(const QString& path);
+  /// Shows the document's state again, also while a form is open over the window.
+  void ShowState() { Sync(); }
+  /// The forms of a start.
+  void ShowStartForms();
 
  signals:
   void CloseAsked();

@@ -3,6 +3,9 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "shell/options_dialog.h"
+#include "shell/small_dialogs.h"
+
 namespace pitchcraft {
 namespace {
 
@@ -19,7 +22,20 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
+struct FormDialogs {
+  QWidget* owner;
+  const std::function<void()>& applied;
+
+  void operator()(IncrementForm* form) const { IncrementDialog(*form, owner).exec(); }
+  void operator()(AboutForm* form) const { AboutDialog(*form, owner).exec(); }
+  void operator()(DisclaimerForm* form) const { DisclaimerDialog(*form, owner).exec(); }
+  void operator()(TipForm* form) const { TipDialog(*form, owner).exec(); }
+  void operator()(OptionsForm* form) const { OptionsDialog(*form, applied, owner).exec(); }
+};
+
 }  // namespace
+
+void QtDialogs::ShowForm(const AnyForm& form) { std::visit(FormDialogs{owner_, applied_}, form); }
 
 void QtDialogs::MsgBox(const std::string& title, const std::string& text) {
   QMessageBox box(QMessageBox::Information, QString::fromStdString(title), QString::fromStdString(text),

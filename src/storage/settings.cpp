@@ -27,6 +27,8 @@ constexpr const char* kApplication = "Pitchcraft";
 // The choice of the tips stands under the name of the program's file, where the dialog of the tips keeps it.
 constexpr const char* kOptionsApplication = "pitchcraft";
 constexpr const char* kOptionsSection = "Options";
+constexpr const char* kShowTips = "Show Tips at Startup";
+constexpr const char* kShowDisclaimer = "ShowDisclaimer";
 
 const SettingRow kRows[] = {
     // section, key, where it is kept, when it is written
@@ -49,7 +51,7 @@ const SettingRow kRows[] = {
     {"Settings", "HipLayout", &Settings::HipLayout},
     {"Settings", "OverhangsEqual", &Settings::OverhangsEqual},
     {"Settings", "JackMeasurement", &Settings::JackMeasurement},
-    {"Settings", "ShowDisclaimer", &Settings::ShowDisclaimer, Written::kNever},
+    {"Settings", kShowDisclaimer, &Settings::ShowDisclaimer, Written::kNever},
     {"Colors", "CtlBackColor", &Settings::CtlBackColor},
     {"Colors", "CtlForeColor", &Settings::CtlForeColor},
     {"Colors", "CtlCalcColor", &Settings::CtlCalcColor},
@@ -64,7 +66,7 @@ const SettingRow kRows[] = {
     {"DXF", "Textsize", &Settings::DXFTextsize},
     {"DXF", "MetricTextsize", &Settings::DXFMetricTextsize},
     {"DXF", "DimTextsize", &Settings::DXFDimTextsize},
-    {kOptionsSection, "Show Tips at Startup", &Settings::ShowTipsAtStartup, Written::kNever},
+    {kOptionsSection, kShowTips, &Settings::ShowTipsAtStartup, Written::kNever},
 };
 
 const char* ApplicationOf(const SettingRow& row) {
@@ -127,6 +129,14 @@ void WriteSettings(const Settings& settings, KeyedStore& store) {
     const std::string text = std::visit([&](auto slot) { return TextOf(settings.*slot); }, row.slot);
     store.Set(ApplicationOf(row), row.section, row.key, text);
   }
+}
+
+void WriteShowDisclaimer(int value, KeyedStore& store) {
+  store.Set(kApplication, "Settings", kShowDisclaimer, TextOf(value));
+}
+
+void WriteShowTips(int value, KeyedStore& store) {
+  store.Set(kOptionsApplication, kOptionsSection, kShowTips, TextOf(value));
 }
 
 }  // namespace pitchcraft

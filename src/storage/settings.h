@@ -66,4 +66,8 @@ Settings ReadSettings(const KeyedStore& store);
 /// tips are not written.
 void WriteSettings(const Settings& settings, KeyedStore& store);
 
+/// The two that their forms write at once.
+void WriteShowDisclaimer(int value, KeyedStore& store);
+void WriteShowTips(int value, KeyedStore& store);
+
 }  // namespace pitchcraft

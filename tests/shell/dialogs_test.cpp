@@ -9,40 +9,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <functional>
 
+#include "dialog_hand.h"
 #include "shell/qt_dialogs.h"
 
 namespace pitchcraft {
 namespace {
-
-/// Waits for a dialog of that kind and acts on it; the watchdog leaves it to this hand.
-template <typename Dialog>
-class Hand {
- public:
-  explicit Hand(std::function<void(Dialog&)> action) {
-    qApp->setProperty("dialogIsExpected", true);
-    timer_.setInterval(1);
-    QObject::connect(&timer_, &QTimer::timeout, [this, action] {
-      QWidget* any = QApplication::activeModalWidget();
-      if (any == nullptr) return;
-      timer_.stop();
-      auto* dialog = qobject_cast<Dialog*>(any);
-      came_ = dialog != nullptr;
-      came_ ? action(*dialog) : static_cast<void>(any->close());
-    });
-    timer_.start();
-  }
-  ~Hand() {
-    EXPECT_TRUE(came_) << "no such dialog came up";
-    qApp->setProperty("dialogIsExpected", false);
-  }
-
- private:
-  QTimer timer_;
-  bool came_ = false;
-};
 
 class DialogsTest : public testing::Test {
  protected:

@@ -1,0 +1,169 @@
+// The small forms: increment, disclaimer, tips, about.
+#include "document/forms.h"
+
+#include <set>
+
+#include "form_dialogs.h"
+#include "project_test.h"
+
+namespace pitchcraft {
+namespace {
+
+class FormsTest : public ProjectTest {
+ protected:
+  FormsTest() { document.Form_Load(); }
+  void Click(const char* name) {
+    const Refusal refusal = actions.Click(name);
+    EXPECT_FALSE(refusal) << refusal.value_or("");
+  }
+  void Increment(const char* text, bool ok = true) {
+    dialogs.On<IncrementForm>([=, this](IncrementForm& form) {
+      offered = form.FtIncrement.Text();
+      form.FtIncrement.SetText(text);
+      form.Accepted = ok;
+    });
+    Click("mnuSpinIncrement");
+  }
+  std::string Tips(const std::string& bytes) { return Write("TIPOFDAY.TXT", bytes); }
+
+  FormDialogs dialogs;
+  MemoryStore store;
+  frmDocument document{{dialogs, store, folder}};
+  Actions actions{document};
+  std::string offered;
+};
+
+TEST_F(FormsTest, IncrementTakesWhatIsAboveNothing) {
+  Increment("1/2\"");
+  EXPECT_EQ(offered, "1/4\"");
+  EXPECT_EQ(double{document.Increment}, 0.5);
+  EXPECT_EQ(double{document.MetricIncrement}, 0.25) << "the other unit system has its own";
+  const double before = document.sheet.FtSpan[0].Value();
+  EXPECT_FALSE(actions.Spin("Spin(0)", true));
+  EXPECT_EQ(document.sheet.FtSpan[0].Value(), before + 0.5);
+}
+
+TEST_F(FormsTest, IncrementsThatStepNowhereAreNotTaken) {
+  for (const char* text : {"0", "", "-1", "x", "inf", "nan", "1e-60", "1e39", "1e300"}) {
+    Increment(text);
+    EXPECT_EQ(double{document.Increment}, 0.25) << text;
+  }
+  Increment("3", false);
+  EXPECT_EQ(double{document.Increment}, 0.25) << "cancelled";
+  Increment("1e30");
+  EXPECT_EQ(double{document.Increment}, double{Single(1e30)}) << "large, but a number";
+}
+
+TEST_F(FormsTest, MetricHasAnIncrementOfItsOwn) {
+  document.mnuMetric_Click();
+  Increment("5 mm");
+  EXPECT_EQ(offered, "0.25 mm");
+  EXPECT_EQ(double{document.MetricIncrement}, 5);
+  EXPECT_EQ(double{document.Increment}, 0.25);
+}
+
+TEST_F(FormsTest, DisclaimerStoresItsBoxAsItStands) {
+  struct Row {
+    const char* stored;
+    bool ticked;
+  };
+  for (const Row& row : {Row{"1", false}, Row{"0", true}, Row{"2", true}}) {
+    store.Set("Pitchcraft", "Settings", "ShowDisclaimer", row.stored);
+    EXPECT_EQ(DisclaimerForm(store).Ticked(), row.ticked) << row.stored;
+  }
+  DisclaimerForm form(store);
+  form.Click(true);
+  EXPECT_EQ(store.Get("Pitchcraft", "Settings", "ShowDisclaimer"), "1");
+  form.Click(false);
+  EXPECT_EQ(store.Get("Pitchcraft", "Settings", "ShowDisclaimer"), "0");
+}
+
+TEST_F(FormsTest, StartShowsWhatIsNotSwitchedOff) {
+  document.ShowStartForms();
+  EXPECT_EQ(dialogs.names, (std::vector<std::string>{"frmDisclaimer", "frmTip"}));
+  store.Set("Pitchcraft", "Settings", "ShowDisclaimer", "0");
+  store.Set("pitchcraft", "Options", "Show Tips at Startup", "0");
+  document.ShowStartForms();
+  EXPECT_EQ(dialogs.names.size(), 2U);
+  store.Set("Pitchcraft", "Settings", "ShowDisclaimer", "7");
+  store.Set("pitchcraft", "Options", "Show Tips at Startup", "2");
+  document.ShowStartForms();
+  EXPECT_EQ(dialogs.names.back(), "frmDisclaimer");
+  EXPECT_EQ(dialogs.names.size(), 3U);
+}
+
+TEST_F(FormsTest, EndOfTheSessionLeavesBothSettingsAlone) {
+  DisclaimerForm(store).Click(false);
+  TipForm(store, {folder}, 1).Click(false);
+  document.Form_Unload();
+  EXPECT_EQ(store.Get("Pitchcraft", "Settings", "ShowDisclaimer"), "0");
+  EXPECT_EQ(store.Get("pitchcraft", "Options", "Show Tips at Startup"), "0");
+}
+
+TEST_F(FormsTest, TipsComeInTurnAndBeginAgain) {
+  Tips("\xEF\xBB\xBFone\r\n\r\n  two  \nthree");
+  std::set<std::string> first;
+  for (unsigned seed = 0; seed < 64; ++seed) first.insert(TipForm(store, {folder}, seed).lblTipText());
+  EXPECT_EQ(first, (std::set<std::string>{"one", "two", "three"})) << "any of them comes first";
+  TipForm form(store, {folder}, 5);
+  const std::string begin = form.lblTipText();
+  std::set<std::string> seen;
+  for (int i = 0; i < 3; ++i) {
+    form.cmdNextTip_Click();
+    seen.insert(form.lblTipText());
+  }
+  EXPECT_EQ(seen.size(), 3U);
+  EXPECT_EQ(form.lblTipText(), begin);
+}
+
+TEST_F(FormsTest, TipsThatAreNotThere) {
+  TipForm missing(store, {folder}, 1);
+  missing.cmdNextTip_Click();
+  EXPECT_EQ(
+      missing.lblTipText(),
+      "That the TIPOFDAY.TXT file was not found?\n\nCreate a text file named TIPOFDAY.TXT using NotePad "
+      "with 1 tip per line. Then place it in the same directory as the application. ");
+  std::filesystem::create_directories(folder / "TIPOFDAY.TXT");
+  EXPECT_EQ(TipForm(store, {folder}, 1).lblTipText(), missing.lblTipText()) << "a folder is no file";
+  std::filesystem::remove(folder / "TIPOFDAY.TXT");
+  Tips("\n \n");
+  TipForm empty(store, {folder}, 1);
+  empty.cmdNextTip_Click();
+  EXPECT_EQ(empty.lblTipText(), "");
+}
+
+TEST_F(FormsTest, TheProgramsFolderGoesBeforeTheDataThatCameWithIt) {
+  std::filesystem::create_directories(folder / "data");
+  pitchcraft::testing::WriteWhole(folder / "data" / "TIPOFDAY.TXT", "ours");
+  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).lblTipText(), "ours");
+  Tips("own");
+  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).lblTipText(), "own");
+}
+
+TEST_F(FormsTest, TipBoxIsWrittenWhenClickedAndWhenTheFormCloses) {
+  Click("mnuHelpTips");
+  EXPECT_EQ(store.Get("pitchcraft", "Options", "Show Tips at Startup"), "1");
+  dialogs.On<TipForm>([this](TipForm& form) {
+    EXPECT_TRUE(form.ShowsAtStartup());
+    form.Click(false);
+    EXPECT_EQ(store.Get("pitchcraft", "Options", "Show Tips at Startup"), "0");
+  });
+  Click("mnuHelpTips");
+  EXPECT_EQ(store.Get("pitchcraft", "Options", "Show Tips at Startup"), "0");
+  EXPECT_FALSE(TipForm(store, {}, 1).ShowsAtStartup());
+}
+
+TEST_F(FormsTest, TheTipsOfTheProgramAreThere) {
+  const TipForm form(store, {std::filesystem::path(PITCHCRAFT_SOURCE_DIR) / "data"}, 1);
+  EXPECT_GE(form.TipCount(), 25U);
+}
+
+TEST_F(FormsTest, AboutTellsTheVersion) {
+  std::string version;
+  dialogs.On<AboutForm>([&](AboutForm& form) { version = form.lblVersion; });
+  Click("mnuHelpAbout");
+  EXPECT_TRUE(version.starts_with("Version ")) << version;
+}
+
+}  // namespace
+}  // namespace pitchcraft
