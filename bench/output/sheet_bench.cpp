@@ -1,5 +1,5 @@
-// A printed sheet as PDF, beside the toolkit painting the very same lines and texts by itself: what the way from
-// the document through the sheet costs. Processor time, the best of several rounds in turn.
+// A printed sheet as PDF, beside the toolkit painting the very same lines and texts by itself: what the way
+// from the document through the sheet costs. Processor time, the best of several rounds in turn.
 #include <time.h>
 
 #include <QBuffer>
@@ -142,7 +142,8 @@ int main() {
   }
   std::printf("hip rafter's sheet: %zu lines, %zu texts\n", noted.lines.size(), noted.texts.size());
   std::printf("from the command to the PDF %7.2f ms, %lld bytes\n", ours * 1e3, static_cast<long long>(size));
-  std::printf("the toolkit alone           %7.2f ms, %lld bytes\n", bare * 1e3, static_cast<long long>(bareSize));
+  std::printf("the toolkit alone           %7.2f ms, %lld bytes\n", bare * 1e3,
+              static_cast<long long>(bareSize));
   std::printf("ratio                       %7.2f\n", ours / bare);
   return 0;
 }
