@@ -96,6 +96,7 @@ CalculatorWindow::CalculatorWindow(bool metric, QWidget* parent) : QWidget(paren
   auto* whole = new QHBoxLayout(this);
   whole->addLayout(left, 2);
   whole->addWidget(tape_, 1);
+  resize(600, 400);
   display_->setFocus();
   Sync();
 }

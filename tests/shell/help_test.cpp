@@ -23,7 +23,8 @@ QString TextOf(const QString& file) {
 /// What the pages name behind `mark`, each with the page that names it.
 std::vector<std::pair<QString, QString>> NamedBy(const QString& mark) {
   std::vector<std::pair<QString, QString>> names;
-  for (const HelpPage& page : HelpPages(kFolder).Pages()) {
+  const HelpPages pages(kFolder);
+  for (const HelpPage& page : pages.Pages()) {
     QRegularExpressionMatchIterator found =
         QRegularExpression(mark + "=\"([^\"]*)\"").globalMatch(TextOf(page.file));
     while (found.hasNext()) names.emplace_back(page.file, found.next().captured(1));
@@ -74,11 +75,12 @@ TEST(HelpPages, FiguresAreThereAndDescribed) {
 
 TEST(HelpPages, HaveTitlesOfTheirOwn) {
   std::set<QString> titles;
-  for (const HelpPage& page : HelpPages(kFolder).Pages()) {
+  const HelpPages pages(kFolder);
+  for (const HelpPage& page : pages.Pages()) {
     EXPECT_FALSE(page.title.isEmpty()) << page.file.toStdString();
     EXPECT_TRUE(titles.insert(page.title).second) << page.title.toStdString();
   }
-  EXPECT_EQ(HelpPages(kFolder).Pages().front().file, "index.html");
+  EXPECT_EQ(pages.Pages().front().file, "index.html");
 }
 
 TEST(HelpPages, SearchFindsWords) {
