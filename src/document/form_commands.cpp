@@ -38,13 +38,20 @@ void frmDocument::ShowForm(const AnyForm& form) {
   DialogIsActive = before;
 }
 
+/// That of a length, with parts of a millimetre.
+FtInConverter frmDocument::FineFormat() const {
+  FtInConverter format = sheet.FtSpan[0].Format;
+  format.DecimalPlaces = FtInConverter().DecimalPlaces;
+  return format;
+}
+
 // --- The small ones
 // -------------------------------------------------------------------------------------------------
 
 void frmDocument::mnuSpinIncrement_Click(int) {
   Single& step = Imperial() ? Increment : MetricIncrement;
   IncrementForm form;
-  form.FtIncrement.Format = sheet.FtSpan[0].Format;
+  form.FtIncrement.Format = FineFormat();
   form.FtIncrement.SetValue(step);
   ShowForm(&form);
   const Single entered = form.FtIncrement.Value();
@@ -85,26 +92,28 @@ void frmDocument::mnuFileDXFSettings_Click(int) { ShowOptions(OptionsPage::kDxf)
 void frmDocument::ShowOptions(OptionsPage page) {
   OptionsForm form;
   form.Page = page;
-  Try("frmOptions", [&] { FillOptions(form); });
+  FillOptions(form);
   form.Apply = [&] { ApplyOptions(form); };
   ShowForm(&form);
   VSTab_Switch(0, kNoTab, CurrentTab);
 }
 
-void frmDocument::FillOptions(OptionsForm& form) const {
+void frmDocument::FillOptions(OptionsForm& form) {
   form.Load({CtlBackColor, CtlForeColor, CtlCalcColor, BackColor, LineColor, DimColor, TextColor},
             {static_cast<int>(DXFBackcolor), DXFTextcolor, DXFLinecolor, DXFDimcolor}, LineWidth);
   form.chkSystemColors = UseSystemColors;
   form.chkPrintAllBlack = PrintAllBlack;
   form.chkRotateFonts = RotateFonts;
-  form.ftDXFTextsize.Format = sheet.FtSpan[0].Format;
+  form.ftDXFTextsize.Format = FineFormat();
   if (Imperial()) form.ftDXFTextsize.Format.Units = kInchesAlone;
   form.ftDXFTextsize.SetValue(Imperial() ? DXFTextsize : DXFMetricTextsize);
   // A run of 12 serves metric slopes, too: the field brings it to its own.
   form.SlopeList.NewRow = {"", "", "12"};
   const std::filesystem::path& folder = surroundings_.programFolder;
-  form.SlopeList.Load(RowsFor(folder, SlopeFileOf(UnitRun), DefaultSlopeRows(UnitRun)));
-  form.LumberList.Load(RowsFor(folder, LumberFileOf(UnitRun), DefaultLumberRows()));
+  Try(OptionsForm::kName,
+      [&] { form.SlopeList.Load(RowsFor(folder, SlopeFileOf(UnitRun), DefaultSlopeRows(UnitRun))); });
+  Try(OptionsForm::kName,
+      [&] { form.LumberList.Load(RowsFor(folder, LumberFileOf(UnitRun), DefaultLumberRows())); });
 }
 
 void frmDocument::ApplyOptions(OptionsForm& form) {

@@ -390,8 +390,9 @@ class frmDocument {
 
   // Forms.
   void ShowForm(const AnyForm& form);
+  FtInConverter FineFormat() const;
   void ShowOptions(OptionsPage page);
-  void FillOptions(OptionsForm& form) const;
+  void FillOptions(OptionsForm& form);
   void ApplyOptions(OptionsForm& form);
   void TakeDxfTextsize(FtInText& field);
 

@@ -1,5 +1,6 @@
 #include "shell/qt_dialogs.h"
 
+#include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -38,8 +39,9 @@ struct FormDialogs {
 void QtDialogs::ShowForm(const AnyForm& form) { std::visit(FormDialogs{owner_, applied_}, form); }
 
 void QtDialogs::MsgBox(const std::string& title, const std::string& text) {
+  QWidget* const form = QApplication::activeModalWidget();  // the message may be about what stands there
   QMessageBox box(QMessageBox::Information, QString::fromStdString(title), QString::fromStdString(text),
-                  QMessageBox::Ok, owner_);
+                  QMessageBox::Ok, form != nullptr ? form : owner_);
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }

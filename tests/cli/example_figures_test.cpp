@@ -12,6 +12,7 @@ namespace pitchcraft {
 namespace {
 
 using namespace geometry;
+using geometry::RoofFace;  // a plane, not a face of the layout
 
 // A Single carries seven digits; a run of three formulas may lose part of the last one.
 constexpr double kSingleError = 3e-6;

@@ -225,10 +225,10 @@ TEST_F(OptionsTest, TextsOfAListCannotBreakItsFile) {
     ListGrid& list = form.LumberList;
     list.SetCell(0, 0, " 2x4, dry|grade\\1\r\n");
     list.SetCell(0, 1, "1,5");
-    list.SetCell(0, 2, "3.5|9");
+    list.SetCell(0, 2, "3.5|");
     EXPECT_EQ(list.Cell(0, 0), "2x4  dry grade 1");
     EXPECT_EQ(list.Cell(0, 1), "1.5");
-    EXPECT_EQ(list.Cell(0, 2), "3.5 9");
+    EXPECT_EQ(list.Cell(0, 2), "3.5");
     list.SetCell(99, 0, "x");
     list.SetCell(0, 3, "x");
     list.DeleteRow(-1);
@@ -242,7 +242,8 @@ TEST_F(OptionsTest, TextsOfAListCannotBreakItsFile) {
 }
 
 TEST_F(OptionsTest, AListThatCannotBeWrittenIsToldAndStaysChanged) {
-  std::filesystem::create_directories(folder / "Lumber.dat");
+  Write("Lumber.dat", "4x4|3.5|3.5\r\n");
+  std::filesystem::create_directories(folder / "Lumber.old" / "in the way");
   Options([](OptionsForm& form) {
     form.LumberList.DeleteRow(0);
     form.SlopeList.DeleteRow(0);
@@ -253,6 +254,15 @@ TEST_F(OptionsTest, AListThatCannotBeWrittenIsToldAndStaysChanged) {
   ASSERT_FALSE(dialogs.messages.empty());
   EXPECT_EQ(dialogs.messages[0], "Path/File access error - 75");
   EXPECT_TRUE(Exists("Slope.dat"));
+}
+
+TEST_F(OptionsTest, AListThatCannotBeReadIsToldAndTheOtherShows) {
+  std::filesystem::create_directories(folder / "Slope.dat");
+  Options([](OptionsForm& form) {
+    EXPECT_EQ(form.SlopeList.RowCount(), 0);
+    EXPECT_EQ(form.LumberList.RowCount(), 15);
+  });
+  EXPECT_EQ(dialogs.messages, std::vector<std::string>{"Path/File access error - 75"});
 }
 
 TEST(OptionsWithoutAFolder, AChangedListIsToldAndWrittenNowhere) {
