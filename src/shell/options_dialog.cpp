@@ -150,10 +150,7 @@ QWidget* OptionsDialog::MakeDxfPage() {
   textsize_ = new QLineEdit(page);
   textsize_->setObjectName("ftDXFTextsize");
   textsize_->setAccessibleName("DXF Textsize");
-  connect(textsize_, &QLineEdit::editingFinished, this, [this] {
-    if (textsize_->isModified()) form_.ftDXFTextsize.SetText(textsize_->text().toStdString());
-    ShowTextsize();
-  });
+  connect(textsize_, &QLineEdit::editingFinished, this, &OptionsDialog::TakeTextsize);
   QLabel* label = MakeLabel("Label5", "DXF &Textsize", page);
   label->setBuddy(textsize_);
   auto* note = new QPlainTextEdit(kDxfWarning, page);
@@ -219,7 +216,14 @@ void OptionsDialog::ShowTextsize() {
   textsize_->setModified(false);
 }
 
+// What was not typed over keeps the number behind its rounded text.
+void OptionsDialog::TakeTextsize() {
+  if (textsize_->isModified()) form_.ftDXFTextsize.SetText(textsize_->text().toStdString());
+  ShowTextsize();
+}
+
 void OptionsDialog::Apply() {
+  TakeTextsize();
   form_.Apply();
   ShowTextsize();
   if (applied_) applied_();

@@ -27,6 +27,7 @@ class OptionsDialog : public QDialog {
   QLayout* MakeButtons();
   void ShowColors();
   void ShowTextsize();
+  void TakeTextsize();
   void Apply();
 
   OptionsForm& form_;

@@ -248,13 +248,17 @@ TEST_F(FormWindow, ATextsizeOfNothingIsToldOverTheForm) {
     size.selectAll();
     QTest::keyClicks(&size, "0");
     {
+      bool told = false;
       QTimer answer;
       QObject::connect(&answer, &QTimer::timeout, [&] {
         QWidget* box = QApplication::activeModalWidget();
-        if (box != nullptr && box != &dialog) box->close();
+        if (box == nullptr || box == &dialog) return;
+        told = true;
+        box->close();
       });
       answer.start(1);
       ClickIn(dialog, "cmdApply");
+      EXPECT_TRUE(told);
     }
     EXPECT_EQ(size.text(), "2\"");
     dialog.reject();
