@@ -7,8 +7,8 @@ cd "$(dirname "$0")/.."
 commands=build/asan/compile_commands.json
 [ -f "$commands" ] || { echo "$0: cmake --preset asan comes first" >&2; exit 1; }
 
-export checks=--checks=-clang-analyzer-*
-[ -z "${PITCHCRAFT_DEEP:-}" ] || checks=--checks=
+export checks="--checks=-clang-analyzer-*"
+[ -z "${PITCHCRAFT_DEEP:-}" ] || checks="--checks="
 
 # Quiet unless a file has something to say: clang-tidy counts the warnings that it does not show.
 tidy() {
