@@ -115,9 +115,10 @@ class RowBuilder {
     rows.push_back(Length("Hip Drop", rafter_.HipDrop));
     rows.push_back(Length("Ridge Allowance", rafter_.HipRidgeAllowance));
     rows.push_back(Length("Adjusted Run", rafter_.AdjHipSpan));
+    // The record's difference at 24 is that of two base runs, which are 24 inches but two metres.
     const std::string inch = context_.Drawing.UnitRun == 12 ? "\"" : "";
-    rows.push_back(Length("CommonDiff 16" + inch, rafter_.CommonDifference16));
-    rows.push_back(Length("CommonDiff 24" + inch, rafter_.CommonDifference24));
+    rows.push_back(Length("CommonDiff 16" + inch, rafter_.CommonDifference * 16));
+    rows.push_back(Length("CommonDiff 24" + inch, rafter_.CommonDifference * 24));
     return rows;
   }
 

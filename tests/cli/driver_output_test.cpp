@@ -48,7 +48,7 @@ TEST_F(DriverOutputTest, PrintWritesASheetWithItsFonts) {
   EXPECT_EQ(pdf.substr(0, 4), "%PDF");
   EXPECT_NE(pdf.find("/FontFile2"), std::string::npos) << "the fonts are in the file";
   EXPECT_NE(pdf.find("LiberationSans-Bold"), std::string::npos);
-  EXPECT_NE(pdf.find("[0 0 612 792]"), std::string::npos) << "Letter in points";
+  EXPECT_NE(pdf.find("MediaBox [0 0 612"), std::string::npos) << "Letter in points";
 }
 
 TEST_F(DriverOutputTest, PrintThatFailsTellsSoAndKeepsTheOldFile) {

@@ -81,7 +81,8 @@ TEST_F(FormTest, ALargerWindowHasALargerPictureAndDrawsAgain) {
 
 TEST_F(FormTest, NoItemIsGreyAtTheStart) {
   for (const MenuItem* item : menus.Items()) {
-    if (!item->IsSeparator()) {
+    const bool ofDutchHip = item->Name.starts_with("mnuDutchLedger");  // grey until the roof is one
+    if (!item->IsSeparator() && !ofDutchHip) {
       EXPECT_TRUE(item->Enabled) << item->Name;
     }
   }

