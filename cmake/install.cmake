@@ -2,6 +2,7 @@
 include(GNUInstallDirs)
 
 install(TARGETS pitchcraft pitchcraft-cli ftcalc RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/pitchcraft)
 install(DIRECTORY docs/help/ DESTINATION ${CMAKE_INSTALL_DATADIR}/pitchcraft/help)
 install(FILES packaging/pitchcraft.desktop packaging/ftcalc.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
