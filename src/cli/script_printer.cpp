@@ -4,9 +4,9 @@
 
 namespace pitchcraft {
 
-ScriptPrinter::ScriptPrinter(ScriptDialogs& dialogs, std::ostream& output, std::filesystem::path folder,
-                             PageWriter writePage, std::string today)
-    : file((std::move(folder) / "print.pdf").string()),
+ScriptPrinter::ScriptPrinter(ScriptDialogs& dialogs, std::ostream& output,
+                             const std::filesystem::path& folder, PageWriter writePage, std::string today)
+    : file((folder / "print.pdf").string()),
       dialogs_(dialogs),
       output_(output),
       writePage_(std::move(writePage)),

@@ -19,7 +19,7 @@ using PageWriter =
 class ScriptPrinter final : public PrintService {
  public:
   /// Sheets go to print.pdf in `folder` as long as no reply names another file.
-  ScriptPrinter(ScriptDialogs& dialogs, std::ostream& output, std::filesystem::path folder,
+  ScriptPrinter(ScriptDialogs& dialogs, std::ostream& output, const std::filesystem::path& folder,
                 PageWriter writePage, std::string today);
 
   void ShowSetup() override;
