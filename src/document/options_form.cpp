@@ -167,7 +167,8 @@ std::uint32_t ColorOfDxf(int number) {
   if (number < 0 || number > 255) return 0;
   if (number < 10) return kFirst[number];
   if (number >= 250) return Blend(kGrays[number - 250], kGrays[number - 250], kGrays[number - 250]);
-  const double hue = (number / 10 - 1) / 4.0;  // of six
+  const int step = number / 10 - 1;
+  const double hue = step / 4.0;  // of six
   const double shade = kShades[number % 10 / 2];
   const double pale = number % 2 == 0 ? 0 : 2.0 / 3;
   const auto part = [&](double middle) {
