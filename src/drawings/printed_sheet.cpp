@@ -51,7 +51,9 @@ std::vector<PlacedRow> Broken(const Printer& page, const std::string& row, doubl
   while (begin < row.size()) {
     const std::size_t end = std::min(row.find(' ', begin), row.size());
     const std::string word = row.substr(begin, end - begin);
-    const std::string longer = line.empty() ? word : line + ' ' + word;
+    std::string longer = line;
+    if (!longer.empty()) longer += ' ';
+    longer += word;
     if (!line.empty() && page.TextWidth(longer) > width - indent()) {
       lines.push_back({line, indent()});
       line = word;
