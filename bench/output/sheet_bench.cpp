@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "document/actions.h"
 #include "document/frm_document.h"
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
