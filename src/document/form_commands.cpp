@@ -24,7 +24,7 @@ std::vector<std::string> RowsFor(const std::filesystem::path& folder, const char
 
 void RewriteIfChanged(ListGrid& grid, const std::filesystem::path& folder, const char* name) {
   if (!grid.Changed()) return;
-  if (folder.empty()) throw RunTimeError(76, "Path not found");
+  if (folder.empty()) throw RunTimeError::PathNotFound();
   RewriteListFile(folder / name, grid.FileRows());
   grid.Settle();
 }
