@@ -125,7 +125,8 @@ void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip
 std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file) {
   const FormatRow* format = FormatOf(file);
   if (format == nullptr) {
-    return "The format of " + TextOf(file) + " is not known: a picture is a .png, .svg or .pdf file.";
+    return "The format of " + TextOf(file) +
+           " is not known: a drawing is written as .dxf, .wmf, .svg, .png or .pdf.";
   }
   if (!picture.Drawing.IsClosed()) return "There is no drawing to write.";
   if (picture.Size.ScaleWidth == 0 || picture.Size.ScaleHeight == 0) return "The picture has no size.";
