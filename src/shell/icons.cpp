@@ -82,7 +82,19 @@ QPainterPath PathOf(std::string_view text) {
   return path;
 }
 
-class StrokeIcon : public QIconEngine {
+/// An icon that is painted anew at every size.
+class VectorIcon : public QIconEngine {
+ public:
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+    return pixmap;
+  }
+};
+
+class StrokeIcon : public VectorIcon {
  public:
   explicit StrokeIcon(const IconRow& row) : row_(row) {}
 
@@ -101,14 +113,6 @@ class StrokeIcon : public QIconEngine {
     painter->restore();
   }
 
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-    return pixmap;
-  }
-
   QIconEngine* clone() const override { return new StrokeIcon(row_); }
 
  private:
@@ -117,6 +121,24 @@ class StrokeIcon : public QIconEngine {
   }
 
   const IconRow& row_;
+};
+
+/// A roof over a house on a dark tile.
+class BadgeIcon : public VectorIcon {
+ public:
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(rect.topLeft());
+    painter->scale(rect.width() / kGrid, rect.height() / kGrid);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QColor(0x1C, 0x22, 0x2B));
+    painter->drawRoundedRect(QRectF(0, 0, kGrid, kGrid), 4.5, 4.5);
+    painter->strokePath(PathOf("M6 12 6 18.5 18 18.5 18 12"), QPen(Qt::white, 1.6));
+    painter->strokePath(PathOf("M3.5 14 12 5.5 20.5 14"), QPen(QColor(0xFF, 0xD0, 0x30), 2.2));
+    painter->restore();
+  }
+  QIconEngine* clone() const override { return new BadgeIcon; }
 };
 
 }  // namespace
@@ -128,19 +150,6 @@ QIcon IconOf(std::string_view key) {
   return {};
 }
 
-QIcon ProgramIcon() {
-  constexpr int kSide = 64;
-  QPixmap pixmap(kSide, kSide);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0x1C, 0x22, 0x2B));
-  painter.drawRoundedRect(0, 0, kSide, kSide, 12, 12);
-  painter.scale(kSide / kGrid, kSide / kGrid);
-  painter.strokePath(PathOf("M6 12 6 18.5 18 18.5 18 12"), QPen(Qt::white, 1.6));
-  painter.strokePath(PathOf("M3.5 14 12 5.5 20.5 14"), QPen(QColor(0xFF, 0xD0, 0x30), 2.2));
-  return {pixmap};
-}
+QIcon ProgramIcon() { return QIcon(new BadgeIcon); }
 
 }  // namespace pitchcraft

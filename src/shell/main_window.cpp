@@ -50,6 +50,7 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   status_->setAccessibleName(tr("Status"));
   status_->setTextFormat(Qt::PlainText);
   status_->setMargin(4);
+  AddViewCommands();
   setWindowIcon(ProgramIcon());
   setMinimumSize(ToPixels(kMinimumWidth), ToPixels(kMinimumHeight));
   resize(ToPixels(Document().Window.Width), ToPixels(Document().Window.Height));
@@ -82,7 +83,17 @@ void MainWindow::ForEachView(Action action) {
   }
 }
 
-// Tab follows the order of the sheet, then reaches the captions of the pages.
+PictureView& MainWindow::ShownView() { return Document().CurrentTab == 0 ? *picture1_ : *picture3_; }
+
+void MainWindow::AddViewCommands() {
+  commands_ = new ViewCommands(
+      session_, [this]() -> PictureView& { return ShownView(); }, this);
+  menus_->Append("mnuView", commands_->All());
+  for (PictureView* view : {picture1_, picture3_}) view->addActions(commands_->All());
+  connect(commands_, &ViewCommands::Said, status_, &QLabel::setText);
+}
+
+// Tab follows the order of the sheet, then reaches the captions of the pages and the drawing.
 void MainWindow::ChainTabOrder() {
   std::vector<QWidget*> stops;
   ForEachView([&](ControlView& view) {
@@ -90,6 +101,8 @@ void MainWindow::ChainTabOrder() {
   });
   stops.push_back(&tabs_->Pages());
   stops.push_back(&sheet_->RoofTabs());
+  stops.push_back(picture1_);
+  stops.push_back(picture3_);
   for (std::size_t i = 1; i < stops.size(); ++i) setTabOrder(stops[i - 1], stops[i]);
 }
 
@@ -166,8 +179,9 @@ void MainWindow::SyncOnce() {
   menus_->Sync();
   tools_->Sync();
   PlaceParts();
-  picture1_->update();
-  picture3_->update();
+  picture1_->Sync();
+  picture3_->Sync();
+  commands_->Sync();
   SyncStatus();
   // A title's own brackets with a star are no mark of the toolkit.
   const QString title = QString::fromStdString(Document().Title).replace("[*]", "[*][*]");

@@ -11,6 +11,7 @@
 #include "shell/sheet_panel.h"
 #include "shell/strips.h"
 #include "shell/tool_strip.h"
+#include "shell/view_commands.h"
 
 namespace pitchcraft {
 
@@ -45,6 +46,8 @@ class MainWindow : public QWidget {
   void Sync();
   void SyncOnce();
   void SyncStatus();
+  PictureView& ShownView();
+  void AddViewCommands();
   void PlaceParts();
   void FitToScreens();
   void ChainTabOrder();
@@ -62,6 +65,7 @@ class MainWindow : public QWidget {
   SheetPanel* sheet_;
   PictureView* picture1_;
   PictureView* picture3_;
+  ViewCommands* commands_;
   QLabel* status_;
   bool syncing_ = false;
   bool again_ = false;

@@ -27,4 +27,10 @@ void MenuStrip::Sync() {
   for (const auto& [item, action] : rows_) SyncMenuAction(*action, *item);
 }
 
+void MenuStrip::Append(const QString& menu, const QList<QAction*>& commands) {
+  auto* holder = findChild<QMenu*>(menu);
+  holder->addSeparator();
+  holder->addActions(commands);
+}
+
 }  // namespace pitchcraft

@@ -11,6 +11,8 @@ class MenuStrip : public QMenuBar {
  public:
   MenuStrip(Session& session, QWidget* window);
   void Sync();
+  /// Puts more commands at the end of a menu: those of the window itself.
+  void Append(const QString& menu, const QList<QAction*>& commands);
 
  private:
   std::vector<std::pair<MenuItem*, QAction*>> rows_;

@@ -1,7 +1,10 @@
 #include "shell/picture_view.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "platform/picture_files.h"
 #include "shell/entry_box.h"
@@ -11,20 +14,48 @@
 #include "shell/twips.h"
 
 namespace pitchcraft {
+namespace {
+
+constexpr double kKeyShare = 1.25;
+constexpr double kWheelDoubles = 480;  // four notches of a wheel
+constexpr double kArrowShare = 0.1;    // of the view
+
+}  // namespace
 
 PictureView::PictureView(Session& session, int picture, QWidget* window)
     : QWidget(window), session_(session), picture_(picture) {
   setObjectName(QString("Picture%1").arg(picture));
   setAccessibleName(picture == 1 ? tr("Drawing of the design") : tr("Drawing of the page"));
   setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::StrongFocus);
   installEventFilter(new HintWatcher(session, objectName().toStdString(), this));
 }
 
-void PictureView::paintEvent(QPaintEvent*) {
+void PictureView::Sync() {
   const frmDocument& document = session_.Document();
+  const Subject now{document.RoofType, document.CurrentTab};
+  if (now != subject_) {
+    subject_ = now;
+    zoom_.Fit();
+  }
+  ShowZoom();
+}
+
+// --- Painting
+// ---------------------------------------------------------------------------------------------------------
+
+void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor ground = ColorOf(document.BackColor, palette());
-  painter.fillRect(rect(), ground);
+  painter.fillRect(rect(), ColorOf(session_.Document().BackColor, palette()));
+  PaintDrawing(painter);
+  if (!hasFocus()) return;
+  painter.resetTransform();
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void PictureView::PaintDrawing(QPainter& painter) {
+  const frmDocument& document = session_.Document();
   if (!document.DrawingExists) {
     QColor dim = ColorOf(document.LineColor, palette());
     dim.setAlpha(110);
@@ -36,21 +67,118 @@ void PictureView::paintEvent(QPaintEvent*) {
   Picture picture = ShownPicture(document);
   picture.Size = {static_cast<double>(width()) * kTwipsPerPixel,
                   static_cast<double>(height()) * kTwipsPerPixel, false};
+  painter.save();
+  painter.translate(zoom_.Offset());
+  painter.scale(zoom_.Factor(), zoom_.Factor());
   PaintPicture(painter, picture, 1.0 / kTwipsPerPixel);
+  painter.restore();
 }
 
+// --- What of it shows
+// -------------------------------------------------------------------------------------------------
+
+void PictureView::ShowZoom() {
+  const Qt::CursorShape hand = dragging_ ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
+  setCursor(zoom_.ShowsAll() ? Qt::ArrowCursor : hand);
+  update();
+}
+
+void PictureView::ZoomBy(double share) {
+  zoom_.About(QRectF(rect()).center(), share, size());
+  ShowZoom();
+}
+
+void PictureView::Fit() {
+  zoom_.Fit();
+  ShowZoom();
+}
+
+void PictureView::PanBy(QPointF by) {
+  zoom_.Pan(by, size());
+  ShowZoom();
+}
+
+void PictureView::resizeEvent(QResizeEvent* event) {
+  zoom_.Resize(event->oldSize(), event->size());
+  ShowZoom();
+}
+
+void PictureView::wheelEvent(QWheelEvent* event) {
+  const double turned = event->angleDelta().y();
+  zoom_.About(event->position(), std::exp2(turned / kWheelDoubles), size());
+  ShowZoom();
+  event->accept();
+}
+
+// --- The mouse
+// --------------------------------------------------------------------------------------------------------
+
 void PictureView::mousePressEvent(QMouseEvent* event) {
-  const int button = event->button() == Qt::LeftButton    ? kLeftButton
-                     : event->button() == Qt::RightButton ? kRightButton
-                                                          : 0;
-  if (button == 0) return;
+  if (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton) grip_ = event->position();
+  if (event->button() == Qt::LeftButton) {
+    PressAt(kLeftButton, event->position(), event->globalPosition().toPoint());
+  } else if (event->button() == Qt::RightButton) {
+    PressAt(kRightButton, event->position(), event->globalPosition().toPoint());
+  }
+}
+
+// A hand that only trembles does not drag.
+void PictureView::mouseMoveEvent(QMouseEvent* event) {
+  if (!grip_ || zoom_.ShowsAll()) return;
+  const QPointF moved = event->position() - *grip_;
+  if (!dragging_ && moved.manhattanLength() < QApplication::startDragDistance()) return;
+  dragging_ = true;
+  grip_ = event->position();
+  PanBy(moved);
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->buttons() != Qt::NoButton) return;
+  grip_.reset();
+  dragging_ = false;
+  ShowZoom();
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) Fit();
+}
+
+void PictureView::PressAt(int button, QPointF place, const QPoint& onScreen) {
   EntryBox::CommitFocused();
-  const QPointF at = event->position() * kTwipsPerPixel;
+  // The document knows the whole drawing, whatever part of it shows.
+  const QPointF at = zoom_.ToDrawing(place) * kTwipsPerPixel;
   const MenuItem* popup = nullptr;
   session_.Do([&](Actions&) {
     popup = session_.Document().Picture_MouseDown(picture_, button, qRound(at.x()), qRound(at.y()));
   });
-  if (popup != nullptr) ShowPopup(session_, *popup, event->globalPosition().toPoint());
+  if (popup != nullptr) ShowPopup(session_, *popup, onScreen, actions());
+}
+
+// --- The keyboard
+// -----------------------------------------------------------------------------------------------------
+
+void PictureView::keyPressEvent(QKeyEvent* event) {
+  const double across = width() * kArrowShare;
+  const double down = height() * kArrowShare;
+  switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: return ZoomBy(kKeyShare);
+    case Qt::Key_Minus: return ZoomBy(1 / kKeyShare);
+    case Qt::Key_0:
+    case Qt::Key_Home: return Fit();
+    case Qt::Key_Left: return PanBy({across, 0});
+    case Qt::Key_Right: return PanBy({-across, 0});
+    case Qt::Key_Up: return PanBy({0, down});
+    case Qt::Key_Down: return PanBy({0, -down});
+    default: QWidget::keyPressEvent(event);
+  }
+}
+
+// The mouse has opened it on its press.
+void PictureView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Mouse) return;
+  const QPoint middle = rect().center();
+  PressAt(kRightButton, middle, mapToGlobal(middle));
 }
 
 }  // namespace pitchcraft

@@ -63,11 +63,13 @@ std::vector<std::pair<MenuItem*, QAction*>> FillMenu(Session& session, const Men
   return rows;
 }
 
-void ShowPopup(Session& session, const MenuItem& holder, const QPoint& place) {
+void ShowPopup(Session& session, const MenuItem& holder, const QPoint& place, const QList<QAction*>& more) {
   auto* menu = new QMenu;
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setObjectName(QString::fromStdString(holder.Name));
   FillMenu(session, holder, *menu);
+  if (!more.isEmpty()) menu->addSeparator();
+  menu->addActions(more);
   menu->popup(place);
 }
 

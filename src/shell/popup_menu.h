@@ -14,7 +14,9 @@ void SyncMenuAction(QAction& action, const MenuItem& item);
 /// Fills the menu with the items under the holder, each in step with its action.
 std::vector<std::pair<MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu);
 
-/// Shows the popup that hangs on `holder`, at a place of the screen. It goes when it was used.
-void ShowPopup(Session& session, const MenuItem& holder, const QPoint& place);
+/// Shows the popup that hangs on `holder`, with `more` below it, at a place of the screen. It goes when it
+/// was used.
+void ShowPopup(Session& session, const MenuItem& holder, const QPoint& place,
+               const QList<QAction*>& more = {});
 
 }  // namespace pitchcraft

@@ -1,6 +1,7 @@
 #include "shell/tool_strip.h"
 
 #include <QPainter>
+#include <QShortcut>
 
 #include "shell/entry_box.h"
 #include "shell/hint_watcher.h"
@@ -13,6 +14,15 @@ constexpr int kMargin = 4;
 constexpr int kGroupGap = 9;
 constexpr int kIcon = 20;
 
+/// The roof types have the keys of the number row, as they stand in the tool bar from left to right.
+constexpr Qt::Key kNumberRow[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5,    Qt::Key_6,
+                                  Qt::Key_7, Qt::Key_8, Qt::Key_9, Qt::Key_0, Qt::Key_Minus};
+
+QKeySequence KeysOf(const ToolButton& row) {
+  if (row.RoofListIndex < 0 || row.RoofListIndex >= static_cast<int>(std::size(kNumberRow))) return {};
+  return {Qt::ALT | kNumberRow[row.RoofListIndex]};
+}
+
 }  // namespace
 
 ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), session_(session) {
@@ -24,7 +34,9 @@ ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), sessi
     const QString tip = QString::fromUtf8(row.ToolTip.data(), qsizetype(row.ToolTip.size()));
     button->setObjectName(key);
     button->setAccessibleName(tip);
-    button->setToolTip(tip);
+    const QKeySequence keys = KeysOf(row);
+    button->setToolTip(keys.isEmpty() ? tip
+                                      : tr("%1 (%2)").arg(tip, keys.toString(QKeySequence::NativeText)));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setIconSize({kIcon, kIcon});
@@ -34,8 +46,18 @@ ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), sessi
       EntryBox::CommitFocused();
       session_.Do([&](Actions& actions) { actions.Press(key); });
     });
+    if (!keys.isEmpty()) {
+      connect(new QShortcut(keys, window), &QShortcut::activated, this,
+              [this, key = row.Key] { PressByKeys(key); });
+    }
     buttons_.push_back(button);
   }
+}
+
+// The keys serve while the bar is hidden, too, where a hand could not press the button.
+void ToolStrip::PressByKeys(std::string_view key) {
+  EntryBox::CommitFocused();
+  session_.Do([&](Actions&) { session_.Document().tbToolBar_ButtonClick(key); });
 }
 
 void ToolStrip::Sync() {

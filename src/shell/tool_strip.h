@@ -17,6 +17,7 @@ class ToolStrip : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PressByKeys(std::string_view key);
   void Place();
 
   Session& session_;
