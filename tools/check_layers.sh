@@ -18,6 +18,7 @@ ftcalc   : core measure Qt
 platform : core measure drawing output sheet drawings storage document files Qt
 shell    : core measure drawing output sheet drawings storage document platform files Qt
 cli      : core measure drawing output sheet drawings storage document platform files Qt
+gallery  : core measure drawing output sheet drawings storage document platform shell ftcalc files Qt
 "
 
 failed=0

@@ -22,12 +22,7 @@ void ChoiceField::ShowState() {
   const bool isField = combo_.Host != Host::kTabStrip;
   const std::uint32_t fore = isField ? document.CtlForeColor : kSystemWindowTextColor;
   const std::uint32_t back = isField ? document.CtlBackColor : kSystemWindowColor;
-  if (!colored_ || fore != fore_ || back != back_) {
-    colored_ = true;
-    fore_ = fore;
-    back_ = back;
-    setPalette(FieldPalette(fore, back, parentWidget()->palette()));
-  }
+  if (colors_.Take(fore, back, parentWidget()->palette())) setPalette(colors_.Palette());
   if (rows_ != combo_.List()) {
     rows_ = combo_.List();
     clear();

@@ -4,6 +4,7 @@
 #include <QComboBox>
 
 #include "shell/control_view.h"
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 
@@ -25,8 +26,7 @@ class ChoiceField : public QComboBox, public ControlView {
 
   ComboControl& combo_;
   std::vector<std::string> rows_;
-  std::uint32_t fore_ = 0, back_ = 0;
-  bool colored_ = false;
+  FieldColors colors_;
 };
 
 }  // namespace pitchcraft

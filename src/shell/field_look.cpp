@@ -42,6 +42,14 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
   return palette;
 }
 
+bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop) {
+  const Origin origin{fore, back, desktop.cacheKey()};
+  if (origin == origin_) return false;
+  origin_ = origin;
+  palette_ = FieldPalette(fore, back, desktop);
+  return true;
+}
+
 QFont FittedFont(QFont font, const QString& text, int width, int height) {
   const QFontMetricsF metrics(font);
   const double across = text.isEmpty() ? 1 : width / std::max(1.0, metrics.horizontalAdvance(text));

@@ -13,6 +13,24 @@ QColor ColorOf(std::uint32_t value, const QPalette& desktop);
 /// The palette of a field with those colours; a disabled field is grey on the colour of the window.
 QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop);
 
+/// The colours of one field. Setting a palette costs far more than comparing what it is made of.
+class FieldColors {
+ public:
+  /// True where a colour or the desktop has changed, and so the palette.
+  bool Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop);
+  const QPalette& Palette() const { return palette_; }
+
+ private:
+  struct Origin {
+    std::uint32_t fore = 0;
+    std::uint32_t back = 0;
+    qint64 desktop = -1;
+    bool operator==(const Origin&) const = default;
+  };
+  Origin origin_;
+  QPalette palette_;
+};
+
 /// `font`, made smaller as far as the text would not fit into the width or the height otherwise.
 QFont FittedFont(QFont font, const QString& text, int width, int height);
 

@@ -95,12 +95,8 @@ void ListField::OpenList() {
 }
 
 void ListField::Color(std::uint32_t fore, std::uint32_t back) {
-  if (colored_ && fore == fore_ && back == back_) return;
-  colored_ = true;
-  fore_ = fore;
-  back_ = back;
-  const QPalette palette = FieldPalette(fore, back, parentWidget()->palette());
-  for (EntryBox* box : boxes_) box->setPalette(palette);
+  if (!colors_.Take(fore, back, parentWidget()->palette())) return;
+  for (EntryBox* box : boxes_) box->setPalette(colors_.Palette());
 }
 
 void ListField::SetLocked(bool locked) {

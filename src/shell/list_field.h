@@ -7,6 +7,7 @@
 #include "sheet/lw_combo.h"
 #include "shell/control_view.h"
 #include "shell/entry_box.h"
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 
@@ -52,8 +53,7 @@ class ListField : public QWidget, public ControlView {
   std::vector<EntryBox*> boxes_;
   ArrowButton* arrow_;
   QPointer<DropList> list_;
-  std::uint32_t fore_ = 0, back_ = 0;
-  bool colored_ = false;
+  FieldColors colors_;
   bool locked_ = false;
   bool editing_ = false;
 };

@@ -255,6 +255,10 @@ void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) {
     Document().WindowState = isMinimized() ? kMinimized : isMaximized() ? kMaximized : kNormal;
   }
+  // The fields mix the desktop's colours with their own. The parts learn of the new ones after the window.
+  if (event->type() == QEvent::PaletteChange) {
+    QMetaObject::invokeMethod(this, &MainWindow::Sync, Qt::QueuedConnection);
+  }
   QWidget::changeEvent(event);
 }
 

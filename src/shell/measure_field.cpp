@@ -59,11 +59,8 @@ void MeasureField::Step(bool up) {
 }
 
 void MeasureField::ShowState() {
-  if (!colored_ || fore_ != field_.ForeColor || back_ != field_.BackColor) {
-    colored_ = true;
-    fore_ = field_.ForeColor;
-    back_ = field_.BackColor;
-    setPalette(FieldPalette(fore_, back_, parentWidget()->palette()));
+  if (colors_.Take(field_.ForeColor, field_.BackColor, parentWidget()->palette())) {
+    setPalette(colors_.Palette());
   }
   if (isReadOnly() != field_.ReadOnly) setReadOnly(field_.ReadOnly);
   ShowText(field_.Text());

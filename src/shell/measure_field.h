@@ -4,6 +4,7 @@
 #include "sheet/ft_in_text.h"
 #include "shell/control_view.h"
 #include "shell/entry_box.h"
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 
@@ -28,8 +29,7 @@ class MeasureField : public EntryBox, public ControlView {
   FtInText& field_;
   FtInText before_;  ///< as it was before the present entry, for Escape
   bool editing_ = false;
-  std::uint32_t fore_ = 0, back_ = 0;
-  bool colored_ = false;
+  FieldColors colors_;
 };
 
 }  // namespace pitchcraft

@@ -46,6 +46,8 @@ std::vector<ColorGrid::Offer> DxfOffers() {
   return offers;
 }
 
+constexpr int kNoteLines = 6;
+
 QLabel* MakeLabel(const char* name, const char* text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   label->setObjectName(name);
@@ -158,12 +160,14 @@ QWidget* OptionsDialog::MakeDxfPage() {
   note->setAccessibleName("About the DXF textsize");
   note->setReadOnly(true);
   note->setTabChangesFocus(true);
+  note->setMaximumHeight(note->fontMetrics().lineSpacing() * kNoteLines);
   auto* size = new QFormLayout;
   size->addRow(label, textsize_);
   auto* column = new QVBoxLayout(page);
   column->addWidget(dxfColors_);
   column->addLayout(size);
-  column->addWidget(note, 1);
+  column->addWidget(note);
+  column->addStretch();
   return page;
 }
 
