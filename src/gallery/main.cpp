@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QTabWidget>
+#include <QWheelEvent>
 #include <clocale>
 #include <cstdio>
 
@@ -122,9 +123,10 @@ class Photographer {
     SlopeOfSixInTwelve();
     auto* view = window_.findChild<QWidget*>("Picture1");
     auto& picture = static_cast<PictureView&>(*view);
-    window_.findChild<QAction*>("ZoomIn")->trigger();
-    window_.findChild<QAction*>("ZoomIn")->trigger();
-    window_.findChild<QAction*>("ZoomIn")->trigger();
+    const QPointF seat(picture.width() * 0.12, picture.height() * 0.85);
+    QWheelEvent turn(seat, picture.mapToGlobal(seat), {}, {0, 960}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&picture, &turn);
     gallery_.Take(window_, "A part of the drawing");
     picture.Fit();
     Do(actions_.Click("mnuMetric"));

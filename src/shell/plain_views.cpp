@@ -21,6 +21,11 @@ void LabelView::ShowState() {
   if (caption != text()) setText(caption);
 }
 
+int LabelView::NeededWidth() {
+  ShowState();
+  return sizeHint().width();
+}
+
 // --- Check box
 // ------------------------------------------------------------------------------------------------------
 

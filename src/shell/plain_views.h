@@ -12,6 +12,8 @@ namespace pitchcraft {
 class LabelView : public QLabel, public ControlView {
  public:
   LabelView(Session& session, LabelControl& label, QWidget* host);
+  /// Of the caption as it is now, which need not show yet.
+  int NeededWidth();
   QWidget& Widget() override { return *this; }
 
  private:

@@ -68,8 +68,8 @@ void TabStrip::Sync() {
   for (auto view = views_.rbegin(); view != views_.rend(); ++view) {
     const Control& control = (*view)->Of();
     // A caption takes what its text needs.
-    const auto* caption = dynamic_cast<LabelView*>(view->get());
-    const int needed = caption == nullptr ? 0 : caption->sizeHint().width();
+    auto* caption = dynamic_cast<LabelView*>(view->get());
+    const int needed = caption == nullptr ? 0 : caption->NeededWidth();
     const int fieldWidth = std::max(ToPixels(control.Width), needed);
     const QRect place(right - fieldWidth, (height() - HeightOf(control)) / 2, fieldWidth, HeightOf(control));
     (*view)->Sync(control.Visible, place);
