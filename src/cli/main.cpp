@@ -1,7 +1,6 @@
 // pitchcraft-cli: the document without its window, for scripts, batches and reproducible reports.
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -13,6 +12,7 @@
 #include "cli/script.h"
 #include "cli/script_printer.h"
 #include "drawing/arial_meter.h"
+#include "files/file_names.h"
 #include "platform/pdf_pages.h"
 #include "platform/picture_files.h"
 #include "platform/program_folder.h"
@@ -28,9 +28,7 @@ int Fail(const std::string& text, int status) {
 
 /// DXF and metafile are the document's own exports, the rest are pictures of what it shows.
 std::optional<std::string> WriteShownPicture(frmDocument& document, const std::string& file) {
-  std::string extension = std::filesystem::path(file).extension().string();
-  std::transform(extension.begin(), extension.end(), extension.begin(),
-                 [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
+  const std::string extension = ExtensionOf(file);
   try {
     if (extension == ".dxf") {
       document.ExportDxf(file);

@@ -1,6 +1,7 @@
 // The drawing shown, as a file for other programs.
 #include "core/number_text.h"
 #include "document/frm_document.h"
+#include "files/file_names.h"
 #include "output/dxf_writer.h"
 #include "output/placeable_metafile.h"
 

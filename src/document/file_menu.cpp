@@ -3,6 +3,7 @@
 
 #include "core/number_text.h"
 #include "document/frm_document.h"
+#include "files/file_names.h"
 
 namespace pitchcraft {
 namespace {
@@ -24,11 +25,6 @@ bool Exists(const std::string& path) {
 }
 
 }  // namespace
-
-std::string frmDocument::WithExtension(const std::string& path, const char* extension) {
-  const bool has = FileNameOf(path).find('.') != std::string::npos;
-  return has || path.empty() ? path : path + "." + extension;
-}
 
 // A new project begins with a common gable; the values of the sheet stay.
 void frmDocument::mnuFileNew_Click(int) {

@@ -384,8 +384,6 @@ class frmDocument {
   void ReadGambrelSupport(const std::string& text);
   void TakeProjectLocks();
   void FinishProjectRoof();
-  /// A name without an extension gets that one, as the dialogs of a desktop do it.
-  static std::string WithExtension(const std::string& path, const char* extension);
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
 
   // Forms.

@@ -14,14 +14,13 @@ namespace {
 constexpr const char* kProduct = "Pitchcraft from Tamarack Benchworks";
 constexpr const char* kEllipsis = "\u2026";
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kTitleSize = 12;
 constexpr double kRowSize = 9;
 constexpr double kRulePast = 100;  // the rule runs past the right edge
 constexpr double kColumnGap = 120;
 constexpr double kIndent = 180;
 // The drawing: below half an inch, above an inch and a half, a little to the right.
-constexpr double kAboveDrawing = kTwipsPerInch / 2;
+constexpr double kAboveDrawing = kTwipsPerInch / 2.0;
 constexpr double kAroundDrawing = 1.5 * kTwipsPerInch;
 constexpr double kLeftOfDrawing = 75;
 

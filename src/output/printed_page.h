@@ -8,7 +8,9 @@
 
 namespace pitchcraft {
 
-/// The paper in a printer, upright. Twips: 1440 to the inch.
+inline constexpr int kTwipsPerInch = 1440;
+
+/// The paper in a printer, upright, in twips.
 struct Paper {
   double Width = 0;
   double Height = 0;

@@ -13,7 +13,6 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
 
 }  // namespace

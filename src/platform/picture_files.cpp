@@ -6,12 +6,12 @@
 #include <QPainter>
 #include <QSaveFile>
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 #include "core/run_time_error.h"
 #include "document/frm_document.h"
 #include "drawing/colors.h"
+#include "files/file_names.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
 #include "platform/pdf_pages.h"
@@ -84,9 +84,7 @@ constexpr FormatRow kFormats[] = {
 };
 
 const FormatRow* FormatOf(const std::filesystem::path& file) {
-  std::string extension = file.extension().string();
-  std::transform(extension.begin(), extension.end(), extension.begin(),
-                 [](unsigned char sign) { return static_cast<char>(std::tolower(sign)); });
+  const std::string extension = ExtensionOf(file);
   for (const FormatRow& row : kFormats) {
     if (extension == row.extension) return &row;
   }

@@ -13,7 +13,6 @@
 namespace pitchcraft {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr const char* kFilter = "PDF (*.pdf)|*.pdf|all files (*.*)|*.*";
 
 QPageSize SizeOf(const Paper& paper) {
@@ -70,7 +69,7 @@ void QtPrinter::SendToQueue(const PrintedPage& page, const std::string& name) co
   printer.setFullPage(true);
   QPainter painter;
   if (!painter.begin(&printer)) throw RunTimeError::PrinterError();
-  const double unitsPerTwip = printer.resolution() / kTwipsPerInch;
+  const double unitsPerTwip = static_cast<double>(printer.resolution()) / kTwipsPerInch;
   painter.translate(page.Paper.Margin * unitsPerTwip, page.Paper.Margin * unitsPerTwip);
   PaintPage(painter, page, ArialMeter(), unitsPerTwip);
   if (!painter.end() || printer.printerState() == QPrinter::Error) throw RunTimeError::PrinterError();

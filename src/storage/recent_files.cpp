@@ -121,9 +121,4 @@ std::string MRU::ProperCaseTitle(const std::string& text) const {
   return proper;
 }
 
-std::string FileNameOf(const std::string& path) {
-  const std::size_t separator = path.find_last_of(kSeparators);
-  return separator == std::string::npos ? path : path.substr(separator + 1);
-}
-
 }  // namespace pitchcraft

@@ -55,7 +55,4 @@ class MRU {
   int menuLength_ = 60;
 };
 
-/// What follows the last separator of a path.
-std::string FileNameOf(const std::string& path);
-
 }  // namespace pitchcraft

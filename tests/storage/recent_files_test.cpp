@@ -129,12 +129,5 @@ TEST(LongDirFixTest, NoLengthAndNoPathEndsIt) {
   }
 }
 
-TEST(FileNameOfTest, TakesBothSeparators) {
-  EXPECT_EQ(FileNameOf("C:\\roofs\\a.pcf"), "a.pcf");
-  EXPECT_EQ(FileNameOf("/roofs/a.pcf"), "a.pcf");
-  EXPECT_EQ(FileNameOf("a.pcf"), "a.pcf");
-  EXPECT_EQ(FileNameOf("/roofs/"), "");
-}
-
 }  // namespace
 }  // namespace pitchcraft
