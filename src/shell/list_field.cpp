@@ -24,7 +24,6 @@ ListField::ListField(Session& session, Control& control, QWidget* host, std::siz
     Connect(*box);
     boxes_.push_back(box);
   }
-  setFocusProxy(boxes_.front());
   arrow_ = new ArrowButton(this);
   connect(arrow_, &QAbstractButton::pressed, this, [this] {
     boxes_.front()->setFocus(Qt::MouseFocusReason);
@@ -110,6 +109,11 @@ void ListField::SetLocked(bool locked) {
   arrow_->setEnabled(!locked);
 }
 
+void ListField::ShowName(const QString& name) {
+  setAccessibleName(name);
+  arrow_->setAccessibleName(tr("%1, open the list").arg(name));
+}
+
 void ListField::FitTo(const QRect& place) {
   const int count = static_cast<int>(boxes_.size());
   const int room = place.width() - kArrowWidth - kGap * count;
@@ -139,7 +143,7 @@ void PairField::ShowState() {
 }
 
 void PairField::ShowName(const QString& name) {
-  setAccessibleName(name);
+  ListField::ShowName(name);
   Box(0).setAccessibleName(name + (isSlope_ ? ", rise" : ", thickness"));
   Box(1).setAccessibleName(name + (isSlope_ ? ", run" : ", depth"));
 }
@@ -175,7 +179,7 @@ void ComboField::ShowState() {
 }
 
 void ComboField::ShowName(const QString& name) {
-  setAccessibleName(name);
+  ListField::ShowName(name);
   Box(0).setAccessibleName(name);
 }
 
