@@ -5,6 +5,7 @@
 #include <QStyleOption>
 
 #include "shell/entry_box.h"
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 // --- Label
@@ -14,6 +15,11 @@ LabelView::LabelView(Session& session, LabelControl& label, QWidget* host)
     : QLabel(host), ControlView(session, label), label_(label) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setTextFormat(Qt::PlainText);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Disabled, QPalette::WindowText,
+                  SwitchedOff(colors.color(QPalette::Active, QPalette::WindowText),
+                              colors.color(QPalette::Active, QPalette::Window)));
+  setPalette(colors);
 }
 
 void LabelView::ShowState() {
