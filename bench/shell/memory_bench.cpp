@@ -3,6 +3,8 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -41,6 +43,9 @@ int main(int argc, char** argv) {
   QApplication::setStyle("Fusion");
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
+  // Lists and exports are written where it stands.
+  const QTemporaryDir scratch;
+  if (!QDir::setCurrent(scratch.path())) return 1;
   EnsureDrawingFont();
   const long asked = argc > 1 ? std::strtol(argv[1], nullptr, 10) : kActions;
   const long actions = asked > kParts ? asked : kActions;
