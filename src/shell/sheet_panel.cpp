@@ -64,6 +64,7 @@ void SheetPanel::ChainTabOrder() {
   std::stable_sort(places.begin(), places.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
   std::vector<QWidget*> stops;
+  stops.reserve(places.size());
   for (const auto& [place, stop] : places) stops.push_back(stop);
   if (stops == stops_) return;
   stops_ = std::move(stops);
