@@ -8,6 +8,45 @@
 #include "drawing/colors.h"
 
 namespace pitchcraft {
+namespace {
+
+constexpr double kLeastForMarks = 3;
+
+double Luminance(const QColor& color) {
+  const auto linear = [](double share) {
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+// A field that the focus comes to has all of its text selected: that is what most people read.
+void SetHighlight(QPalette& palette, const QColor& text, const QColor& ground) {
+  QColor mark = palette.color(QPalette::Active, QPalette::Highlight);
+  QColor marked = Contrast(mark, Qt::white) > Contrast(mark, Qt::black) ? Qt::white : Qt::black;
+  if (Contrast(mark, ground) < kLeastForMarks) {
+    mark = text;
+    marked = ground;
+  }
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Highlight, mark);
+    palette.setColor(group, QPalette::HighlightedText, marked);
+  }
+}
+
+}  // namespace
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double a = Luminance(one);
+  const double b = Luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor SwitchedOff(const QColor& text, const QColor& ground) {
+  constexpr float kShare = 0.62F;
+  const auto mix = [](float a, float b) { return a * kShare + b * (1 - kShare); };
+  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                          mix(text.blueF(), ground.blueF()));
+}
 
 QColor ColorOf(std::uint32_t value, const QPalette& desktop) {
   switch (value) {
@@ -33,10 +72,11 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
     palette.setColor(group, QPalette::Text, text);
     palette.setColor(group, QPalette::ButtonText, text);
   }
-  const QColor window = desktop.color(QPalette::Active, QPalette::Window);
-  const QColor grey = desktop.color(QPalette::Disabled, QPalette::WindowText);
-  palette.setColor(QPalette::Disabled, QPalette::Base, window.darker(106));
-  palette.setColor(QPalette::Disabled, QPalette::Button, window.darker(106));
+  SetHighlight(palette, text, ground);
+  const QColor off = desktop.color(QPalette::Active, QPalette::Window).darker(106);
+  const QColor grey = SwitchedOff(desktop.color(QPalette::Active, QPalette::WindowText), off);
+  palette.setColor(QPalette::Disabled, QPalette::Base, off);
+  palette.setColor(QPalette::Disabled, QPalette::Button, off);
   palette.setColor(QPalette::Disabled, QPalette::Text, grey);
   palette.setColor(QPalette::Disabled, QPalette::ButtonText, grey);
   return palette;

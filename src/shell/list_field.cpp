@@ -24,7 +24,6 @@ ListField::ListField(Session& session, Control& control, QWidget* host, std::siz
     Connect(*box);
     boxes_.push_back(box);
   }
-  setFocusProxy(boxes_.front());
   arrow_ = new ArrowButton(this);
   connect(arrow_, &QAbstractButton::pressed, this, [this] {
     boxes_.front()->setFocus(Qt::MouseFocusReason);
@@ -106,6 +105,11 @@ void ListField::SetLocked(bool locked) {
   arrow_->setEnabled(!locked);
 }
 
+void ListField::ShowName(const QString& name) {
+  setAccessibleName(name);
+  arrow_->setAccessibleName(tr("%1, open the list").arg(name));
+}
+
 void ListField::FitTo(const QRect& place) {
   const int count = static_cast<int>(boxes_.size());
   const int room = place.width() - kArrowWidth - kGap * count;
@@ -135,7 +139,7 @@ void PairField::ShowState() {
 }
 
 void PairField::ShowName(const QString& name) {
-  setAccessibleName(name);
+  ListField::ShowName(name);
   Box(0).setAccessibleName(name + (isSlope_ ? ", rise" : ", thickness"));
   Box(1).setAccessibleName(name + (isSlope_ ? ", run" : ", depth"));
 }
@@ -171,7 +175,7 @@ void ComboField::ShowState() {
 }
 
 void ComboField::ShowName(const QString& name) {
-  setAccessibleName(name);
+  ListField::ShowName(name);
   Box(0).setAccessibleName(name);
 }
 

@@ -15,7 +15,8 @@ class ArrowButton;
 class DropList;
 
 /// What both have in common: boxes, arrow, keyboard, list. Nothing is committed while the focus goes from one
-/// box to the other.
+/// box to the other. The focus is a box's and never the field's: it has no proxy, which would also confuse
+/// the toolkit when the order of Tab changes.
 class ListField : public QWidget, public ControlView {
   Q_OBJECT
 
@@ -24,6 +25,8 @@ class ListField : public QWidget, public ControlView {
   std::vector<QWidget*> TabStops() override { return {boxes_.begin(), boxes_.end()}; }
 
  protected:
+  /// Names the field and its arrow; the boxes have names of their own.
+  void ShowName(const QString& name) override;
   ListField(Session& session, Control& control, QWidget* host, std::size_t boxes);
 
   EntryBox& Box(std::size_t index) { return *boxes_[index]; }

@@ -8,6 +8,7 @@
 #include "platform/font_setup.h"
 #include "platform/program_folder.h"
 #include "platform/qt_store.h"
+#include "shell/accessible_parts.h"
 #include "shell/calculator_starter.h"
 #include "shell/help_viewer.h"
 #include "shell/main_window.h"
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName("Pitchcraft");
   QGuiApplication::setDesktopFileName("pitchcraft");
   pitchcraft::EnsureDrawingFont();
+  pitchcraft::TellAccessibleParts();
 
   // The window is made behind it.
   pitchcraft::Splash splash(PITCHCRAFT_VERSION);

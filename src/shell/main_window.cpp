@@ -93,13 +93,19 @@ void MainWindow::AddViewCommands() {
   connect(commands_, &ViewCommands::Said, status_, &QLabel::setText);
 }
 
-// Tab follows the order of the sheet, then reaches the captions of the pages and the drawing.
+// Tab goes as the eye does, from the top to the sheet and on to the drawing. The sheet orders its rows
+// itself.
 void MainWindow::ChainTabOrder() {
   std::vector<QWidget*> stops;
-  ForEachView([&](ControlView& view) {
-    for (QWidget* stop : view.TabStops()) stops.push_back(stop);
-  });
+  const auto add = [&](const auto& views) {
+    for (const auto& view : views) {
+      for (QWidget* stop : view->TabStops()) stops.push_back(stop);
+    }
+  };
+  add(bay_->Views());
   stops.push_back(&tabs_->Pages());
+  add(tabs_->Views());
+  add(sheet_->Views());
   stops.push_back(&sheet_->RoofTabs());
   stops.push_back(picture1_);
   stops.push_back(picture3_);

@@ -6,6 +6,7 @@ namespace pitchcraft {
 
 MenuStrip::MenuStrip(Session& session, QWidget* window) : QMenuBar(window) {
   setObjectName("MenuBar");
+  setAccessibleName(tr("Menus"));
   const Menus& menus = session.Document().menus;
   for (MenuItem* item : menus.Items()) {
     if (item->Level != 0 || menus.IsPopup(*item)) continue;

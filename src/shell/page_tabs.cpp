@@ -1,6 +1,7 @@
 #include "shell/page_tabs.h"
 
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include "shell/entry_box.h"
 
@@ -13,6 +14,8 @@ PageTabs::PageTabs(Session& session, int index, QWidget* host)
   setExpanding(false);
   setDrawBase(false);
   setUsesScrollButtons(true);
+  // The arrow keys go to every caption; Tab has nothing to do at the arrows that push captions along.
+  for (auto* arrow : findChildren<QToolButton*>()) arrow->setFocusPolicy(Qt::NoFocus);
   connect(this, &QTabBar::currentChanged, this, [this](int page) {
     EntryBox::CommitFocused();
     session_.Do([&](Actions& actions) { actions.Page(objectName().toStdString(), page); });

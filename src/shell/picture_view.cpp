@@ -58,7 +58,7 @@ void PictureView::PaintDrawing(QPainter& painter) {
   const frmDocument& document = session_.Document();
   if (!document.DrawingExists) {
     QColor dim = ColorOf(document.LineColor, palette());
-    dim.setAlpha(110);
+    dim.setAlpha(130);
     painter.setPen(dim);
     painter.drawText(rect(), Qt::AlignCenter, tr("This drawing is not available yet."));
     return;

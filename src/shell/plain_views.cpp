@@ -5,6 +5,7 @@
 #include <QStyleOption>
 
 #include "shell/entry_box.h"
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 // --- Label
@@ -16,7 +17,19 @@ LabelView::LabelView(Session& session, LabelControl& label, QWidget* host)
   setTextFormat(Qt::PlainText);
 }
 
+// The style's own grey for what is switched off is too faint to read.
+void LabelView::ShowColors() {
+  QPalette colors = parentWidget()->palette();
+  if (colors.cacheKey() == desktop_) return;
+  desktop_ = colors.cacheKey();
+  colors.setColor(QPalette::Disabled, QPalette::WindowText,
+                  SwitchedOff(colors.color(QPalette::Active, QPalette::WindowText),
+                              colors.color(QPalette::Active, QPalette::Window)));
+  setPalette(colors);
+}
+
 void LabelView::ShowState() {
+  ShowColors();
   const QString caption = QString::fromStdString(label_.Caption);
   if (caption != text()) setText(caption);
 }

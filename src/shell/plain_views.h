@@ -19,8 +19,10 @@ class LabelView : public QLabel, public ControlView {
  private:
   void ShowState() override;
   void ShowName(const QString&) override {}  // a label's name is its text
+  void ShowColors();
 
   LabelControl& label_;
+  qint64 desktop_ = -1;  ///< the palette that the colours were mixed from
 };
 
 /// A tick; where it locks the value of its row it looks like a padlock, open or shut.

@@ -2,6 +2,8 @@
 
 #include <QFontInfo>
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include "shell/field_look.h"
 #include "shell/twips.h"
@@ -49,6 +51,26 @@ void SheetPanel::FitCaptions() {
   }
 }
 
+// Tab goes as the eye does: rows from the top, each from the left. A roof type has its rows in an order of
+// its own. The roof type comes first everywhere, so what is in front of the sheet and behind it stays there.
+void SheetPanel::ChainTabOrder() {
+  using Place = std::tuple<bool, int, int>;  // what does not show comes last
+  const auto placeOf = [](const QWidget& part) { return Place(part.isHidden(), part.y(), part.x()); };
+  std::vector<std::pair<Place, QWidget*>> places;
+  places.emplace_back(placeOf(*roofTabs_), roofTabs_);
+  for (const auto& view : views_) {
+    for (QWidget* stop : view->TabStops()) places.emplace_back(placeOf(view->Widget()), stop);
+  }
+  std::stable_sort(places.begin(), places.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::vector<QWidget*> stops;
+  stops.reserve(places.size());
+  for (const auto& [place, stop] : places) stops.push_back(stop);
+  if (stops == stops_) return;
+  stops_ = std::move(stops);
+  for (std::size_t i = 1; i < stops_.size(); ++i) setTabOrder(stops_[i - 1], stops_[i]);
+}
+
 void SheetPanel::Sync(const FormLayout& layout) {
   const bool twoRoofs = layout.roofTabs.Height > 0;
   if (twoRoofs) {
@@ -69,6 +91,7 @@ void SheetPanel::Sync(const FormLayout& layout) {
     view->Sync(IsShown(control), place);
   }
   FitCaptions();
+  ChainTabOrder();
 }
 
 }  // namespace pitchcraft

@@ -21,11 +21,13 @@ class SheetPanel : public QWidget {
  private:
   bool IsShown(const Control& control) const;
   void FitCaptions();
+  void ChainTabOrder();
 
   Session& session_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::vector<LabelView*> captions_;
   PageTabs* roofTabs_;
+  std::vector<QWidget*> stops_;  ///< in the order of Tab, as last chained
 };
 
 }  // namespace pitchcraft

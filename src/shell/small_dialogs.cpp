@@ -37,6 +37,7 @@ QLabel* MakeHeading(const char* name, const char* text, QWidget* parent) {
 QLabel* MakeLogo(QWidget* parent) {
   auto* logo = new QLabel(parent);
   logo->setPixmap(ProgramIcon().pixmap(kIconSide, kIconSide));
+  logo->setAccessibleName("Pitchcraft");
   return logo;
 }
 

@@ -23,7 +23,6 @@ SpinView::SpinView(Session& session, SpinControl& spin, QWidget* host)
 
 void SpinView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  EntryBox::CommitFocused();
   up_ = event->position().y() < height() / 2.0;
   down_ = !up_;
   repeat_.start(kFirstRepeat, this);
@@ -41,9 +40,13 @@ void SpinView::timerEvent(QTimerEvent*) {
 }
 
 void SpinView::Step() {
-  const bool up = up_;
-  TheSession().Do([&](Actions& actions) { actions.Spin(Name(), up); });
+  StepOnce(up_);
   update();
+}
+
+void SpinView::StepOnce(bool up) {
+  EntryBox::CommitFocused();
+  TheSession().Do([&](Actions& actions) { actions.Spin(Name(), up); });
 }
 
 void SpinView::Stop() {

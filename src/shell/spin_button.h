@@ -15,6 +15,7 @@ class SpinView : public QWidget, public ControlView {
  public:
   SpinView(Session& session, SpinControl& spin, QWidget* host);
   QWidget& Widget() override { return *this; }
+  void StepOnce(bool up);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

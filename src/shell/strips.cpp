@@ -60,6 +60,7 @@ TabStrip::TabStrip(Session& session, QWidget* window)
       views_(ViewsOn(Host::kTabStrip, session, this)),
       pages_(new PageTabs(session, 0, this)) {
   setObjectName("TabStrip");
+  setAccessibleName(tr("Pages and settings"));
 }
 
 void TabStrip::Sync() {

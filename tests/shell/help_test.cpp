@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 
 #include "document/null_surroundings.h"
+#include "document/options_form.h"
 #include "shell/help_viewer.h"
 #include "window_test.h"
 
@@ -48,6 +49,18 @@ TEST(HelpPages, NameThePagesOfTheirRoof) {
     for (const QString& caption : captions.mid(1)) {
       EXPECT_TRUE(text.contains('"' + caption + '"')) << row.Item << ": " << caption.toStdString();
     }
+  }
+}
+
+// What the box of the options is called in its own captions, a person searches for.
+TEST(HelpPages, TellOfEveryPageOfTheOptions) {
+  const QString options = TextOf("options.html") + TextOf("dxf.html") + TextOf("lists.html");
+  for (const char* page : kOptionsPages) {
+    EXPECT_TRUE(options.contains(page, Qt::CaseInsensitive)) << page;
+  }
+  for (const char* caption : {"Use System Colors", "Print All As Black", "Rotate TrueType Fonts",
+                              "Printer Line Weight", "DXF Textsize", "Insert Row", "Delete Row"}) {
+    EXPECT_TRUE(options.contains(caption)) << caption;
   }
 }
 
@@ -94,6 +107,13 @@ TEST(HelpPages, SearchFindsWords) {
   EXPECT_TRUE(found("BIRDSMOUTH").contains("heel.html"));
   EXPECT_EQ(found("slopes").front(), "slopes.html");
   EXPECT_TRUE(found("valley plate").contains("390.html"));
+  EXPECT_EQ(found("options").front(), "options.html");
+  EXPECT_TRUE(found("line weight").contains("options.html"));
+  EXPECT_TRUE(found("text size").contains("dxf.html"));
+  EXPECT_TRUE(found("lumber list").contains("lists.html"));
+  EXPECT_EQ(found("increment").front(), "increment.html");
+  EXPECT_TRUE(found("zoom wheel").contains("keyboard.html"));
+  EXPECT_TRUE(found("shift tab").contains("keyboard.html"));
   EXPECT_FALSE(found("valley purlin").contains("390.html"));
   EXPECT_TRUE(found("(.*").isEmpty());
   EXPECT_TRUE(found("   ").isEmpty());

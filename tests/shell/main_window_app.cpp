@@ -7,6 +7,7 @@
 #include <clocale>
 
 #include "platform/font_setup.h"
+#include "shell/accessible_parts.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   pitchcraft::EnsureDrawingFont();
+  pitchcraft::TellAccessibleParts();
   QTimer watchdog;
   QObject::connect(&watchdog, &QTimer::timeout, [] {
     QWidget* dialog = QApplication::activeModalWidget();

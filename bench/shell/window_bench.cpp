@@ -1,0 +1,90 @@
+// How long an action blocks the window: every script of the examples, line by line, each with all that it
+// makes the window lay out and paint. Nothing may take longer than a person notices.
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <clocale>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/script.h"
+#include "document/null_surroundings.h"
+#include "platform/font_setup.h"
+#include "shell/main_window.h"
+
+namespace pitchcraft {
+namespace {
+
+constexpr double kNoticed = 50;  // ms
+constexpr int kRounds = 5;
+
+struct Step {
+  double milliseconds = 0;
+  std::string what;
+};
+
+/// What the window does of itself when an action has come to its end.
+void Show(MainWindow& window) {
+  window.ShowState();
+  QApplication::processEvents();
+  window.repaint();
+}
+
+void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
+  std::ostringstream output;
+  ScriptDialogs dialogs(output);
+  MemoryStore store;
+  MainWindow window({dialogs, store, {}});
+  Script script(window.Document(), dialogs, output,
+                [](frmDocument&, const std::string&) { return std::nullopt; });
+  window.Open();
+  window.resize(1280, 900);
+  QApplication::processEvents();
+  std::ifstream lines(example);
+  std::string line;
+  for (int number = 1; std::getline(lines, line); ++number) {
+    if (line.empty() || line[0] == '#' || line.starts_with("dump")) continue;
+    const auto begin = std::chrono::steady_clock::now();
+    script.RunLine(line);
+    Show(window);
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - begin;
+    steps.push_back(
+        {taken.count(), example.filename().string() + ":" + std::to_string(number) + ": " + line});
+  }
+}
+
+}  // namespace
+}  // namespace pitchcraft
+
+int main(int argc, char** argv) {
+  using namespace pitchcraft;
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication::setStyle("Fusion");
+  const QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  // Lists and exports are written where it stands.
+  const QTemporaryDir scratch;
+  if (!QDir::setCurrent(scratch.path())) return 1;
+  EnsureDrawingFont();
+  std::vector<Step> steps;
+  for (int round = 0; round < kRounds; ++round) {
+    for (const auto& entry : std::filesystem::directory_iterator(PITCHCRAFT_SOURCE_DIR "/examples")) {
+      if (entry.path().extension() == ".txt") Play(entry.path(), steps);
+    }
+  }
+  if (steps.size() < 100) return std::fputs("bench_window: the examples are too few\n", stderr), 1;
+  std::sort(steps.begin(), steps.end(),
+            [](const Step& a, const Step& b) { return a.milliseconds < b.milliseconds; });
+  const Step& slowest = steps.back();
+  std::printf("%zu actions with paint: median %.2f ms, 99 %% below %.2f ms, slowest %.2f ms (%s)\n",
+              steps.size(), steps[steps.size() / 2].milliseconds, steps[steps.size() * 99 / 100].milliseconds,
+              slowest.milliseconds, slowest.what.c_str());
+  std::printf("slowest / %.0f ms: ratio %.2f (aim below 1)\n", kNoticed, slowest.milliseconds / kNoticed);
+  return 0;
+}
