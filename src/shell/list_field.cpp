@@ -32,6 +32,9 @@ ListField::ListField(Session& session, Control& control, QWidget* host, std::siz
   });
 }
 
+// As the keeper of its box's focus it would end the box's entry after its own end.
+ListField::~ListField() { setFocusProxy(nullptr); }
+
 void ListField::Connect(EntryBox& box) {
   connect(&box, &EntryBox::Edited, this, [this] {
     if (!editing_) Remember();

@@ -19,6 +19,7 @@ class ListField : public QWidget, public ControlView {
   Q_OBJECT
 
  public:
+  ~ListField() override;
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {boxes_.begin(), boxes_.end()}; }
 
