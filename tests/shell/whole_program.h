@@ -51,14 +51,16 @@ struct WholeProgram : WindowHand {
   /// Brings a picture's popup up by the right button.
   QMenu* OpenDrawingPopup() {
     QWidget& picture = Find(Document().CurrentTab == 0 ? "Picture1" : "Picture3");
+    QTest::mouseMove(&picture, QPoint(60, 40));
     QTest::mouseClick(&picture, Qt::RightButton, {}, QPoint(60, 40));
     return qobject_cast<QMenu*>(QApplication::activePopupWidget());
   }
   /// Brings the popup of a field up as the desktop does: by a press anywhere in the window.
   QMenu* OpenFieldPopup(const std::string& name) {
     EntryBox& box = Box(name);
-    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {},
-                      box.mapTo(&window, QPoint(box.width() / 2, box.height() / 2)));
+    const QPoint middle(box.width() / 2, box.height() / 2);
+    QTest::mouseMove(&box, middle);
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, box.mapTo(&window, middle));
     return qobject_cast<QMenu*>(QApplication::activePopupWidget());
   }
 
