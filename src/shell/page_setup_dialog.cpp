@@ -9,6 +9,7 @@ namespace pitchcraft {
 PageSetupDialog::PageSetupDialog(const PageSetup& setup, QWidget* parent)
     : QDialog(parent), printer_(new QComboBox(this)), paper_(new QComboBox(this)) {
   setWindowTitle("Page Setup");
+  setAccessibleName(windowTitle());
   setObjectName("PageSetup");
   printer_->setObjectName("Printer");
   for (const QString& name : QPrinterInfo::availablePrinterNames()) printer_->addItem(name, name);

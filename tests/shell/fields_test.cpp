@@ -1,4 +1,6 @@
 // Fields under the keyboard: what commits, what does not, and what Escape brings back.
+#include <QMenu>
+
 #include "window_test.h"
 
 namespace pitchcraft::testing {
@@ -184,6 +186,20 @@ TEST_F(Fields, AssistiveProgramsPutTextInAsAWhole) {
   EXPECT_EQ(Document().sheet.FtSpan[0].Value(), 84);
   Key(Qt::Key_Tab);
   EXPECT_EQ(double(Document().Rafter1.Span), 84);
+}
+
+// The session of the desktop may end at any time, also below an open menu.
+TEST_F(Fields, WindowGoesWhileAMenuBorrowsTheFocusOfAField) {
+  NullSurroundings surroundings;
+  auto next = std::make_unique<MainWindow>(surroundings.Get());
+  OpenForTest(*next);
+  auto* box = next->findChild<EntryBox*>("LWSlope(0).Left");
+  box->setFocus();
+  QTest::keyClicks(box, "7");
+  next->findChild<QMenu*>("mnuFile")->popup(QPoint(5, 5));
+  ASSERT_EQ(QApplication::focusWidget(), box);
+  next.reset();
+  EXPECT_TRUE(surroundings.dialogs.messages.empty());
 }
 
 TEST_F(Fields, ColorsAreThoseOfTheSettings) {

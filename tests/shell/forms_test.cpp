@@ -56,24 +56,6 @@ class FormWindow : public ::testing::Test, protected WindowHand {
   MainWindow window_;
 };
 
-TEST_F(FormWindow, EveryFormClosesByEscape) {
-  struct Row {
-    const char* item;
-    const char* form;
-  };
-  for (const Row& row : {Row{"mnuViewOptions", "frmOptions"}, Row{"mnuFileDXFSettings", "frmOptions"},
-                         Row{"mnuHelpTips", "frmTip"}, Row{"mnuHelpAbout", "frmAbout"},
-                         Row{"mnuSpinIncrement", "frmIncrement"}}) {
-    With(row.item, [&](QDialog& dialog) {
-      EXPECT_EQ(dialog.objectName(), row.form);
-      EXPECT_FALSE(dialog.accessibleName().isEmpty()) << row.form;
-      QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-  }
-  EXPECT_TRUE(std::filesystem::exists(folder_.filesystemPath() / "Degrees.dat"));
-  EXPECT_FALSE(std::filesystem::exists(folder_.filesystemPath() / "Lumber.dat"));
-}
-
 TEST_F(FormWindow, IncrementTakesItsFieldWithEnter) {
   With("mnuSpinIncrement", [](QDialog& dialog) {
     auto& field = In<QLineEdit>(dialog, "FtIncrement");
