@@ -21,7 +21,7 @@ struct Dialog {
   const char* name;
   const char* object;  ///< what it is called within the program; the toolkit's own boxes have no name there
   std::function<void(WholeProgram&)> open;
-  std::function<void(QDialog&)> fill;  ///< enters something
+  std::function<void(WholeProgram&, QDialog&)> fill;  ///< enters something
 };
 
 void PrintTo(const Dialog& dialog, std::ostream* stream) { *stream << dialog.name; }
@@ -40,9 +40,12 @@ Widget& In(QDialog& dialog, const char* name) {
   return *found;
 }
 
-void FillName(QDialog& dialog) { dialog.findChild<QLineEdit*>()->setText("Another"); }
+/// A file of that name would be found in the folder that is looked at.
+void FillName(WholeProgram& program, QDialog& dialog) {
+  dialog.findChild<QLineEdit*>()->setText(QString::fromStdString(program.PathOf("another")));
+}
 
-void FillOptions(QDialog& dialog) {
+void FillOptions(WholeProgram&, QDialog& dialog) {
   auto& grid = In<ColorGrid>(dialog, "grdColors(0)");
   grid.OpenList();
   auto& list = In<DropList>(dialog, "grdColors(1)");
@@ -56,7 +59,7 @@ void FillOptions(QDialog& dialog) {
   In<QTabWidget>(dialog, "tbsOptions").setCurrentIndex(0);
 }
 
-void FillDxf(QDialog& dialog) {
+void FillDxf(WholeProgram&, QDialog& dialog) {
   auto& size = In<QLineEdit>(dialog, "ftDXFTextsize");
   size.selectAll();
   QTest::keyClicks(&size, "5");
@@ -70,26 +73,26 @@ const Dialog kDialogs[] = {
     {"ExportDxf", "", Item("mnuFileExportDXF"), FillName},
     {"Print", "", Item("mnuFilePrint"), FillName},
     {"PageSetup", "PageSetup", Item("mnuFilePageSetup"),
-     [](QDialog& dialog) { In<QComboBox>(dialog, "Paper").setCurrentIndex(2); }},
+     [](WholeProgram&, QDialog& dialog) { In<QComboBox>(dialog, "Paper").setCurrentIndex(2); }},
     {"DxfSettings", "frmOptions", Item("mnuFileDXFSettings"), FillDxf},
     {"Options", "frmOptions", Item("mnuViewOptions"), FillOptions},
     {"Increment", "frmIncrement", Item("mnuSpinIncrement"),
-     [](QDialog& dialog) { In<QLineEdit>(dialog, "FtIncrement").setText("3"); }},
+     [](WholeProgram&, QDialog& dialog) { QTest::keyClicks(&In<QLineEdit>(dialog, "FtIncrement"), "3"); }},
     {"Tip", "frmTip", Item("mnuHelpTips"),
-     [](QDialog& dialog) { In<QPushButton>(dialog, "cmdNextTip").click(); }},
+     [](WholeProgram&, QDialog& dialog) { In<QPushButton>(dialog, "cmdNextTip").click(); }},
     {"About", "frmAbout", Item("mnuHelpAbout"),
-     [](QDialog& dialog) { In<QPushButton>(dialog, "cmdSysInfo").click(); }},
+     [](WholeProgram&, QDialog& dialog) { In<QPushButton>(dialog, "cmdSysInfo").click(); }},
     {"Disclaimer", "frmDisclaimer",
      [](WholeProgram& program) {
        program.store.Set("pitchcraft", "Options", "Show Tips at Startup", "0");
        program.window.ShowStartForms();
      },
-     [](QDialog&) {}},
+     [](WholeProgram&, QDialog&) {}},
     {"Message", "",
      [](WholeProgram& program) {
        program.window.OpenProject(QString::fromStdString(program.PathOf("nowhere.pcf")));
      },
-     [](QDialog&) {}},
+     [](WholeProgram&, QDialog&) {}},
 };
 
 /// All that a dialog could change: the document, the store, the printer, the files.
@@ -145,7 +148,7 @@ TEST_P(EscapeTest, LeavesAllAsItWas) {
         EXPECT_EQ(dialog.objectName(), row.object);
         EXPECT_FALSE(dialog.accessibleName().isEmpty());
       }
-      row.fill(dialog);
+      row.fill(program_, dialog);
       QTest::keyClick(&dialog, Qt::Key_Escape);
       EXPECT_FALSE(dialog.isVisible());
     });
