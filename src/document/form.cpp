@@ -28,7 +28,9 @@ FormLayout frmDocument::Layout() const {
 
 void frmDocument::Form_Load() {
   constexpr const char* kProcedure = "Form_Load";
-  Try(kProcedure, [&] { ReadSettingsIntoVariables(); });
+  const Settings stored = ReadSettings(surroundings_.store);
+  static_cast<Preferences&>(*this) = stored;
+  Window = {stored.MainLeft, stored.MainTop, stored.MainWidth, stored.MainHeight};
   Try(kProcedure, [&] { ColorFields(); });
   Try(kProcedure, [&] { CreateRafters(); });
   for (std::size_t place = 0; place < MRU::kPlaces; ++place) {
@@ -36,7 +38,6 @@ void frmDocument::Form_Load() {
   }
   Try(kProcedure, [&] { RecentFiles.LoadMRU(); });
   ShowProjectTitle("Untitled");
-  const Settings stored = ReadSettings(surroundings_.store);
   Window.Width = std::max(Window.Width, kMinimumWidth);
   Window.Height = std::max(Window.Height, kMinimumHeight);
   CalcEnabled = true;
@@ -47,33 +48,6 @@ void frmDocument::Form_Load() {
   Form_Resize();
   FocusSlope(0);
   SetHelpContext();
-}
-
-void frmDocument::ReadSettingsIntoVariables() {
-  const Settings stored = ReadSettings(surroundings_.store);
-  UseSystemColors = stored.UseSystemColors;
-  RotateFonts = stored.RotateFonts;
-  LineWidth = stored.LineWidth;
-  Spacing = stored.Spacing;
-  MetricSpacing = stored.MetricSpacing;
-  Increment = stored.Increment;
-  MetricIncrement = stored.MetricIncrement;
-  CtlBackColor = stored.CtlBackColor;
-  CtlForeColor = stored.CtlForeColor;
-  CtlCalcColor = stored.CtlCalcColor;
-  BackColor = stored.BackColor;
-  LineColor = stored.LineColor;
-  DimColor = stored.DimColor;
-  TextColor = stored.TextColor;
-  DXFBackcolor = stored.DXFBackcolor;
-  DXFTextcolor = stored.DXFTextcolor;
-  DXFLinecolor = stored.DXFLinecolor;
-  DXFDimcolor = stored.DXFDimcolor;
-  DXFTextsize = stored.DXFTextsize;
-  DXFMetricTextsize = stored.DXFMetricTextsize;
-  DXFDimTextsize = stored.DXFDimTextsize;
-  WindowState = stored.WindowState;
-  Window = {stored.MainLeft, stored.MainTop, stored.MainWidth, stored.MainHeight};
 }
 
 // A field that is switched off stays grey, and one that was calculated keeps the colour that says so.
@@ -154,15 +128,9 @@ void frmDocument::LayOutPictures() {
 
 void frmDocument::Form_Unload() {
   Settings settings = ReadSettings(surroundings_.store);
-  settings.UseSystemColors = UseSystemColors;
-  settings.RotateFonts = RotateFonts;
+  static_cast<Preferences&>(settings) = *this;
   settings.Units = Imperial() ? 0 : 1;
-  settings.LineWidth = LineWidth;
-  settings.Spacing = Spacing;
-  settings.Increment = Increment;
-  settings.MetricIncrement = MetricIncrement;
   settings.Degrees = menus.mnuSettingsDegrees.Checked;
-  settings.WindowState = WindowState;
   settings.MainLeft = Window.Left;
   settings.MainTop = Window.Top;
   settings.MainWidth = Window.Width;
@@ -174,20 +142,6 @@ void frmDocument::Form_Unload() {
                                                                 : "Corner";
   settings.OverhangsEqual = menus.mnuHipLayoutOverhangsEqual.Checked;
   settings.JackMeasurement = menus.mnuHipLayoutJackMeasurement.Checked;
-  settings.CtlBackColor = CtlBackColor;
-  settings.CtlForeColor = CtlForeColor;
-  settings.CtlCalcColor = CtlCalcColor;
-  settings.BackColor = BackColor;
-  settings.LineColor = LineColor;
-  settings.DimColor = DimColor;
-  settings.TextColor = TextColor;
-  settings.DXFBackcolor = DXFBackcolor;
-  settings.DXFTextcolor = DXFTextcolor;
-  settings.DXFLinecolor = DXFLinecolor;
-  settings.DXFDimcolor = DXFDimcolor;
-  settings.DXFTextsize = DXFTextsize;
-  settings.DXFMetricTextsize = DXFMetricTextsize;
-  settings.DXFDimTextsize = DXFDimTextsize;
   Try("Form_Unload", [&] { WriteSettings(settings, surroundings_.store); });
 }
 

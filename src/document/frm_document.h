@@ -28,7 +28,6 @@
 
 namespace pitchcraft {
 
-class IniText;
 enum class OptionsPage;
 
 /// The keys that a field's handler tells apart.
@@ -38,11 +37,11 @@ inline constexpr int kKeyEnter = 13;
 inline constexpr int kLeftButton = 1;
 inline constexpr int kRightButton = 2;
 
-/// The one window's document, without the window. A person's action reaches one handler here; the handler
-/// changes plain state and calculates; the calculation's event writes the results into the sheet and records
-/// the drawing. Whoever shows the document takes its state afterwards. Every handler traps the errors of the
-/// run time, shows them under its own name and goes on.
-class frmDocument {
+/// The one window's document, with the preferences as variables of its own, without the window. A person's
+/// action reaches one handler here; the handler changes plain state and calculates; the calculation's event
+/// writes the results into the sheet and records the drawing. Whoever shows the document takes its state
+/// afterwards. Every handler traps the errors of the run time, shows them under its own name and goes on.
+class frmDocument : public Preferences {
  public:
   explicit frmDocument(const Surroundings& surroundings);
   frmDocument(const frmDocument&) = delete;
@@ -61,23 +60,10 @@ class frmDocument {
   int BayEditMode = 0;       ///< which bay dimension was solved: 1 projection, 2 face, 3 back, 4 angle
   Single SavedGableSpan;     ///< Span before the gambrel was entered; 0 when nothing is saved
   Single SavedGableSlope;
-  Single Spacing = 16;
-  Single MetricSpacing = 400;
-  Single Increment = 0.25;        ///< step of the spin buttons, imperial
-  Single MetricIncrement = 0.25;  ///< the same, metric
   std::string ProjectName = "Untitled";
   std::string ProjectFile;
   static constexpr int kTitleLength = 60;  ///< letters of a path in the title
-  int LineWidth = 1;
   bool PrintAllBlack = false;
-  bool RotateFonts = false;
-  bool UseSystemColors = false;
-  std::uint32_t BackColor = 0, LineColor = 16777215, DimColor = 255, TextColor = 65535;
-  std::uint32_t CtlBackColor = kSystemWindowColor, CtlForeColor = kSystemWindowTextColor,
-                CtlCalcColor = 0x8000000E;
-  std::uint32_t DXFBackcolor = 0;
-  int DXFTextcolor = 14, DXFLinecolor = 15, DXFDimcolor = 12;
-  Single DXFTextsize = 2, DXFMetricTextsize = 50, DXFDimTextsize = 2;
 
   CRafter Rafter1;  ///< the main, front, bottom or short-valley rafter
   CRafter Rafter2;  ///< the rear, top, long-valley or Dutch rafter
@@ -97,7 +83,6 @@ class frmDocument {
   bool DrawingExists = true;    ///< false when the page shown has no drawing yet: its recording is empty
   bool CloseRequested = false;  ///< the window is to close
   bool DialogIsActive = false;  ///< another window has the focus and must keep it
-  int WindowState = 0;          ///< 0 normal, 1 minimized, 2 maximized
   Area Window{1000, 1000, 6500, 6500};  ///< place and size, twips
 
   bool Imperial() const { return UnitRun == 12; }
@@ -261,6 +246,8 @@ class frmDocument {
   void DefaultSlopeList();
 
  private:
+  friend class ProjectReader;  // plays a file through the handlers
+
   /// Runs one step; an error of the run time is shown under the procedure's name, and the next step follows.
   template <typename Step>
   void Try(const char* procedure, Step step) {
@@ -277,7 +264,6 @@ class frmDocument {
   int RoofPage() const { return sheet.VSTab[1].Page; }
 
   // Start-up and layout.
-  void ReadSettingsIntoVariables();
   void ColorFields();
   void CreateRafters();
   void ShowStoredOptions(const Settings& stored);
@@ -376,14 +362,6 @@ class frmDocument {
   // Projects.
   ProjectParts Project() { return {RoofType, Rafter1, Rafter2, sheet, menus}; }
   bool RefuseProject(const char* why);
-  bool ReadProject(const IniText& file);
-  bool PickProjectRoof(const std::string& text);
-  void ReadProjectKey(const ProjectKey& key, const std::string& text);
-  void PutBackTwice(const IniText& file);
-  void ReadKneewall(const ProjectKey& key, const std::string& text, std::size_t row);
-  void ReadGambrelSupport(const std::string& text);
-  void TakeProjectLocks();
-  void FinishProjectRoof();
   void ShowProjectTitle(const std::string& name) { Title = "Pitchcraft - [" + name + "]"; }
 
   // Forms.

@@ -14,29 +14,17 @@ inline constexpr std::uint32_t kSystemWindowColor = 0x80000005;
 inline constexpr std::uint32_t kSystemWindowTextColor = 0x80000008;
 inline constexpr std::uint32_t kSystemGrayTextColor = 0x80000011;
 
-/// The initial values are those of a first run. Colours are 0xBBGGRR, or a system colour code from 0x80000000
-/// up. Places and sizes are twips.
-struct Settings {
+/// What a session works with as it is stored. The initial values are those of a first run. Colours are
+/// 0xBBGGRR, or a system colour code from 0x80000000 up.
+struct Preferences {
   bool UseSystemColors = false;
   bool RotateFonts = false;
-  int Units = 0;  ///< 0 imperial, 1 metric
-  int LineWidth = 1;
+  int LineWidth = 1;  ///< of a printed line
   Single Spacing = 16;
   Single MetricSpacing = 400;
-  Single Increment = 0.25;
-  Single MetricIncrement = 0.25;
-  bool Degrees = false;  ///< slopes are entered in degrees
-  int WindowState = 0;   ///< 0 normal, 1 minimized, 2 maximized
-  int MainLeft = 1000;
-  int MainTop = 1000;
-  int MainWidth = 6500;
-  int MainHeight = 6500;
-  std::string Kneewall1 = "0";
-  std::string Kneewall2 = "0";
-  std::string HipLayout = "Corner";  ///< "Corner", "Center", "Corner Flush"
-  bool OverhangsEqual = true;
-  bool JackMeasurement = true;
-  int ShowDisclaimer = 1;
+  Single Increment = 0.25;        ///< step of the spin buttons, imperial
+  Single MetricIncrement = 0.25;  ///< the same, metric
+  int WindowState = 0;            ///< 0 normal, 1 minimized, 2 maximized
 
   std::uint32_t CtlBackColor = 0;
   std::uint32_t CtlForeColor = 65535;
@@ -53,7 +41,23 @@ struct Settings {
   Single DXFTextsize = 2;
   Single DXFMetricTextsize = 2;
   Single DXFDimTextsize = 2;
+};
 
+/// All that is stored: with the preferences what a session turns into something else. Places and sizes are
+/// twips.
+struct Settings : Preferences {
+  int Units = 0;         ///< 0 imperial, 1 metric
+  bool Degrees = false;  ///< slopes are entered in degrees
+  int MainLeft = 1000;
+  int MainTop = 1000;
+  int MainWidth = 6500;
+  int MainHeight = 6500;
+  std::string Kneewall1 = "0";
+  std::string Kneewall2 = "0";
+  std::string HipLayout = "Corner";  ///< "Corner", "Center", "Corner Flush"
+  bool OverhangsEqual = true;
+  bool JackMeasurement = true;
+  int ShowDisclaimer = 1;
   int ShowTipsAtStartup = 1;
 };
 
