@@ -48,10 +48,15 @@ void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), ColorOf(session_.Document().BackColor, palette()));
   PaintDrawing(painter);
-  if (!hasFocus()) return;
-  painter.resetTransform();
+  if (!hasFocus() || !cameByTab_) return;
   painter.setPen(palette().color(QPalette::Highlight));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// Whoever clicks on the drawing knows where the focus is; a frame would only disturb the picture.
+void PictureView::focusInEvent(QFocusEvent* event) {
+  cameByTab_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  QWidget::focusInEvent(event);
 }
 
 void PictureView::PaintDrawing(QPainter& painter) {

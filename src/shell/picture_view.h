@@ -27,6 +27,7 @@ class PictureView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -54,6 +55,7 @@ class PictureView : public QWidget {
   Zoom zoom_;
   std::optional<QPointF> grip_;  ///< where the drawing is held
   bool dragging_ = false;
+  bool cameByTab_ = false;
 };
 
 }  // namespace pitchcraft

@@ -13,6 +13,7 @@ namespace {
 constexpr int kTicks = 7;
 constexpr int kTick = 200;  // milliseconds
 constexpr int kLogo = 96;
+constexpr int kNameHeight = 34;
 const QColor kPaper(0xF7, 0xF4, 0xEC);
 const QColor kInk(0x1C, 0x22, 0x2B);
 
@@ -25,24 +26,25 @@ Splash::Splash(const QString& version) : QDialog(nullptr, Qt::SplashScreen | Qt:
   setModal(true);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(72, 32, 72, 28);
-  const auto add = [&](const char* name, const QString& text, int pixels, bool bold) {
+  // Each size of letters costs the start a search for its face: one is large, the rest are the desktop's.
+  const auto add = [&](const char* name, const QString& text) {
     auto* label = new QLabel(text, this);
     label->setObjectName(name);
     label->setAlignment(Qt::AlignHCenter);
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, kInk);
     label->setPalette(palette);
-    QFont font = label->font();
-    font.setPixelSize(pixels);
-    font.setBold(bold);
-    label->setFont(font);
     column->addWidget(label);
     return label;
   };
-  add("imgLogo", {}, 12, false)->setPixmap(ProgramIcon().pixmap(kLogo, kLogo));
-  add("lblProductName", "Pitchcraft", 34, true);
-  add("lblDescription", "Roof framing", 16, false);
-  add("lblVersion", "Version " + version, 13, false);
+  add("imgLogo", {})->setPixmap(ProgramIcon().pixmap(kLogo, kLogo));
+  QLabel* name = add("lblProductName", "Pitchcraft");
+  QFont large = name->font();
+  large.setPixelSize(kNameHeight);
+  large.setBold(true);
+  name->setFont(large);
+  add("lblDescription", "Roof framing");
+  add("lblVersion", "Version " + version);
   timer1_.start(kTick, this);
 }
 

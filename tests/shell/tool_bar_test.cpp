@@ -88,7 +88,9 @@ class ToolButtons : public ::testing::TestWithParam<ButtonRow> {
 
 TEST_P(ToolButtons, WorkByMouse) {
   const ButtonRow& row = GetParam();
-  EXPECT_EQ(program_.Find<QToolButton>(row.key).toolTip(), row.tip);
+  // A roof's keys stand behind it.
+  const QString tip = program_.Find<QToolButton>(row.key).toolTip();
+  EXPECT_EQ(tip.section(" (Alt+", 0, 0).toStdString(), row.tip);
   row.deed(program_, [&] {
     EXPECT_TRUE(program_.Find(row.key).isVisible());
     program_.Press(row.key);

@@ -146,6 +146,16 @@ TEST_F(View, KeysOnTheDrawing) {
   EXPECT_TRUE(Picture().View().ShowsAll());
 }
 
+TEST_F(View, TabFramesTheDrawingAndAClickDoesNot) {
+  const QImage plain = Shot();
+  QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {50, 50});
+  ASSERT_TRUE(Picture().hasFocus());
+  EXPECT_EQ(Shot(), plain);
+  Box("FtSpan(0)").setFocus();
+  Picture().setFocus(Qt::TabFocusReason);
+  EXPECT_NE(Shot(), plain);
+}
+
 TEST_F(View, KeysOfTheWindowWhereverTheFocusIs) {
   Box("FtSpan(0)").setFocus();
   Key(Qt::Key_Plus, Qt::ControlModifier);
