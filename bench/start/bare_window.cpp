@@ -1,5 +1,5 @@
-// What the toolkit alone needs for a window of this size: 60 controls, 90 menu items, 20 tool buttons and a
-// picture, with nothing behind them.
+// What the toolkit alone needs for a window of this size, with as many widgets of each kind, 90 menu items
+// and a picture, and nothing behind them.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPushButton>
+#include <QTabBar>
 #include <QToolButton>
 
 #include "first_paint.h"
@@ -27,17 +29,56 @@ class BarePicture : public QWidget {
   }
 };
 
-QWidget* Control(int number, QWidget* parent) {
-  const QString text = QString::number(number);
-  switch (number % 5) {
-    case 0: return new QLabel(text, parent);
-    case 1: return new QCheckBox(text, parent);
-    case 2: {
-      auto* box = new QComboBox(parent);
-      box->addItems({"one", "two", "three"});
-      return box;
+/// As many of a kind as the program's window makes, and of these as many as its first page shows.
+struct Kind {
+  QWidget* (*make)(QWidget* parent);
+  int made;
+  int shown;
+};
+
+template <typename Widget>
+QWidget* Make(QWidget* parent) {
+  return new Widget(parent);
+}
+template <typename Widget>
+QWidget* MakeWithText(QWidget* parent) {
+  return new Widget("10 1/2", parent);
+}
+QWidget* MakeList(QWidget* parent) {
+  auto* box = new QComboBox(parent);
+  box->addItems({"one", "two", "three"});
+  return box;
+}
+/// A field of two boxes and an arrow.
+QWidget* MakePair(QWidget* parent) {
+  auto* pair = new QWidget(parent);
+  (new QLineEdit("6", pair))->setGeometry(0, 0, 30, 23);
+  (new QLineEdit("12", pair))->setGeometry(30, 0, 30, 23);
+  (new QPushButton(pair))->setGeometry(60, 0, 8, 23);
+  return pair;
+}
+
+constexpr Kind kKinds[] = {
+    {MakeWithText<QLabel>, 34, 11},
+    {MakeWithText<QCheckBox>, 12, 3},
+    {MakeList, 2, 1},
+    {MakeWithText<QLineEdit>, 23, 5},
+    {MakePair, 14, 4},
+    {Make<QWidget>, 12, 5},
+    {MakeWithText<QPushButton>, 2, 0},
+    {Make<QTabBar>, 2, 1},
+};
+
+void AddControls(QWidget& window) {
+  int place = 0;
+  for (const Kind& kind : kKinds) {
+    for (int i = 0; i < kind.made; ++i) {
+      QWidget* control = kind.make(&window);
+      const bool shown = i < kind.shown;
+      control->setVisible(shown);
+      control->setGeometry(place % 4 * 66, 60 + place / 4 * 25, 64, 23);
+      if (shown) ++place;
     }
-    default: return new QLineEdit(text, parent);
   }
 }
 
@@ -59,7 +100,7 @@ int main(int argc, char** argv) {
     button->setText(QString::number(i));
     button->setGeometry(i * 28, 24, 28, 28);
   }
-  for (int i = 0; i < 60; ++i) Control(i, &window)->setGeometry(i % 4 * 66, 60 + i / 4 * 25, 64, 23);
+  AddControls(window);
   auto* picture = new BarePicture(&window);
   picture->setGeometry(270, 60, 350, 380);
   const pitchcraft::ExitAtFirstPaint exit(window);

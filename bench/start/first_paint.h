@@ -1,9 +1,12 @@
-// Ends the program when its window has been painted for the first time.
+// Ends the program when its window has been painted for the first time, with the number of its widgets on
+// standard output.
 #pragma once
 
+#include <QApplication>
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
+#include <cstdio>
 #include <cstdlib>
 
 namespace pitchcraft {
@@ -14,8 +17,15 @@ class ExitAtFirstPaint : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     // The children are painted after the window, all before the next turn of the loop.
-    if (event->type() == QEvent::Paint) QTimer::singleShot(0, [] { std::_Exit(0); });
+    if (event->type() == QEvent::Paint) QTimer::singleShot(0, [] { Exit(); });
     return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  [[noreturn]] static void Exit() {
+    std::printf("%d\n", static_cast<int>(QApplication::allWidgets().size()));
+    std::fflush(stdout);
+    std::_Exit(0);
   }
 };
 

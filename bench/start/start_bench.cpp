@@ -19,6 +19,12 @@ struct Cost {
   double processor = 0;
 };
 
+/// Of one program.
+struct Starts {
+  std::vector<Cost> costs;
+  int widgets = 0;
+};
+
 double ProcessorOfChildren() {
   rusage usage{};
   getrusage(RUSAGE_CHILDREN, &usage);
@@ -29,7 +35,7 @@ double ProcessorOfChildren() {
 }
 
 /// From the start of the program to its first picture, where it ends. False when no picture came.
-bool Run(const QString& program, std::vector<Cost>& costs) {
+bool Run(const QString& program, Starts& starts) {
   const double before = ProcessorOfChildren();
   QElapsedTimer timer;
   timer.start();
@@ -38,7 +44,8 @@ bool Run(const QString& program, std::vector<Cost>& costs) {
   process.start(program, {});
   const bool done = process.waitForFinished(30000);
   const double clock = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-  costs.push_back({clock, ProcessorOfChildren() - before});
+  starts.costs.push_back({clock, ProcessorOfChildren() - before});
+  starts.widgets = process.readAll().trimmed().split('\n').last().toInt();
   return done && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
@@ -49,10 +56,9 @@ double Median(const std::vector<Cost>& costs, double Cost::*which) {
   return times[times.size() / 2];
 }
 
-void Print(const char* what, const std::vector<Cost>& real, const std::vector<Cost>& bare,
-           double Cost::*which) {
-  const double window = Median(real, which);
-  const double plain = Median(bare, which);
+void Print(const char* what, const Starts& real, const Starts& bare, double Cost::*which) {
+  const double window = Median(real.costs, which);
+  const double plain = Median(bare.costs, which);
   std::printf("start to first paint, %s: window %.1f ms, bare window %.1f ms, ratio %.2f (aim 1.3)\n", what,
               window, plain, window / plain);
 }
@@ -63,8 +69,8 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QString folder = QCoreApplication::applicationDirPath();
-  std::vector<Cost> real;
-  std::vector<Cost> bare;
+  Starts real;
+  Starts bare;
   for (int run = 0; run <= kRuns; ++run) {
     if (!Run(folder + "/bench_start_bare", bare) || !Run(folder + "/bench_start_real", real)) {
       std::fputs("bench_start: a window did not come up\n", stderr);
@@ -72,9 +78,10 @@ int main(int argc, char** argv) {
     }
     if (run > 0) continue;
     // The first start reads the disk.
-    real.clear();
-    bare.clear();
+    real.costs.clear();
+    bare.costs.clear();
   }
+  std::printf("widgets: window %d, bare window %d\n", real.widgets, bare.widgets);
   Print("by the clock", real, bare, &Cost::clock);
   Print("processor", real, bare, &Cost::processor);
   return 0;

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <clocale>
 #include <memory>
@@ -16,7 +15,8 @@ const QString& FamilyName() {
   return name;
 }
 
-bool IsThere() { return QFontInfo(QFont(FamilyName())).family() == FamilyName(); }
+// Only the name is looked up: to ask for a font would load one of a size that nobody uses.
+bool IsThere() { return QFontDatabase::hasFamily(FamilyName()); }
 
 void IgnoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "platform/font_setup.h"
 #include "shell/icons.h"
 
 namespace pitchcraft {
@@ -13,7 +14,11 @@ namespace {
 constexpr int kTicks = 7;
 constexpr int kTick = 200;  // milliseconds
 constexpr int kLogo = 96;
-constexpr int kNameHeight = 34;
+constexpr int kSide = 84, kTop = 32, kBottom = 28;
+constexpr int kNameHeight = 44;
+constexpr int kNameBase = kTop + kLogo + 38;
+constexpr double kNameSize = 36;
+constexpr const char* kName = "Pitchcraft";
 const QColor kPaper(0xF7, 0xF4, 0xEC);
 const QColor kInk(0x1C, 0x22, 0x2B);
 
@@ -25,8 +30,7 @@ Splash::Splash(const QString& version) : QDialog(nullptr, Qt::SplashScreen | Qt:
   setAccessibleName("Pitchcraft " + version);
   setModal(true);
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(72, 32, 72, 28);
-  // Each size of letters costs the start a search for its face: one is large, the rest are the desktop's.
+  column->setContentsMargins(kSide, kTop, kSide, kBottom);
   const auto add = [&](const char* name, const QString& text) {
     auto* label = new QLabel(text, this);
     label->setObjectName(name);
@@ -38,11 +42,7 @@ Splash::Splash(const QString& version) : QDialog(nullptr, Qt::SplashScreen | Qt:
     return label;
   };
   add("imgLogo", {})->setPixmap(ProgramIcon().pixmap(kLogo, kLogo));
-  QLabel* name = add("lblProductName", "Pitchcraft");
-  QFont large = name->font();
-  large.setPixelSize(kNameHeight);
-  large.setBold(true);
-  name->setFont(large);
+  column->addSpacing(kNameHeight);
   add("lblDescription", "Roof framing");
   add("lblVersion", "Version " + version);
   timer1_.start(kTick, this);
@@ -68,6 +68,15 @@ void Splash::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), kPaper);
   painter.setPen(kInk);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  // Every font that a start loads takes time, so the name has the one that the drawing's title needs anyhow.
+  QFont font = DrawingFont();
+  font.setBold(true);
+  const QFontMetricsF metrics(font);
+  painter.setFont(font);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(width() / 2.0, kNameBase);
+  painter.scale(kNameSize / font.pixelSize(), kNameSize / font.pixelSize());
+  painter.drawText(QPointF(-metrics.horizontalAdvance(kName) / 2, 0), kName);
 }
 
 }  // namespace pitchcraft
