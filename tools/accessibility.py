@@ -176,13 +176,13 @@ def check_captions(fields, nodes, violations):
 def check_tab(fields, nodes, violations):
     """Tab comes to each field that can be used and starts again. Gives how many."""
     stops = [field for field in fields if has(field, Atspi.StateType.FOCUSABLE) and has(field, Atspi.StateType.ENABLED)]
-    # The captions of the pages stand between the last field and the first.
-    places = stops + [node for node in nodes if node.get_role_name() == "page tab list"]
+    # The captions of the pages and the drawing stand between the last field and the first.
+    places = stops + [node for node in nodes if node.get_role_name() in ("page tab list", "image", "graphic")]
     Atspi.Component.grab_focus(stops[0])
     wait_for(lambda: has(stops[0], Atspi.StateType.FOCUSED), "the focus")
     reached = set()
     focused = 0
-    for _ in range(len(stops) + 3):
+    for _ in range(len(places) + 1):
         press_tab()
 
         def moved(before=focused):

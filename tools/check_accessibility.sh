@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 
 program=$(realpath "${1:-build/asan/pitchcraft}")
 driver=$(realpath "${2:-$(dirname "$program")/pitchcraft-cli}")
-for needed in xvfb-run dbus-run-session; do
+for needed in Xvfb dbus-run-session; do
   command -v "$needed" >/dev/null || { echo "$0: $needed is missing: tools/packages.sh window accessibility" >&2; exit 2; }
 done
 # The binding belongs to the system's Python.
@@ -16,13 +16,22 @@ python=/usr/bin/python3
 if [ ! -x "$program" ] || [ ! -x "$driver" ]; then echo "usage: $0 [PROGRAM [DRIVER]]" >&2; exit 2; fi
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+screen=
+trap '[ -z "$screen" ] || kill "$screen"; rm -rf "$work"' EXIT
 mkdir -m 700 "$work/home" "$work/run"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share XDG_RUNTIME_DIR=$work/run
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+# The screen says its number as soon as it can be used, and stays when the first of its clients has gone.
+mkfifo "$work/number"
+Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/number" 2>"$work/screen.log" &
+screen=$!
+read -r -t 30 number <"$work/number" || { cat "$work/screen.log" >&2; exit 2; }
+export DISPLAY=:$number
+unset XAUTHORITY
+
 # What the buses tell about themselves is of interest only where the walk does not end.
 status=0
-timeout --kill-after=5 420 xvfb-run -a -s "-screen 0 1280x1024x24" dbus-run-session -- \
+timeout --kill-after=5 420 dbus-run-session -- \
   "$python" tools/accessibility.py "$program" "$driver" 2>"$work/log" || status=$?
 [ "$status" -le 1 ] || cat "$work/log" >&2
 if [ "$status" = 1 ]; then grep -v '^dbus-daemon\|^SpiRegistry' "$work/log" >&2 || true; fi

@@ -11,7 +11,7 @@ declare -A list=(
   [fuzz]="clang libclang-rt-14-dev"
   [bench]="libbenchmark-dev"
   [window]="xvfb"
-  [accessibility]="at-spi2-core gir1.2-atspi-2.0 python3-gi dbus xauth"
+  [accessibility]="at-spi2-core gir1.2-atspi-2.0 python3-gi dbus"
   [package]="dpkg-dev file"
   [readers]="python3-ezdxf librecad libwmf-bin libreoffice-draw poppler-utils"
 )
