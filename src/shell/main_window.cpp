@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "shell/entry_box.h"
 #include "shell/icons.h"
@@ -59,7 +60,7 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this,
           [this] { session_.Do([this](Actions&) { Document().ShowHelp(HelpPlace::kTopic); }); });
-  connect(&session_, &Session::Changed, this, &MainWindow::Sync);
+  connect(&session_, &Session::Changed, this, &MainWindow::FinishAction);
   // The action that asks for it comes to its end first.
   connect(this, &MainWindow::CloseAsked, this, &QWidget::close, Qt::QueuedConnection);
   connect(&session_, &Session::StatusChanged, this, &MainWindow::SyncStatus);
@@ -181,6 +182,11 @@ void MainWindow::Sync() {
   syncing_ = false;
 }
 
+void MainWindow::FinishAction() {
+  Sync();
+  if (std::exchange(layoutIsDue_, false)) LayOut();
+}
+
 void MainWindow::SyncOnce() {
   menus_->Sync();
   tools_->Sync();
@@ -246,7 +252,15 @@ void MainWindow::FollowSize() {
   const bool same = ToRect(now).size() == ToRect(place).size();
   if (same) return;
   place = now;
-  session_.Do([this](Actions&) { Document().Form_Resize(); });
+  LayOut();
+}
+
+// Under an open form the parts follow at once; what is drawn is drawn for the new size when the form is
+// closed.
+void MainWindow::LayOut() {
+  if (session_.Do([this](Actions&) { Document().Form_Resize(); })) return;
+  layoutIsDue_ = true;
+  Sync();
 }
 
 void MainWindow::resizeEvent(QResizeEvent*) { FollowSize(); }

@@ -54,6 +54,8 @@ class MainWindow : public QWidget {
   void TakeDroppedProjects();
   void GiveFocus();
   void FollowSize();
+  void LayOut();
+  void FinishAction();
   template <typename Action>
   void ForEachView(Action action);
 
@@ -70,6 +72,7 @@ class MainWindow : public QWidget {
   bool syncing_ = false;
   bool again_ = false;
   bool closed_ = false;
+  bool layoutIsDue_ = false;  ///< the size changed while a form was open
 };
 
 }  // namespace pitchcraft

@@ -19,14 +19,15 @@ class Session : public QObject {
   frmDocument& Document() { return document_; }
 
   /// Runs `action` with the actions of the document; the widgets take the new state after it. While an action
-  /// waits for its message to be read, no other one can begin.
+  /// waits for its message to be read, no other one can begin: false then.
   template <typename Action>
-  void Do(Action action) {
-    if (acting_) return;
+  bool Do(Action action) {
+    if (acting_) return false;
     acting_ = true;
     action(actions_);
     acting_ = false;
     emit Changed();
+    return true;
   }
 
   /// The pointer or the focus came to something; an empty name when it left.

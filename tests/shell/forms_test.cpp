@@ -109,6 +109,20 @@ TEST_F(FormWindow, DisclaimerComesAtTheStartAndStoresItsBoxAsItStands) {
   window_.ShowStartForms();
 }
 
+// A desktop that tiles its windows gives them their size while the forms of the start are open.
+TEST_F(FormWindow, TheWindowFollowsItsSizeUnderAnOpenForm) {
+  const int before = Document().Picture1.Place.Width;
+  const int width = window_.width() + 200;
+  With("mnuHelpTips", [&](QDialog& dialog) {
+    window_.resize(width, window_.height());
+    QApplication::processEvents();
+    EXPECT_EQ(Find("tbToolBar").width(), width);
+    EXPECT_EQ(Find("Picture1").width() * 15, before + 200 * 15);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  EXPECT_EQ(Document().Picture1.Place.Width, before + 200 * 15) << "drawn for the new size";
+}
+
 TEST_F(FormWindow, AboutShowsTheSystem) {
   With("mnuHelpAbout", [](QDialog& dialog) {
     EXPECT_TRUE(In<QLabel>(dialog, "lblVersion").text().startsWith("Version "));
