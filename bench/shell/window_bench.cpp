@@ -7,6 +7,7 @@
 #include <chrono>
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -56,6 +57,11 @@ void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
     const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - begin;
     steps.push_back(
         {taken.count(), example.filename().string() + ":" + std::to_string(number) + ": " + line});
+  }
+  // A line that is refused is quick.
+  if (output.str().find("\"error\"") != std::string::npos) {
+    std::fprintf(stderr, "bench_window: %s\n", output.str().c_str());
+    std::exit(1);
   }
 }
 

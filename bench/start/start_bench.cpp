@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -34,13 +36,21 @@ double ProcessorOfChildren() {
   return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
+/// Both start as on their first day, whatever the person at this machine has stored.
+QProcessEnvironment FirstDay(const QString& home) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) environment.insert(name, home);
+  return environment;
+}
+
 /// From the start of the program to its first picture, where it ends. False when no picture came.
-bool Run(const QString& program, Starts& starts) {
+bool Run(const QString& program, const QString& home, Starts& starts) {
   const double before = ProcessorOfChildren();
   QElapsedTimer timer;
   timer.start();
   QProcess process;
   process.setProcessChannelMode(QProcess::MergedChannels);
+  process.setProcessEnvironment(FirstDay(home));
   process.start(program, {});
   const bool done = process.waitForFinished(30000);
   const double clock = static_cast<double>(timer.nsecsElapsed()) / 1e6;
@@ -69,10 +79,12 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QString folder = QCoreApplication::applicationDirPath();
+  const QTemporaryDir home;
   Starts real;
   Starts bare;
   for (int run = 0; run <= kRuns; ++run) {
-    if (!Run(folder + "/bench_start_bare", bare) || !Run(folder + "/bench_start_real", real)) {
+    if (!Run(folder + "/bench_start_bare", home.path(), bare) ||
+        !Run(folder + "/bench_start_real", home.path(), real)) {
       std::fputs("bench_start: a window did not come up\n", stderr);
       return 1;
     }

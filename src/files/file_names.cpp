@@ -16,7 +16,9 @@ std::string WithExtension(const std::string& path, std::string_view extension) {
 }
 
 std::string ExtensionOf(const std::filesystem::path& path) {
-  std::string extension = path.extension().string();
+  const std::string name = FileNameOf(path.string());
+  const std::size_t point = name.find_last_of('.');
+  std::string extension = point == std::string::npos || point == 0 ? "" : name.substr(point);
   std::transform(extension.begin(), extension.end(), extension.begin(), [](char sign) {
     return sign >= 'A' && sign <= 'Z' ? static_cast<char>(sign - 'A' + 'a') : sign;
   });

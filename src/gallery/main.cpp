@@ -244,7 +244,7 @@ int main(int argc, char** argv) {
   pitchcraft::EnsureDrawingFont();
   const QStringList arguments = QCoreApplication::arguments().mid(1);
   if (arguments.isEmpty() || arguments.size() > 2) {
-    std::fputs("Usage: pitchcraft-gallery FOLDER [PAGE.md]\n", stderr);
+    std::fputs("Usage: pitchcraft_gallery FOLDER [PAGE.md]\n", stderr);
     return 2;
   }
   pitchcraft::Photographer photographer(arguments[0]);

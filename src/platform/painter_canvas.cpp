@@ -37,18 +37,19 @@ double AngleOn(const QRectF& box, CanvasPoint point) {
 
 }  // namespace
 
-PainterCanvas::PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter& meter, double unitsPerTwip)
+PainterCanvas::PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter& meter, double unitsPerTwip,
+                             double magnified)
     : Canvas(size, meter, unitsPerTwip),
       painter_(painter),
       font_(DrawingFont()),
       arialFamily_(font_.family()),
-      devicePixel_(1 / painter.device()->devicePixelRatio()) {
+      devicePixel_(1 / painter.device()->devicePixelRatio()),
+      hairline_((size.Printer ? kPaperHairlineTwips : kHairlineTwips) * unitsPerTwip / magnified) {
   painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
 void PainterCanvas::doPen(const CanvasPen& pen) {
-  const double hairline = Size().Printer ? kPaperHairlineTwips : kHairlineTwips;
-  const double width = std::max(pen.Width, hairline * UnitsPerTwip());
+  const double width = std::max(pen.Width, hairline_);
   // Whole device pixels: a line then begins and ends between two of them and is not smeared.
   penWidth_ = std::max(1.0, std::round(width / devicePixel_)) * devicePixel_;
   QPen qtPen(ToColor(pen.Color), penWidth_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);

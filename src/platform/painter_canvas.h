@@ -13,8 +13,11 @@ namespace pitchcraft {
 /// device.
 class PainterCanvas : public Canvas {
  public:
-  /// The painter outlives the canvas. `unitsPerTwip` is the size of a twip in the painter's coordinates.
-  PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter& meter, double unitsPerTwip);
+  /// The painter outlives the canvas. `unitsPerTwip` is the size of a twip in the painter's coordinates,
+  /// where the picture is looked at `magnified` times its size: its thinnest lines then stay as thin as they
+  /// are. The painter's origin stands on a whole device pixel, and it neither scales nor turns.
+  PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter& meter, double unitsPerTwip,
+                double magnified = 1);
 
  private:
   void doPen(const CanvasPen& pen) override;
@@ -33,6 +36,7 @@ class PainterCanvas : public Canvas {
   QFont font_;
   QString arialFamily_;  ///< the face that stands for Arial
   double devicePixel_;   ///< size of a device pixel in the painter's coordinates
+  double hairline_;      ///< the thinnest line, in the painter's coordinates
   double penWidth_ = 1;
 };
 

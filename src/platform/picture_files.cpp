@@ -115,8 +115,8 @@ QByteArray PictureBytes(const Picture& picture, PictureFormat format) {
   return PdfOf(picture);
 }
 
-void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip) {
-  PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), unitsPerTwip);
+void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip, double magnified) {
+  PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), unitsPerTwip, magnified);
   picture.Drawing.MetaPlay(canvas, kArea);
 }
 

@@ -26,8 +26,8 @@ struct Picture {
 Picture ShownPicture(const frmDocument& document);
 
 /// Paints the picture, its proportions kept, with a narrow border of its ground about it. The ground itself
-/// is there already. `unitsPerTwip` is the size of a twip in the painter's coordinates.
-void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip);
+/// is there already. `unitsPerTwip` and `magnified` are those of PainterCanvas.
+void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip, double magnified = 1);
 
 enum class PictureFormat { kPng, kSvg, kPdf };
 

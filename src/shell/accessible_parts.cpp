@@ -10,6 +10,7 @@
 #include "shell/list_field.h"
 #include "shell/main_window.h"
 #include "shell/spin_button.h"
+#include "shell/tool_strip.h"
 
 namespace pitchcraft {
 namespace {
@@ -80,6 +81,7 @@ class ChoicePart final : public ReadPart {
   QStringList actionNames() const override { return QStringList{showMenuAction()} + ReadPart::actionNames(); }
   void doAction(const QString& action) override {
     if (action != showMenuAction()) return ReadPart::doAction(action);
+    if (!Field().isEnabled() || !Field().isVisible()) return;
     if (Field().view()->isVisible()) {
       Field().hidePopup();
     } else {
@@ -124,7 +126,7 @@ class ToolPart final : public QAccessibleWidget {
     if (action == pressAction()) Button().click();
   }
   QStringList keyBindingsForAction(const QString& action) const override {
-    const QString keys = Button().shortcut().toString(QKeySequence::NativeText);
+    const QString keys = Button().property(kKeysProperty).toString();
     return action != pressAction() || keys.isEmpty() ? QStringList() : QStringList(keys);
   }
 
@@ -144,7 +146,7 @@ QAccessibleInterface* PartOf(const QString&, QObject* object) {
   if (auto* spin = qobject_cast<SpinView*>(widget)) return new SpinPart(spin);
   if (auto* choice = qobject_cast<ChoiceField*>(widget)) return new ChoicePart(choice);
   if (auto* button = qobject_cast<QToolButton*>(widget);
-      button != nullptr && button->parent()->objectName() == "tbToolBar") {
+      button != nullptr && qobject_cast<ToolStrip*>(button->parent()) != nullptr) {
     return new ToolPart(button);
   }
   if (qobject_cast<ListField*>(widget) != nullptr)

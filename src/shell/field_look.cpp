@@ -11,6 +11,8 @@ namespace pitchcraft {
 namespace {
 
 constexpr double kLeastForMarks = 3;
+constexpr double kLeastForText = 4.5;
+constexpr int kFaintest = 60;  // percent of the text's own colour
 
 double Luminance(const QColor& color) {
   const auto linear = [](double share) {
@@ -42,10 +44,15 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 QColor SwitchedOff(const QColor& text, const QColor& ground) {
-  constexpr float kShare = 0.62F;
-  const auto mix = [](float a, float b) { return a * kShare + b * (1 - kShare); };
-  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
-                          mix(text.blueF(), ground.blueF()));
+  // As faint as can still be read.
+  for (int percent = kFaintest; percent < 100; percent += 2) {
+    const float share = static_cast<float>(percent) / 100;
+    const auto mix = [share](float a, float b) { return a * share + b * (1 - share); };
+    const QColor grey = QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                                         mix(text.blueF(), ground.blueF()));
+    if (Contrast(grey, ground) >= kLeastForText) return grey;
+  }
+  return text;
 }
 
 QColor ColorOf(std::uint32_t value, const QPalette& desktop) {

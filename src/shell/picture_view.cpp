@@ -16,7 +16,7 @@
 namespace pitchcraft {
 namespace {
 
-constexpr double kKeyShare = 1.25;
+constexpr double kStep = 1.25;
 constexpr double kWheelDoubles = 480;  // four notches of a wheel
 constexpr double kArrowShare = 0.1;    // of the view
 
@@ -33,12 +33,17 @@ PictureView::PictureView(Session& session, int picture, QWidget* window)
 
 void PictureView::Sync() {
   const frmDocument& document = session_.Document();
-  const Subject now{document.RoofType, document.CurrentTab};
+  const Subject now{document.RoofType, document.CurrentTab, HasDrawing()};
   if (now != subject_) {
     subject_ = now;
     zoom_.Fit();
   }
   ShowZoom();
+}
+
+bool PictureView::HasDrawing() const {
+  const frmDocument& document = session_.Document();
+  return document.DrawingExists && document.board.MetaCanvas.IsClosed();
 }
 
 // --- Painting
@@ -55,7 +60,11 @@ void PictureView::paintEvent(QPaintEvent*) {
 
 // Whoever clicks on the drawing knows where the focus is; a frame would only disturb the picture.
 void PictureView::focusInEvent(QFocusEvent* event) {
-  cameByTab_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  const Qt::FocusReason reason = event->reason();
+  // A menu or another window only borrowed it.
+  const bool cameBack = reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason ||
+                        reason == Qt::ActiveWindowFocusReason;
+  if (!cameBack) cameByTab_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
   QWidget::focusInEvent(event);
 }
 
@@ -73,9 +82,11 @@ void PictureView::PaintDrawing(QPainter& painter) {
   picture.Size = {static_cast<double>(width()) * kTwipsPerPixel,
                   static_cast<double>(height()) * kTwipsPerPixel, false};
   painter.save();
-  painter.translate(zoom_.Offset());
-  painter.scale(zoom_.Factor(), zoom_.Factor());
-  PaintPicture(painter, picture, 1.0 / kTwipsPerPixel);
+  // Lines are sharp where the drawing begins on a whole pixel of the screen.
+  const double ratio = devicePixelRatioF();
+  const QPointF corner = zoom_.Offset() * ratio;
+  painter.translate(std::round(corner.x()) / ratio, std::round(corner.y()) / ratio);
+  PaintPicture(painter, picture, zoom_.Factor() / kTwipsPerPixel, zoom_.Factor());
   painter.restore();
 }
 
@@ -88,8 +99,14 @@ void PictureView::ShowZoom() {
   update();
 }
 
-void PictureView::ZoomBy(double share) {
-  zoom_.About(QRectF(rect()).center(), share, size());
+void PictureView::ZoomIn() { ZoomAbout(QRectF(rect()).center(), kStep); }
+
+void PictureView::ZoomOut() { ZoomAbout(QRectF(rect()).center(), 1 / kStep); }
+
+// Where nothing is drawn there is nothing to look closer at.
+void PictureView::ZoomAbout(QPointF place, double share) {
+  if (!HasDrawing()) return;
+  zoom_.About(place, share, size());
   ShowZoom();
 }
 
@@ -109,26 +126,34 @@ void PictureView::resizeEvent(QResizeEvent* event) {
 }
 
 void PictureView::wheelEvent(QWheelEvent* event) {
-  const double turned = event->angleDelta().y();
-  zoom_.About(event->position(), std::exp2(turned / kWheelDoubles), size());
-  ShowZoom();
+  ZoomAbout(event->position(), std::exp2(event->angleDelta().y() / kWheelDoubles));
   event->accept();
 }
 
 // --- The mouse
 // --------------------------------------------------------------------------------------------------------
 
+// On a magnified drawing a press may begin a drag: what it means is known when the button is let go.
 void PictureView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton) grip_ = event->position();
-  if (event->button() == Qt::LeftButton) {
+  if (event->button() == Qt::LeftButton && zoom_.ShowsAll()) {
     PressAt(kLeftButton, event->position(), event->globalPosition().toPoint());
   } else if (event->button() == Qt::RightButton) {
+    LetGo();
     PressAt(kRightButton, event->position(), event->globalPosition().toPoint());
   }
 }
 
-// A hand that only trembles does not drag.
+void PictureView::LetGo() {
+  grip_.reset();
+  dragging_ = false;
+  ShowZoom();
+}
+
+// A hand that only trembles does not drag, and one that let go over a message or a menu holds nothing any
+// more.
 void PictureView::mouseMoveEvent(QMouseEvent* event) {
+  if (!(event->buttons() & (Qt::LeftButton | Qt::MiddleButton))) return LetGo();
   if (!grip_ || zoom_.ShowsAll()) return;
   const QPointF moved = event->position() - *grip_;
   if (!dragging_ && moved.manhattanLength() < QApplication::startDragDistance()) return;
@@ -138,10 +163,9 @@ void PictureView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->buttons() != Qt::NoButton) return;
-  grip_.reset();
-  dragging_ = false;
-  ShowZoom();
+  const bool clicked = event->button() == Qt::LeftButton && grip_ && !dragging_ && !zoom_.ShowsAll();
+  if (event->buttons() == Qt::NoButton) LetGo();
+  if (clicked) PressAt(kLeftButton, event->position(), event->globalPosition().toPoint());
 }
 
 void PictureView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -167,8 +191,8 @@ void PictureView::keyPressEvent(QKeyEvent* event) {
   const double down = height() * kArrowShare;
   switch (event->key()) {
     case Qt::Key_Plus:
-    case Qt::Key_Equal: return ZoomBy(kKeyShare);
-    case Qt::Key_Minus: return ZoomBy(1 / kKeyShare);
+    case Qt::Key_Equal: return ZoomIn();
+    case Qt::Key_Minus: return ZoomOut();
     case Qt::Key_0:
     case Qt::Key_Home: return Fit();
     case Qt::Key_Left: return PanBy({across, 0});

@@ -20,8 +20,12 @@ class PictureView : public QWidget {
 
   /// Takes over that the document has drawn.
   void Sync();
-  void ZoomBy(double share);
+  /// About the middle, by one step.
+  void ZoomIn();
+  void ZoomOut();
   void Fit();
+  /// Without a drawing there is nothing to do to it.
+  bool HasDrawing() const;
   const Zoom& View() const { return zoom_; }
 
  protected:
@@ -41,12 +45,15 @@ class PictureView : public QWidget {
   struct Subject {
     int roofType = -1;
     int page = -1;
+    bool drawn = false;
     bool operator==(const Subject&) const = default;
   };
 
   void PaintDrawing(QPainter& painter);
   void PressAt(int button, QPointF place, const QPoint& onScreen);
+  void ZoomAbout(QPointF place, double share);
   void PanBy(QPointF by);
+  void LetGo();
   void ShowZoom();
 
   Session& session_;

@@ -47,8 +47,10 @@ ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), sessi
       session_.Do([&](Actions& actions) { actions.Press(key); });
     });
     if (!keys.isEmpty()) {
-      connect(new QShortcut(keys, window), &QShortcut::activated, this,
-              [this, key = row.Key] { PressByKeys(key); });
+      button->setProperty(kKeysProperty, keys.toString(QKeySequence::NativeText));
+      auto* shortcut = new QShortcut(keys, window);
+      shortcut->setAutoRepeat(false);
+      connect(shortcut, &QShortcut::activated, this, [this, key = row.Key] { PressByKeys(key); });
     }
     buttons_.push_back(button);
   }

@@ -7,7 +7,12 @@
 
 namespace pitchcraft {
 
+/// Of a button, for assistive programs: the keys that do the same.
+inline constexpr const char* kKeysProperty = "keys";
+
 class ToolStrip : public QWidget {
+  Q_OBJECT
+
  public:
   ToolStrip(Session& session, QWidget* window);
   void Sync();

@@ -1,28 +1,27 @@
 #include "shell/view_commands.h"
 
 #include "platform/clipboard.h"
+#include "shell/entry_box.h"
 
 namespace pitchcraft {
-namespace {
-
-constexpr double kShare = 1.25;
-
-}  // namespace
 
 ViewCommands::ViewCommands(Session& session, std::function<PictureView&()> shown, QWidget* window)
-    : QObject(window), session_(session) {
+    : QObject(window), session_(session), shown_(std::move(shown)) {
   // Where a text is being entered, the shorter keys copy from that.
   Add("CopyDrawing", tr("&Copy Drawing"), tr("Copy the current drawing to the clipboard."),
       {Qt::CTRL | Qt::SHIFT | Qt::Key_C, QKeySequence::Copy}, [this] {
+        // What is being typed belongs to the drawing; it may also leave none.
+        EntryBox::CommitFocused();
+        if (!shown_().HasDrawing()) return;
         CopyToClipboard(ShownPicture(session_.Document()));
         emit Said(tr("The drawing is on the clipboard."));
       });
   Add("ZoomIn", tr("Zoom &In"), tr("Show a part of the drawing larger."),
-      {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [shown] { shown().ZoomBy(kShare); });
+      {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [this] { shown_().ZoomIn(); });
   Add("ZoomOut", tr("Zoom &Out"), tr("Show more of the drawing."), {Qt::CTRL | Qt::Key_Minus},
-      [shown] { shown().ZoomBy(1 / kShare); });
+      [this] { shown_().ZoomOut(); });
   Add("FitDrawing", tr("&Fit Drawing"), tr("Show the whole drawing."), {Qt::CTRL | Qt::Key_0},
-      [shown] { shown().Fit(); });
+      [this] { shown_().Fit(); });
 }
 
 void ViewCommands::Add(const char* name, const QString& caption, const QString& hint,
@@ -36,8 +35,7 @@ void ViewCommands::Add(const char* name, const QString& caption, const QString& 
 }
 
 void ViewCommands::Sync() {
-  const frmDocument& document = session_.Document();
-  const bool drawn = document.DrawingExists && document.board.MetaCanvas.IsClosed();
+  const bool drawn = shown_().HasDrawing();
   for (QAction* command : all_) command->setEnabled(drawn);
 }
 

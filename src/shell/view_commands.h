@@ -18,7 +18,7 @@ class ViewCommands : public QObject {
   ViewCommands(Session& session, std::function<PictureView&()> shown, QWidget* window);
 
   const QList<QAction*>& All() const { return all_; }
-  /// Without a drawing there is nothing to do to it.
+  /// A page without a drawing knows none of them.
   void Sync();
 
  signals:
@@ -30,6 +30,7 @@ class ViewCommands : public QObject {
            const std::function<void()>& action);
 
   Session& session_;
+  std::function<PictureView&()> shown_;
   QList<QAction*> all_;
 };
 

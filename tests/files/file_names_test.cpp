@@ -23,6 +23,8 @@ TEST(FileNames, AnExtensionIsReadInSmallLetters) {
   EXPECT_EQ(ExtensionOf("Roof.PDF"), ".pdf");
   EXPECT_EQ(ExtensionOf("a.b/Roof"), "");
   EXPECT_EQ(ExtensionOf("Roof.Dxf.WMF"), ".wmf");
+  EXPECT_EQ(ExtensionOf("C:\\a.b\\c"), "");
+  EXPECT_EQ(ExtensionOf(".pcf"), "");
 }
 
 }  // namespace

@@ -114,12 +114,26 @@ TEST_P(Colors, OfWhatIsSwitchedOffCanBeRead) {
             0.7 * Of(*on, QPalette::WindowText, QPalette::Window));
 }
 
-TEST_P(Colors, OfCaptionsAndStatusStandOut) {
-  for (const char* name : {"StatusBar", "Label(10)", "tbToolBar", "VSTab(0)"}) {
-    const auto* part = window_->findChild<QWidget*>(name);
-    EXPECT_GE(Of(*part, QPalette::WindowText, QPalette::Window), kLeastForText) << name;
-    EXPECT_GE(Of(*part, QPalette::ButtonText, QPalette::Button), kLeastForText) << name;
+// The evening comes while the program runs.
+TEST_P(Colors, FollowADesktopThatChanges) {
+  QApplication::setPalette(GetParam() == std::string("Dark") ? before_ : DarkDesktop());
+  QApplication::processEvents();  // the news comes,
+  QApplication::processEvents();  // and the window follows it
+  ExpectReadableFields();
+  const QPalette now = QApplication::palette();
+  const auto* off = window_->findChild<EntryBox*>("FtKneewall(0)");
+  ASSERT_FALSE(off->isEnabled());
+  EXPECT_EQ(off->palette().color(QPalette::Disabled, QPalette::Base),
+            now.color(QPalette::Active, QPalette::Window).darker(106));
+  bool sawCaption = false;
+  for (const QLabel* caption : window_->findChildren<QLabel*>()) {
+    if (caption->text() != "Kneewall:") continue;
+    sawCaption = true;
+    EXPECT_EQ(caption->palette().color(QPalette::Active, QPalette::Window),
+              now.color(QPalette::Active, QPalette::Window));
+    EXPECT_GE(Of(*caption, QPalette::WindowText, QPalette::Window), kLeastForText);
   }
+  EXPECT_TRUE(sawCaption);
 }
 
 INSTANTIATE_TEST_SUITE_P(Desktops, Colors, ::testing::Values("Light", "Dark"),

@@ -212,7 +212,9 @@ TEST_F(Names, AssistiveProgramsClickAToolButton) {
   EXPECT_EQ(hip->role(), QAccessible::RadioButton);
   EXPECT_FALSE(hip->state().checked);
   ASSERT_EQ(hip->actionInterface()->actionNames().size(), 1);
-  hip->actionInterface()->doAction(hip->actionInterface()->actionNames().front());
+  const QString press = hip->actionInterface()->actionNames().front();
+  EXPECT_EQ(hip->actionInterface()->keyBindingsForAction(press), QStringList("Alt+4"));
+  hip->actionInterface()->doAction(press);
   EXPECT_EQ(Document().sheet.cboType.Text(), "Hip");
   EXPECT_TRUE(hip->state().checked);
 }

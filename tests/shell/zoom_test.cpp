@@ -4,6 +4,10 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <cmath>
+#include <tuple>
+#include <vector>
+
 namespace pitchcraft::testing {
 namespace {
 
