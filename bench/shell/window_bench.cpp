@@ -18,6 +18,7 @@
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
 #include "shell/main_window.h"
+#include "shell/program_style.h"
 
 namespace pitchcraft {
 namespace {
@@ -71,7 +72,7 @@ void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
 int main(int argc, char** argv) {
   using namespace pitchcraft;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication::setStyle("Fusion");
+  UseProgramStyle();
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   // Lists and exports are written where it stands.

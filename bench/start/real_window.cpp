@@ -11,12 +11,13 @@
 #include "shell/calculator_starter.h"
 #include "shell/help_viewer.h"
 #include "shell/main_window.h"
+#include "shell/program_style.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
 #include "shell/splash.h"
 
 int main(int argc, char** argv) {
-  QApplication::setStyle("Fusion");
+  pitchcraft::UseProgramStyle();
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   QCoreApplication::setOrganizationName("Pitchcraft");

@@ -18,6 +18,7 @@
 #include "sheet/roof_types.h"
 #include "shell/help_window.h"
 #include "shell/main_window.h"
+#include "shell/program_style.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
 #include "shell/splash.h"
@@ -238,7 +239,7 @@ class Photographer {
 }  // namespace pitchcraft
 
 int main(int argc, char** argv) {
-  QApplication::setStyle("Fusion");
+  pitchcraft::UseProgramStyle();
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   pitchcraft::EnsureDrawingFont();

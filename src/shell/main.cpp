@@ -12,6 +12,7 @@
 #include "shell/calculator_starter.h"
 #include "shell/help_viewer.h"
 #include "shell/main_window.h"
+#include "shell/program_style.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
 #include "shell/splash.h"
@@ -60,7 +61,7 @@ int main(int argc, char** argv) {
     return 1;
   }
   qInstallMessageHandler(Report);
-  QApplication::setStyle("Fusion");
+  pitchcraft::UseProgramStyle();
   QApplication application(argc, argv);
   // The toolkit takes over the user's locale; measures keep their decimal point.
   std::setlocale(LC_NUMERIC, "C");

@@ -114,6 +114,18 @@ TEST_P(Colors, OfWhatIsSwitchedOffCanBeRead) {
             0.7 * Of(*on, QPalette::WindowText, QPalette::Window));
 }
 
+TEST_P(Colors, OfAnEmptyBoxStandOut) {
+  auto* box = window_->findChild<QCheckBox*>("chkKneewall(0)");
+  ASSERT_TRUE(box->isVisible() && !box->isChecked());
+  const QImage shot = box->grab().toImage();
+  const QColor ground = shot.pixelColor(0, shot.height() - 1);
+  double best = 1;
+  for (int x = 0; x < shot.width(); ++x) {
+    best = std::max(best, Contrast(shot.pixelColor(x, shot.height() / 2), ground));
+  }
+  EXPECT_GE(best, kLeastForLines);
+}
+
 // The evening comes while the program runs.
 TEST_P(Colors, FollowADesktopThatChanges) {
   QApplication::setPalette(GetParam() == std::string("Dark") ? before_ : DarkDesktop());

@@ -8,10 +8,11 @@
 
 #include "platform/font_setup.h"
 #include "shell/accessible_parts.h"
+#include "shell/program_style.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  QApplication::setStyle("Fusion");
+  pitchcraft::UseProgramStyle();
   const QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   pitchcraft::EnsureDrawingFont();
