@@ -5,15 +5,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 
 #include "../../tests/support/random_walk.h"
 #include "document/null_surroundings.h"
-#include "platform/font_setup.h"
 #include "shell/main_window.h"
+#include "shell/program.h"
 #include "shell/program_style.h"
 
 namespace {
@@ -43,11 +42,10 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   UseProgramStyle();
   const QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
   // Lists and exports are written where it stands.
   const QTemporaryDir scratch;
   if (!QDir::setCurrent(scratch.path())) return 1;
-  EnsureDrawingFont();
+  SetUpApplication();
   const long asked = argc > 1 ? std::strtol(argv[1], nullptr, 10) : kActions;
   const long actions = asked > kParts ? asked : kActions;
   DeafDialogs dialogs;

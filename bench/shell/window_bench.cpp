@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -16,8 +15,8 @@
 
 #include "cli/script.h"
 #include "document/null_surroundings.h"
-#include "platform/font_setup.h"
 #include "shell/main_window.h"
+#include "shell/program.h"
 #include "shell/program_style.h"
 
 namespace pitchcraft {
@@ -74,11 +73,10 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   UseProgramStyle();
   const QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
   // Lists and exports are written where it stands.
   const QTemporaryDir scratch;
   if (!QDir::setCurrent(scratch.path())) return 1;
-  EnsureDrawingFont();
+  SetUpApplication();
   std::vector<Step> steps;
   for (int round = 0; round < kRounds; ++round) {
     for (const auto& entry : std::filesystem::directory_iterator(PITCHCRAFT_SOURCE_DIR "/examples")) {

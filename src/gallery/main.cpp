@@ -5,7 +5,6 @@
 #include <QPalette>
 #include <QTabWidget>
 #include <QWheelEvent>
-#include <clocale>
 #include <cstdio>
 
 #include "document/actions.h"
@@ -13,11 +12,11 @@
 #include "document/null_surroundings.h"
 #include "gallery/calculator.h"
 #include "gallery/gallery.h"
-#include "platform/font_setup.h"
 #include "platform/program_folder.h"
 #include "sheet/roof_types.h"
 #include "shell/help_window.h"
 #include "shell/main_window.h"
+#include "shell/program.h"
 #include "shell/program_style.h"
 #include "shell/qt_dialogs.h"
 #include "shell/qt_printer.h"
@@ -241,8 +240,7 @@ class Photographer {
 int main(int argc, char** argv) {
   pitchcraft::UseProgramStyle();
   const QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
-  pitchcraft::EnsureDrawingFont();
+  pitchcraft::SetUpApplication();
   const QStringList arguments = QCoreApplication::arguments().mid(1);
   if (arguments.isEmpty() || arguments.size() > 2) {
     std::fputs("Usage: pitchcraft_gallery FOLDER [PAGE.md]\n", stderr);

@@ -1,20 +1,11 @@
 // Starts the window.
 #include <QApplication>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
-#include "platform/font_setup.h"
-#include "platform/program_folder.h"
-#include "platform/qt_store.h"
-#include "shell/accessible_parts.h"
-#include "shell/calculator_starter.h"
-#include "shell/help_viewer.h"
-#include "shell/main_window.h"
+#include "shell/program.h"
 #include "shell/program_style.h"
-#include "shell/qt_dialogs.h"
-#include "shell/qt_printer.h"
 #include "shell/splash.h"
 
 namespace {
@@ -63,33 +54,15 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(Report);
   pitchcraft::UseProgramStyle();
   QApplication application(argc, argv);
-  // The toolkit takes over the user's locale; measures keep their decimal point.
-  std::setlocale(LC_NUMERIC, "C");
-  QCoreApplication::setOrganizationName("Pitchcraft");
-  QCoreApplication::setApplicationName("Pitchcraft");
-  QGuiApplication::setDesktopFileName("pitchcraft");
-  pitchcraft::EnsureDrawingFont();
-  pitchcraft::TellAccessibleParts();
+  pitchcraft::SetUpApplication();
 
   // The window is made behind it.
   pitchcraft::Splash splash(PITCHCRAFT_VERSION);
   splash.show();
   QCoreApplication::processEvents();
 
-  pitchcraft::QtDialogs dialogs;
-  pitchcraft::QtStore store;
-  pitchcraft::QtPrinter printer(dialogs);
-  pitchcraft::Surroundings around{dialogs, store, pitchcraft::ProgramFolder(), &printer};
-  const QString own = QCoreApplication::applicationDirPath();
-  pitchcraft::CalculatorStarter calculator({QString::fromStdString(around.programFolder.string()), own});
-  around.dataFolder = pitchcraft::DataFolder();
-  around.calculator = &calculator;
-  pitchcraft::HelpViewer help(pitchcraft::HelpFolder(own));
-  around.help = &help;
-  pitchcraft::MainWindow window(around);
-  dialogs.SetOwner(&window);
-  printer.SetOwner(&window);
-  dialogs.OnApplied([&window] { window.ShowState(); });
+  pitchcraft::Program program;
+  pitchcraft::MainWindow& window = program.Window();
   splash.Wait();
   window.Open();
   window.ShowStartForms();
