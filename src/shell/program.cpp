@@ -1,6 +1,7 @@
 #include "shell/program.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <clocale>
 
 #include "platform/font_setup.h"
@@ -9,6 +10,18 @@
 #include "shell/help_pages.h"
 
 namespace pitchcraft {
+namespace {
+
+// Where no face stands for the usual name, the system may answer with one of letters of equal width.
+void AvoidTypewriterLetters() {
+  QFont font = QApplication::font();
+  const QFontInfo shown(font);
+  if (!shown.fixedPitch() || shown.family() == font.family()) return;  // or somebody wants it so
+  font.setFamily(DrawingFont().family());
+  QApplication::setFont(font);
+}
+
+}  // namespace
 
 void SetUpApplication() {
   // The toolkit takes over the user's locale; measures keep their decimal point.
@@ -17,6 +30,7 @@ void SetUpApplication() {
   QCoreApplication::setApplicationName("Pitchcraft");
   QGuiApplication::setDesktopFileName("pitchcraft");
   EnsureDrawingFont();
+  AvoidTypewriterLetters();
   TellAccessibleParts();
 }
 
