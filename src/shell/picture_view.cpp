@@ -164,7 +164,7 @@ void PictureView::mouseMoveEvent(QMouseEvent* event) {
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {
   const bool clicked = event->button() == Qt::LeftButton && grip_ && !dragging_ && !zoom_.ShowsAll();
-  if (event->buttons() == Qt::NoButton) LetGo();
+  if (!(event->buttons() & (Qt::LeftButton | Qt::MiddleButton))) LetGo();
   if (clicked) PressAt(kLeftButton, event->position(), event->globalPosition().toPoint());
 }
 

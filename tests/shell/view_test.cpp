@@ -177,6 +177,8 @@ TEST_F(View, APopupTakesTheDrawingOutOfTheHand) {
   QTest::mousePress(&Picture(), Qt::RightButton, {}, {340, 230});
   Popup().close();
   EXPECT_EQ(Picture().cursor().shape(), Qt::OpenHandCursor);
+  QTest::mouseRelease(&Picture(), Qt::RightButton);
+  QTest::mouseRelease(&Picture(), Qt::LeftButton);
 }
 
 TEST_F(View, WhereNothingIsDrawnNothingIsMagnified) {
