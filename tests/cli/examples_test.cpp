@@ -2,23 +2,12 @@
 // example_figures_test.cpp, which come from the geometry and not from the program, had been found in them.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-
+#include "../support/examples.h"
 #include "../support/golden.h"
 #include "script_runner.h"
 
 namespace pitchcraft {
 namespace {
-
-std::vector<std::string> ExampleNames() {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(PITCHCRAFT_SOURCE_DIR "/examples")) {
-    if (entry.path().extension() == ".txt") names.push_back(entry.path().stem().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
 
 /// One member a line, so that the first difference names it.
 std::string Spread(const std::vector<Json>& events) {
@@ -36,11 +25,12 @@ TEST_P(ExamplesTest, PrintsWhatItAlwaysPrinted) {
   testing::ExpectGolden("cli/golden/" + GetParam() + ".json", Spread(run.events));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ExamplesTest, ::testing::ValuesIn(ExampleNames()), [](const auto& test) {
-  std::string name = test.param;
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(All, ExamplesTest, ::testing::ValuesIn(testing::ExampleNames()),
+                         [](const auto& test) {
+                           std::string name = test.param;
+                           std::replace(name.begin(), name.end(), '-', '_');
+                           return name;
+                         });
 
 }  // namespace
 }  // namespace pitchcraft

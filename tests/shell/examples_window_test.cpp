@@ -1,21 +1,11 @@
 // Every script of examples/ done by hand in the window: it ends where the driver ends.
-#include <algorithm>
-#include <filesystem>
 #include <fstream>
 
+#include "../support/examples.h"
 #include "script_hand.h"
 
 namespace pitchcraft::testing {
 namespace {
-
-std::vector<std::string> ExampleNames() {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(PITCHCRAFT_SOURCE_DIR "/examples")) {
-    if (entry.path().extension() == ".txt") names.push_back(entry.path().stem().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
 
 class ExampleWindow : public ::testing::TestWithParam<std::string> {
  protected:
