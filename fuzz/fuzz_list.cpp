@@ -9,7 +9,7 @@
 #include <fstream>
 #include <string>
 
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 
 namespace {
@@ -34,18 +34,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::ofstream(kFolder.path / name, std::ios::binary | std::ios::trunc) << std::string(data, data + size);
   }
   NullSurroundings around;
-  frmDocument document({around.dialogs, around.store, kFolder.path});
+  Document document({around.dialogs, around.store, kFolder.path});
   document.Form_Load();
-  for (int row = 0; row < static_cast<int>(document.sheet.LWSlope[0].List().size()); ++row) {
-    document.sheet.LWSlope[0].SetListIndex(row);
+  for (int row = 0; row < static_cast<int>(document.sheet.Slope[0].List().size()); ++row) {
+    document.sheet.Slope[0].SetListIndex(row);
     document.LWSlope_Click(0);
   }
-  for (int row = 0; row < static_cast<int>(document.sheet.LWRafter[0].List().size()); ++row) {
-    document.sheet.LWRafter[0].SetListIndex(row);
+  for (int row = 0; row < static_cast<int>(document.sheet.Common[0].List().size()); ++row) {
+    document.sheet.Common[0].SetListIndex(row);
     document.LWRafter_Commit(0);
   }
-  for (int row = 0; row < static_cast<int>(document.sheet.cboDegrees[0].List().size()); ++row) {
-    document.sheet.cboDegrees[0].SetListIndex(row);
+  for (int row = 0; row < static_cast<int>(document.sheet.Degrees[0].List().size()); ++row) {
+    document.sheet.Degrees[0].SetListIndex(row);
     document.cboDegrees_Click(0);
   }
   document.Form_Unload();

@@ -10,11 +10,11 @@
 #include <string>
 #include <string_view>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace {
 
-using pitchcraft::FtInConverter;
+using pitchcraft::MeasureConverter;
 
 constexpr double kMillimetresPerInch = 25.4;
 constexpr std::size_t kLongestText = 24;
@@ -27,12 +27,12 @@ void Require(bool holds, const char* what, double value, const std::string& show
 }
 
 // Half a sixteenth, half a millimetre, or the seventh significant digit; plain numbers keep their decimals.
-double Tolerance(const FtInConverter& converter, double value) {
+double Tolerance(const MeasureConverter& converter, double value) {
   const double unit = converter.BaseUnits == pitchcraft::kBaseMillimetres ? kMillimetresPerInch : 1;
   return std::max(unit / 32 * (1 + 1e-9), std::abs(value) * 5.1e-7);
 }
 
-void ShowAndReadBack(FtInConverter& converter, double value) {
+void ShowAndReadBack(MeasureConverter& converter, double value) {
   using namespace pitchcraft;
   for (const int units : {kFeetAndInches, kInchesAlone, kMillimetres, kPlainNumber}) {
     converter.Units = units;
@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(data, data + size);
   double bits = 0;
   if (size > 0) std::memcpy(&bits, data, std::min(size, sizeof(bits)));  // the bytes as a number of any kind
-  FtInConverter converter;
+  MeasureConverter converter;
   for (const int base : {pitchcraft::kBaseInches, pitchcraft::kBaseMillimetres}) {
     converter.BaseUnits = base;
     const double value = converter.ToValue(text);

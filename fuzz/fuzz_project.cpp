@@ -10,7 +10,7 @@
 #include <fstream>
 #include <string>
 
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 
 namespace {
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const std::string kFile = ScratchFile();
   std::ofstream(kFile, std::ios::binary | std::ios::trunc) << std::string(data, data + size);
   NullSurroundings around;
-  frmDocument document(around.Get());
+  Document document(around.Get());
   document.Form_Load();
   const bool loaded = document.LoadRafter(kFile);
   Require(document.LoadingProject == 0, "loading did not end");

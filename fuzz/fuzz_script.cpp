@@ -25,10 +25,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::ostringstream output;
   MemoryStore store;
   ScriptDialogs dialogs(output);
-  frmDocument document({dialogs, store, {}});
+  Document document({dialogs, store, {}});
   document.Form_Load();
-  Script script(document, dialogs, output,
-                [](const frmDocument&, const std::string&) { return std::nullopt; });
+  Script script(document, dialogs, output, [](const Document&, const std::string&) { return std::nullopt; });
   std::istringstream input(std::string(data, data + size));
   const int status = script.Run(input);
   Require(status == kDone || status == kWorkFailed || status == kNotUnderstood, "an exit status of its own");

@@ -21,17 +21,17 @@ constexpr int kRoofs = 64;
 struct Procedure {
   const char* Name;
   RafterType Type;
-  void (CRafter::*Record)();
+  void (Rafter::*Record)();
   void (*Plain)(PlainRafter&);
 };
 
 const Procedure kProcedures[] = {
-    {"Calculate, common", RafterType::kCommon, &CRafter::Calculate, PlainCalculate},
-    {"Calculate, hip", RafterType::kHip, &CRafter::Calculate, PlainCalculate},
-    {"CalculateBastardHip", RafterType::kBastardHip, &CRafter::CalculateBastardHip, PlainBastardHip},
-    {"CalculateGambrel", RafterType::kGambrelBottom, &CRafter::CalculateGambrel, PlainGambrel},
-    {"CalculateBay", RafterType::kBayCommon, &CRafter::CalculateBay, PlainBay},
-    {"CalculateOctagon", RafterType::kOctagonHip, &CRafter::CalculateOctagon, PlainOctagon},
+    {"Calculate, common", RafterType::kCommon, &Rafter::Calculate, PlainCalculate},
+    {"Calculate, hip", RafterType::kHip, &Rafter::Calculate, PlainCalculate},
+    {"CalculateBastardHip", RafterType::kBastardHip, &Rafter::CalculateBastardHip, PlainBastardHip},
+    {"CalculateGambrel", RafterType::kGambrelBottom, &Rafter::CalculateGambrel, PlainGambrel},
+    {"CalculateBay", RafterType::kBayCommon, &Rafter::CalculateBay, PlainBay},
+    {"CalculateOctagon", RafterType::kOctagonHip, &Rafter::CalculateOctagon, PlainOctagon},
 };
 
 constexpr double kBayDegrees = 45;
@@ -41,7 +41,7 @@ double SpanOf(int roof) { return 100.0 + roof * 2.3; }
 double HipRunFactor() { return 12 / std::cos(kBayDegrees / 2 * std::numbers::pi / 180); }
 double LedgerRunFactor() { return 12 / std::sin(kBayDegrees * std::numbers::pi / 180); }
 
-void SetUp(CRafter& r, const Procedure& procedure, int roof) {
+void SetUp(Rafter& r, const Procedure& procedure, int roof) {
   r.RafterType = procedure.Type;
   r.Slope = SlopeOf(roof);
   r.HipEndSlope = SlopeOf(roof) + 1;
@@ -89,11 +89,11 @@ void SetUp(PlainRafter& r, const Procedure& procedure, int roof) {
 }
 
 void RunRecord(benchmark::State& state, const Procedure& procedure) {
-  const auto rafters = std::make_unique<CRafter[]>(kRoofs);
+  const auto rafters = std::make_unique<Rafter[]>(kRoofs);
   for (int roof = 0; roof < kRoofs; ++roof) SetUp(rafters[roof], procedure, roof);
   for (auto _ : state) {
     for (int roof = 0; roof < kRoofs; ++roof) {
-      CRafter& rafter = rafters[roof];
+      Rafter& rafter = rafters[roof];
       rafter.OverhangsEqual = false;
       (rafter.*procedure.Record)();
       benchmark::DoNotOptimize(rafter);
@@ -118,7 +118,7 @@ void RunPlain(benchmark::State& state, const Procedure& procedure) {
 // A yardstick that reckoned something else would be worth nothing.
 void CheckThatBothAgree(const Procedure& procedure) {
   for (int roof = 0; roof < kRoofs; ++roof) {
-    CRafter record;
+    Rafter record;
     PlainRafter plain{};
     SetUp(record, procedure, roof);
     SetUp(plain, procedure, roof);

@@ -37,7 +37,7 @@ double Median(std::vector<double> values) {
 /// A document on a screen of 1920 by 1080.
 struct Bench {
   NullSurroundings around;
-  frmDocument document{around.Get()};
+  Document document{around.Get()};
   Actions actions{document};
   QImage image{kImageWidth, kImageHeight, QImage::Format_ARGB32_Premultiplied};
 
@@ -62,7 +62,7 @@ struct Bench {
     QPainter painter(&image);
     PainterCanvas canvas(painter, {kImageWidth * kTwipsPerPixel, kImageHeight * kTwipsPerPixel, false},
                          document.meter, 1 / kTwipsPerPixel);
-    document.board.MetaCanvas.MetaPlay(canvas);
+    document.board.Recorder.Play(canvas);
     painter.end();
     return Seconds(std::chrono::steady_clock::now() - start);
   }
@@ -104,10 +104,9 @@ void CommitsOfAScript() {
   std::ostringstream output;
   MemoryStore store;
   ScriptDialogs dialogs(output);
-  frmDocument document({dialogs, store, {}});
+  Document document({dialogs, store, {}});
   document.Form_Load();
-  Script script(document, dialogs, output,
-                [](const frmDocument&, const std::string&) { return std::nullopt; });
+  Script script(document, dialogs, output, [](const Document&, const std::string&) { return std::nullopt; });
   constexpr int kLines = 20000;
   std::string text;
   for (int i = 0; i < kLines; ++i) text += "type FtSpan(0) " + std::to_string(120 + i % 97) + "\n";

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 
 namespace pitchcraft {
@@ -21,7 +21,7 @@ constexpr int kLayoutPage = 3;
 /// A hip roof with that many jacks on its two faces, on its layout page.
 struct Layout {
   NullSurroundings around;
-  frmDocument document{around.Get()};
+  Document document{around.Get()};
   Actions actions{document};
   std::vector<double> seconds;
 

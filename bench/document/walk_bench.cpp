@@ -27,7 +27,7 @@ int main() {
   constexpr int kSteps = 50000;
   constexpr std::size_t kShown = 8;
   NullSurroundings around;
-  frmDocument document(around.Get());
+  Document document(around.Get());
   document.Form_Load();
   RandomWalk walk(document, 1);
   std::vector<std::pair<double, std::string>> steps;

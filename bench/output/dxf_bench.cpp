@@ -1,4 +1,4 @@
-// Writing a DXF file with all that the largest drawing holds: CDxfWriter against ezdxf, the same entities, in
+// Writing a DXF file with all that the largest drawing holds: DxfWriter against ezdxf, the same entities, in
 // one run. Either tells its entities one by one and saves them in a file. Python's start is not counted.
 #include <algorithm>
 #include <array>
@@ -19,7 +19,7 @@ constexpr int kTexts = 300;
 constexpr int kDimensions = 60;
 constexpr int kRounds = 15;
 
-void Tell(CDxfWriter& writer) {
+void Tell(DxfWriter& writer) {
   for (int i = 0; i < kLines; ++i) writer.Line(i, 0.5 * i, i + 7.25, 0.25 * i);
   for (int i = 0; i < kTexts; ++i) writer.Text("Rafter " + std::to_string(i), i, 2.0 * i, 4, i % 90);
   for (int i = 0; i < kDimensions; ++i) writer.DimHorizontal(i, 0, 100 + i, 10, -10 - i);
@@ -28,7 +28,7 @@ void Tell(CDxfWriter& writer) {
 template <typename Finish>
 double Milliseconds(Finish finish) {
   const auto start = std::chrono::steady_clock::now();
-  CDxfWriter writer;
+  DxfWriter writer;
   Tell(writer);
   finish(writer);
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
@@ -63,11 +63,11 @@ int Compare(const std::string& folder) {
   std::vector<double> told;   // until the bytes are there
   std::size_t size = 0;
   for (int i = 0; i < kRounds; ++i) {
-    saved.push_back(Milliseconds([&](CDxfWriter& writer) {
+    saved.push_back(Milliseconds([&](DxfWriter& writer) {
       writer.FileName = folder + "/ours.dxf";
       writer.Save();
     }));
-    told.push_back(Milliseconds([&](CDxfWriter& writer) { size = writer.Bytes().size(); }));
+    told.push_back(Milliseconds([&](DxfWriter& writer) { size = writer.Bytes().size(); }));
   }
   const std::vector<double> theirs = OtherRounds(folder + "/theirs.dxf");
   std::printf("%d lines, %d texts, %d dimensions; medians of %d files\n", kLines, kTexts, kDimensions,

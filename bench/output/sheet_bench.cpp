@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
 #include "platform/pdf_pages.h"
@@ -118,7 +118,7 @@ int main() {
   EnsureGui();
   NullSurroundings around;
   KeepingPrinter printer;
-  frmDocument document({around.dialogs, around.store, {}, &printer});
+  Document document({around.dialogs, around.store, {}, &printer});
   document.Form_Load();
   Actions actions(document);
   actions.Pick("cboType", "Hip");

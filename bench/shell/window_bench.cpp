@@ -43,7 +43,7 @@ void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
   MemoryStore store;
   MainWindow window({dialogs, store, {}});
   Script script(window.Document(), dialogs, output,
-                [](frmDocument&, const std::string&) { return std::nullopt; });
+                [](Document&, const std::string&) { return std::nullopt; });
   window.Open();
   window.resize(1280, 900);
   QApplication::processEvents();

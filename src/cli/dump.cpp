@@ -7,7 +7,7 @@
 namespace pitchcraft {
 namespace {
 
-Json DumpVariables(const frmDocument& d) {
+Json DumpVariables(const Document& d) {
   return {
       {"RoofType", d.RoofType},
       {"UnitRun", d.UnitRun},
@@ -38,13 +38,13 @@ Json DumpVariables(const frmDocument& d) {
       {"LineColor", d.LineColor},
       {"DimColor", d.DimColor},
       {"TextColor", d.TextColor},
-      {"DXFBackcolor", d.DXFBackcolor},
-      {"DXFTextcolor", d.DXFTextcolor},
-      {"DXFLinecolor", d.DXFLinecolor},
-      {"DXFDimcolor", d.DXFDimcolor},
-      {"DXFTextsize", NumberOf(d.DXFTextsize)},
-      {"DXFMetricTextsize", NumberOf(d.DXFMetricTextsize)},
-      {"DXFDimTextsize", NumberOf(d.DXFDimTextsize)},
+      {"DXFBackcolor", d.DxfBackColor},
+      {"DXFTextcolor", d.DxfTextColor},
+      {"DXFLinecolor", d.DxfLineColor},
+      {"DXFDimcolor", d.DxfDimColor},
+      {"DXFTextsize", NumberOf(d.DxfTextSize)},
+      {"DXFMetricTextsize", NumberOf(d.DxfMetricTextSize)},
+      {"DXFDimTextsize", NumberOf(d.DxfDimTextSize)},
   };
 }
 
@@ -69,14 +69,14 @@ Json DumpToolBar(const ToolBar& toolBar) {
 
 Json DumpTabs(const Sheet& sheet) {
   Json dump = Json::object();
-  for (std::size_t i = 0; i < sheet.VSTab.size(); ++i) {
-    dump["VSTab(" + std::to_string(i) + ")"] = {{"Caption", sheet.VSTab[i].Caption()},
-                                                {"Page", sheet.VSTab[i].Page}};
+  for (std::size_t i = 0; i < sheet.Tabs.size(); ++i) {
+    dump["VSTab(" + std::to_string(i) + ")"] = {{"Caption", sheet.Tabs[i].Caption()},
+                                                {"Page", sheet.Tabs[i].Page}};
   }
   return dump;
 }
 
-Json DumpRafter(const CRafter& rafter) {
+Json DumpRafter(const Rafter& rafter) {
   Json dump = Json::object();
   for (const RafterMember& member : RafterMembers()) {
     dump[member.Name] = std::visit(
@@ -95,20 +95,20 @@ Json DumpRafter(const CRafter& rafter) {
 
 struct MemberRow {
   const char* name;
-  Json (*dump)(const frmDocument&);
+  Json (*dump)(const Document&);
 };
 
 constexpr MemberRow kMembers[] = {
-    {"title", [](const frmDocument& d) -> Json { return d.Title; }},
-    {"status", [](const frmDocument& d) -> Json { return d.StatusText; }},
-    {"document", [](const frmDocument& d) { return DumpVariables(d); }},
-    {"sheet", [](const frmDocument& d) { return DumpSheet(d.sheet); }},
-    {"menus", [](const frmDocument& d) { return DumpMenus(d.menus); }},
-    {"toolbar", [](const frmDocument& d) { return DumpToolBar(d.tbToolBar); }},
-    {"tabs", [](const frmDocument& d) { return DumpTabs(d.sheet); }},
-    {"Rafter1", [](const frmDocument& d) { return DumpRafter(d.Rafter1); }},
-    {"Rafter2", [](const frmDocument& d) { return DumpRafter(d.Rafter2); }},
-    {"drawing", [](const frmDocument& d) { return DumpDrawing(d); }},
+    {"title", [](const Document& d) -> Json { return d.Title; }},
+    {"status", [](const Document& d) -> Json { return d.StatusText; }},
+    {"document", [](const Document& d) { return DumpVariables(d); }},
+    {"sheet", [](const Document& d) { return DumpSheet(d.sheet); }},
+    {"menus", [](const Document& d) { return DumpMenus(d.menus); }},
+    {"toolbar", [](const Document& d) { return DumpToolBar(d.toolBar); }},
+    {"tabs", [](const Document& d) { return DumpTabs(d.sheet); }},
+    {"Rafter1", [](const Document& d) { return DumpRafter(d.Rafter1); }},
+    {"Rafter2", [](const Document& d) { return DumpRafter(d.Rafter2); }},
+    {"drawing", [](const Document& d) { return DumpDrawing(d); }},
 };
 
 }  // namespace
@@ -122,7 +122,7 @@ const std::vector<std::string>& DumpMembers() {
   return names;
 }
 
-Json DumpOf(const frmDocument& document, const std::vector<std::string>& members) {
+Json DumpOf(const Document& document, const std::vector<std::string>& members) {
   Json dump = {{"event", "dump"}};
   for (const MemberRow& row : kMembers) {
     const bool wanted =

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cli/json_number.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 
@@ -13,10 +13,10 @@ namespace pitchcraft {
 const std::vector<std::string>& DumpMembers();
 
 /// {"event":"dump", ...} with the named members, or all where none is named. Unknown names are left out.
-Json DumpOf(const frmDocument& document, const std::vector<std::string>& members = {});
+Json DumpOf(const Document& document, const std::vector<std::string>& members = {});
 
 // Single members of it.
 Json DumpSheet(const Sheet& sheet);
-Json DumpDrawing(const frmDocument& document);
+Json DumpDrawing(const Document& document);
 
 }  // namespace pitchcraft

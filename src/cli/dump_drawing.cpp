@@ -83,9 +83,9 @@ Json DumpDimensionPoints(const std::vector<DimensionValue>& values) {
 
 }  // namespace
 
-Json DumpDrawing(const frmDocument& document) {
+Json DumpDrawing(const Document& document) {
   const DraftingBoard& board = document.board;
-  const CMetaFile& canvas = board.MetaCanvas;
+  const DrawingRecorder& canvas = board.Recorder;
   Json operations = Json::array();
   for (const DrawOp& operation : canvas.Operations())
     operations.push_back(std::visit(OperationDump{}, operation));

@@ -7,12 +7,12 @@ namespace {
 struct OwnMembers {
   Json& dump;
 
-  void operator()(const FtInText* field) const {
+  void operator()(const MeasureControl* field) const {
     dump["Value"] = NumberOf(field->Value());
     dump["Text"] = field->Text();
     dump["ForeColor"] = field->ForeColor;
   }
-  void operator()(const LWCombo* field) const {
+  void operator()(const PairControl* field) const {
     dump["LeftValue"] = NumberOf(field->LeftValue());
     dump["RightValue"] = NumberOf(field->RightValue());
     dump["LeftText"] = field->LeftText();
@@ -20,7 +20,7 @@ struct OwnMembers {
     dump["ListIndex"] = field->ListIndex();
     dump["Locked"] = field->Locked;
     Json list = Json::array();
-    for (const LWRow& row : field->List()) list.push_back(row.Caption);
+    for (const PairRow& row : field->List()) list.push_back(row.Caption);
     dump["List"] = std::move(list);
   }
   void operator()(const ComboControl* combo) const {

@@ -27,7 +27,7 @@ int Fail(const std::string& text, int status) {
 }
 
 /// DXF and metafile are the document's own exports, the rest are pictures of what it shows.
-std::optional<std::string> WriteShownPicture(frmDocument& document, const std::string& file) {
+std::optional<std::string> WriteShownPicture(Document& document, const std::string& file) {
   const std::string extension = ExtensionOf(file);
   try {
     if (extension == ".dxf") {
@@ -106,7 +106,7 @@ struct ProjectRequest {
 };
 
 /// Writes what the request asks for. Gives what went wrong, or nothing.
-std::optional<std::string> WriteOut(frmDocument& document, DriverSurroundings& around,
+std::optional<std::string> WriteOut(Document& document, DriverSurroundings& around,
                                     const ProjectRequest& request) {
   if (!request.onPaper) return WriteShownPicture(document, request.out);
   around.printer.file = request.out;
@@ -119,7 +119,7 @@ int ShowProject(const ProjectRequest& request) {
   Stores stores(request.data);
   LookedAtStore store(stores.Get());
   DriverSurroundings around(store, request.data);
-  frmDocument document(around.Get());
+  Document document(around.Get());
   document.Form_Load();
   if (!document.OpenProject(request.project)) {
     std::cout.flush();
@@ -151,7 +151,7 @@ int RunScript(const std::string& data, const std::string& scriptFile) {
   }
   Stores stores(data);
   DriverSurroundings around(stores.Get(), data);
-  frmDocument document(around.Get());
+  Document document(around.Get());
   document.Form_Load();
   Script script(document, around.dialogs, std::cout, &WriteShownPicture);
   const int status = script.Run(fromFile ? file : std::cin);

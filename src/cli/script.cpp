@@ -46,9 +46,9 @@ struct FormReply {
   ScriptDialogs& dialogs;
 
   void operator()(IncrementForm* form) const {
-    const auto reply = dialogs.Answer(IncrementForm::kName, IncrementForm::kTitle, form->FtIncrement.Text());
+    const auto reply = dialogs.Answer(IncrementForm::kName, IncrementForm::kTitle, form->Increment.Text());
     if (!reply) return;
-    form->FtIncrement.SetText(*reply);
+    form->Increment.SetText(*reply);
     form->Accepted = true;
   }
   void operator()(OptionsForm* form) const {
@@ -97,8 +97,7 @@ std::optional<std::string> ScriptDialogs::Answer(const char* kind, const std::st
   return answer;
 }
 
-Script::Script(frmDocument& document, ScriptDialogs& dialogs, std::ostream& output,
-               PictureWriter writePicture)
+Script::Script(Document& document, ScriptDialogs& dialogs, std::ostream& output, PictureWriter writePicture)
     : document_(document),
       dialogs_(dialogs),
       output_(output),

@@ -11,13 +11,13 @@
 
 #include "cli/json_number.h"
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 
 /// Writes the drawing that the document shows to a file, format by extension. Gives what went wrong, or
 /// nothing.
-using PictureWriter = std::function<std::optional<std::string>(frmDocument&, const std::string& file)>;
+using PictureWriter = std::function<std::optional<std::string>(Document&, const std::string& file)>;
 
 /// Exit statuses of the driver.
 inline constexpr int kDone = 0;
@@ -48,7 +48,7 @@ class ScriptDialogs final : public Dialogs {
 
 class Script {
  public:
-  Script(frmDocument& document, ScriptDialogs& dialogs, std::ostream& output, PictureWriter writePicture);
+  Script(Document& document, ScriptDialogs& dialogs, std::ostream& output, PictureWriter writePicture);
 
   /// Runs every line to the end of the input, or until the document closes. A line that is not understood or
   /// refused is reported as an error event, and the next one follows. Returns the exit status.
@@ -65,7 +65,7 @@ class Script {
   Refusal Dump(std::string_view rest);
   void Error(const std::string& text, int status);
 
-  frmDocument& document_;
+  Document& document_;
   ScriptDialogs& dialogs_;
   std::ostream& output_;
   PictureWriter writePicture_;

@@ -11,7 +11,7 @@ using Type = RafterType;
 
 }  // namespace
 
-void CRafter::Calculate() {
+void Rafter::Calculate() {
   if (RafterType == Type::kBastardHip) {
     CalculateBastardHip();
     return;
@@ -36,7 +36,7 @@ void CRafter::Calculate() {
 }
 
 // A roof with equal slopes is a hip whose end is like its sides.
-void CRafter::TakeHipEndFromMainRoof() {
+void Rafter::TakeHipEndFromMainRoof() {
   HipEndOverhangExcess = 0;
   HipEndDrop = 0;
   HipShift = 0;
@@ -52,7 +52,7 @@ void CRafter::TakeHipEndFromMainRoof() {
   HipAngle2 = 45;
 }
 
-void CRafter::CalculatePlumbCuts() {
+void Rafter::CalculatePlumbCuts() {
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   let(HipValPlumbCut) = PlumbDepth(Slope, HipValDepth, HipRun);
   LimitTo(AdjFasciaHeight, PlumbCut);
@@ -62,7 +62,7 @@ void CRafter::CalculatePlumbCuts() {
   if (onHipOrValley && AdjFasciaHeight > HipValPlumbCut) AdjFasciaHeight = PlumbCut;
 }
 
-void CRafter::CalculateRidgeAllowances() {
+void Rafter::CalculateRidgeAllowances() {
   // The hip meets two commons at 45 degrees, so its allowance goes by their thickness, not by its own.
   let(HipRidgeAllowance) = Hypotenuse(Thickness, Thickness) / 2;
   if (RafterType == Type::kValley || RafterType == Type::kLongValley) {
@@ -76,13 +76,13 @@ void CRafter::CalculateRidgeAllowances() {
   let(RidgeAllowance) = RafterType == Type::kShed ? double{RidgeThickness} : RidgeThickness / 2;
 }
 
-void CRafter::CalculateHeelAndSeat() {
+void Rafter::CalculateHeelAndSeat() {
   ApplyLocks(HeelLocked, SeatLocked, kDefaultHeelShare);
   LimitHeel(kDefaultHeelShare, ZeroHeel::kClearsOverhang);
   LimitFasciaWithoutOverhang();
 }
 
-void CRafter::CalculateHipDropAndSeat() {
+void Rafter::CalculateHipDropAndSeat() {
   let(HipDrop) = 0;
   if (RafterType == Type::kHip) {
     let(HipDrop) = (HipValThickness / 2) * TanDegrees(45);
@@ -95,7 +95,7 @@ void CRafter::CalculateHipDropAndSeat() {
   }
 }
 
-void CRafter::CalculateRunsAndRises() {
+void Rafter::CalculateRunsAndRises() {
   HipValSpan = Span * HipFactor;
   let(LedgerSpan) = 0;
   AdjSpan = Span - RidgeAllowance;
@@ -109,7 +109,7 @@ void CRafter::CalculateRunsAndRises() {
   let(KneewallRise) = RiseOver(Kneewall);
 }
 
-void CRafter::CalculateLengths() {
+void Rafter::CalculateLengths() {
   let(CommonLength1) = Hypotenuse(Rise, AdjSpan);
   let(HipEndLength1) = CommonLength1;
   let(CommonLength2) = Hypotenuse(RiseWithOverhang, AdjSpanWithOverhang);
@@ -127,7 +127,7 @@ void CRafter::CalculateLengths() {
   }
 }
 
-void CRafter::CalculateJackDifferences() {
+void Rafter::CalculateJackDifferences() {
   const Single length = std::sqrt(Slope * Slope + (SlopeBase == 12 ? 144.0 : 1000000.0));
   let(CommonDifference) = length / SlopeBase;
   let(CommonDifference16) = length * 16 / SlopeBase;
@@ -138,7 +138,7 @@ void CRafter::CalculateJackDifferences() {
   let(HipEndCommonDifference) = CommonDifference;
 }
 
-void CRafter::SetBevels() {
+void Rafter::SetBevels() {
   const bool square = RafterType == Type::kCommon || RafterType == Type::kShed;
   const bool bevelled = RafterType == Type::kHip || IsValley(RafterType);
   if (!square && !bevelled) return;

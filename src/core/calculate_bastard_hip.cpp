@@ -12,7 +12,7 @@ using Type = RafterType;
 
 }  // namespace
 
-void CRafter::CalculateBastardHip() {
+void Rafter::CalculateBastardHip() {
   if (OverhangsEqual) {
     CalculateAdjustedBastardHip();
     return;
@@ -41,7 +41,7 @@ void CRafter::CalculateBastardHip() {
   RaiseCalculated();
 }
 
-void CRafter::CalculateAdjustedBastardHip() {
+void Rafter::CalculateAdjustedBastardHip() {
   AdjFasciaHeight = FasciaHeight;
   const Single endRun = Slope / HipEndSlope * Span;
   const Single hipRunPerRun = Hypotenuse(endRun, Span) / Span;
@@ -67,9 +67,9 @@ void CRafter::CalculateAdjustedBastardHip() {
 }
 
 // The roof of an irregular plan has no calculation yet; its place in the interface is kept.
-void CRafter::CalculateIrregular() {}
+void Rafter::CalculateIrregular() {}
 
-void CRafter::CalculateMainCommonRuns() {
+void Rafter::CalculateMainCommonRuns() {
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   let(RidgeAllowance) = RidgeThickness / 2;
   AdjSpan = Span - RidgeAllowance;
@@ -78,7 +78,7 @@ void CRafter::CalculateMainCommonRuns() {
 
 // The end that meets the main roof in a hip over the corner of the walls: both faces rise alike over their
 // runs.
-void CRafter::TakeNaturalHipEnd(double endRun) {
+void Rafter::TakeNaturalHipEnd(double endRun) {
   HipEndOverhang = Slope / HipEndSlope * Overhang;
   HipEndSpan = endRun;
   HipAngle1 = DegreesOf(Span / HipEndSpan);
@@ -86,21 +86,21 @@ void CRafter::TakeNaturalHipEnd(double endRun) {
 }
 
 // The eaves stay where they meet at one height; the end wall moves until its overhang is that of the sides.
-void CRafter::MakeOverhangsEqual() {
+void Rafter::MakeOverhangsEqual() {
   HipEndOverhangExcess = Overhang - HipEndOverhang;
   HipEndDrop = HipEndOverhangExcess * HipEndSlope / SlopeBase;
   HipEndOverhang = Overhang;
   HipEndSpan = HipEndSpan - HipEndOverhangExcess;
 }
 
-void CRafter::CalculateHipEndRuns() {
+void Rafter::CalculateHipEndRuns() {
   HipEndRidgeAllowance = Slope / HipEndSlope * RidgeAllowance;
   AdjHipEndSpan = HipEndSpan - HipEndRidgeAllowance;
   AdjHipEndSpanWithOverhang = AdjHipEndSpan + HipEndOverhang;
   let(HipEndPlumbCut) = PlumbDepth(HipEndSlope, Depth, SlopeBase);
 }
 
-void CRafter::CalculateBastardHipSlope(double hipRunPerRun) {
+void Rafter::CalculateBastardHipSlope(double hipRunPerRun) {
   HipValSlope = Slope / hipRunPerRun;
   let(HipDegrees) = RoundedDegrees(HipValSlope);
   let(HipValOverhang) = Overhang * hipRunPerRun;
@@ -108,7 +108,7 @@ void CRafter::CalculateBastardHipSlope(double hipRunPerRun) {
   let(HipValPlumbCut) = PlumbDepth(HipValSlope, HipValDepth, SlopeBase);
 }
 
-void CRafter::ShiftHipForEqualOverhangs() {
+void Rafter::ShiftHipForEqualOverhangs() {
   // Whoever calculates the adjusted roof without asking for equal overhangs gets its lengths, but no shifted
   // line.
   const bool shifts = OverhangsEqual.Stored() == -1;
@@ -123,17 +123,17 @@ void CRafter::ShiftHipForEqualOverhangs() {
   }
 }
 
-void CRafter::CalculateBastardHipRuns() {
+void Rafter::CalculateBastardHipRuns() {
   AdjHipSpan = HipValSpan - HipRidgeAllowance;
   AdjHipSpanWithOverhang = AdjHipSpan + HipValOverhang;
 }
 
-void CRafter::CalculateBastardHipFascia() {
+void Rafter::CalculateBastardHipFascia() {
   LimitTo(AdjFasciaHeight, PlumbCut);
   HipEndFasciaCut = std::min<double>(AdjFasciaHeight, HipValPlumbCut);
 }
 
-void CRafter::CalculateBastardHipHeels() {
+void Rafter::CalculateBastardHipHeels() {
   ApplyLocks(HeelLocked, SeatLocked, kDefaultHeelShare);
   LimitHeel(kDefaultHeelShare, ZeroHeel::kTakesDefault);
   LimitFasciaWithoutOverhang();
@@ -148,12 +148,12 @@ void CRafter::CalculateBastardHipHeels() {
   HipFasciaCut = AdjFasciaHeight - HipDrop;
 }
 
-void CRafter::CalculateMainRises() {
+void Rafter::CalculateMainRises() {
   Rise = RiseOver(AdjSpan);
   RiseWithOverhang = RiseOver(AdjSpanWithOverhang);
 }
 
-void CRafter::SetHipRises(double hipRise, double hipEndRise) {
+void Rafter::SetHipRises(double hipRise, double hipEndRise) {
   HipRise = hipRise;
   HipEndRise = hipEndRise;
   // From fascia to ridge all of them climb the same height.
@@ -161,7 +161,7 @@ void CRafter::SetHipRises(double hipRise, double hipEndRise) {
   HipEndRiseWithOverhang = RiseWithOverhang;
 }
 
-void CRafter::CalculateBastardHipLengths() {
+void Rafter::CalculateBastardHipLengths() {
   let(CommonLength1) = Hypotenuse(Rise, AdjSpan);
   let(HipEndLength1) = Hypotenuse(Rise, AdjHipEndSpan);
   let(CommonLength2) = Hypotenuse(RiseWithOverhang, AdjSpanWithOverhang);
@@ -180,7 +180,7 @@ void CRafter::CalculateBastardHipLengths() {
 
 // Jacks of the end step along the end wall, those of the sides along the main wall, so each face steps by the
 // other's run: `endRun` and `mainRun` are the runs of a jack that stands SlopeBase away from the corner.
-void CRafter::CalculateBastardJackDifferences(double endRun, double mainRun) {
+void Rafter::CalculateBastardJackDifferences(double endRun, double mainRun) {
   const auto lengthOver = [this](Single run, double slope) -> Single {
     const Single rise = slope * run / SlopeBase;
     return Hypotenuse(rise, run);
@@ -195,7 +195,7 @@ void CRafter::CalculateBastardJackDifferences(double endRun, double mainRun) {
   let(CommonDifference) = main / SlopeBase;
 }
 
-void CRafter::WriteBastardHipTexts() {
+void Rafter::WriteBastardHipTexts() {
   let(Pitch) = PitchText(Slope);
   let(HipPitch) = HipPitchText();
   let(HipEndPitch) = PitchText(HipEndSlope);

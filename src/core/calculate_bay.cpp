@@ -10,7 +10,7 @@ using Type = RafterType;
 
 }  // namespace
 
-void CRafter::CalculateBay() {
+void Rafter::CalculateBay() {
   if (Projection * Face * Back * BayAngle == 0) return;
   AdjFasciaHeight = FasciaHeight;
   CalculateBaySlopes();
@@ -27,14 +27,14 @@ void CRafter::CalculateBay() {
   RaiseCalculated();
 }
 
-void CRafter::CalculateBaySlopes() {
+void Rafter::CalculateBaySlopes() {
   HipValSlope = SlopeBase * Slope / HipRunFactor;
   let(LedgerSlope) = SlopeBase * Slope / LedgerRunFactor;
   let(HipDegrees) = RoundedDegrees(HipValSlope);
   LedgerDegrees = RoundedDegrees(LedgerSlope);
 }
 
-void CRafter::CalculateBayAllowancesAndDrops() {
+void Rafter::CalculateBayAllowancesAndDrops() {
   // A bay's rafters butt the main wall or its ledger, so the whole board is in their way.
   let(RidgeAllowance) = RidgeThickness;
   let(HipRidgeAllowance) = RidgeThickness / CosDegrees(BayAngle / 2);
@@ -46,7 +46,7 @@ void CRafter::CalculateBayAllowancesAndDrops() {
   let(HipDrop) = HipDrop * Slope / HipRunFactor;
 }
 
-void CRafter::CalculateBayHeel() {
+void Rafter::CalculateBayHeel() {
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   // A bay takes any lock but 0 for a set one.
   ApplyLocks(HeelLocked.Stored() != 0, SeatLocked.Stored() != 0, kDefaultHeelShare);
@@ -58,7 +58,7 @@ void CRafter::CalculateBayHeel() {
   LimitFasciaWithoutOverhang();
 }
 
-void CRafter::CalculateBayHip() {
+void Rafter::CalculateBayHip() {
   let(HipHeel) = Heel - HipDrop;
   HipFasciaHeight = AdjFasciaHeight - HipDrop;
   let(HipValPlumbCut) = PlumbDepth(Slope, HipValDepth, HipRunFactor);
@@ -66,7 +66,7 @@ void CRafter::CalculateBayHip() {
   LimitTo(HipFasciaHeight, HipValPlumbCut);
 }
 
-void CRafter::CalculateBayLedger() {
+void Rafter::CalculateBayLedger() {
   LedgerHeel = Heel - LedgerDrop;
   LedgerFasciaHeight = AdjFasciaHeight - LedgerDrop;
   let(LedgerPlumbCut) = PlumbDepth(Slope, RidgeDepth, LedgerRunFactor);  // it is cut from ridge lumber
@@ -74,7 +74,7 @@ void CRafter::CalculateBayLedger() {
   LimitTo(LedgerFasciaHeight, LedgerPlumbCut);
 }
 
-void CRafter::CalculateBayRuns() {
+void Rafter::CalculateBayRuns() {
   HipValSpan = Projection * HipRunFactor / SlopeBase;
   let(LedgerSpan) = Projection * LedgerRunFactor / SlopeBase;
   AdjSpan = Projection - RidgeAllowance;
@@ -85,7 +85,7 @@ void CRafter::CalculateBayRuns() {
   AdjLedgerSpanWithOverhang = AdjLedgerSpan + LedgerOverhang;
 }
 
-void CRafter::CalculateBayRisesAndLengths() {
+void Rafter::CalculateBayRisesAndLengths() {
   Rise = RiseOver(AdjSpan);
   RiseWithOverhang = RiseOver(AdjSpanWithOverhang);
   HipRise = HipValSlope * AdjHipSpan / SlopeBase;
@@ -100,7 +100,7 @@ void CRafter::CalculateBayRisesAndLengths() {
   let(LedgerLength2) = Hypotenuse(LedgerRiseWithOverhang, AdjLedgerSpanWithOverhang);
 }
 
-void CRafter::CalculateBayJackDifferences() {
+void Rafter::CalculateBayJackDifferences() {
   // A jack's length for SlopeBase of run. It is reckoned in inches in metric too, and stays so.
   const double length = std::sqrt(Slope * Slope + 144);
   const double hipCorner = TanDegrees(BayAngle / 2);
@@ -118,7 +118,7 @@ void CRafter::CalculateBayJackDifferences() {
 
 // Each page of a bay shows its own two texts, all cut to the width of the slope that the page is about. The
 // center ledger is level and has none.
-void CRafter::WriteBayTexts() {
+void Rafter::WriteBayTexts() {
   const std::string slope = PlainText(WholeInMetric(Slope));
   const std::string hipSlope = PlainText(WholeInMetric(HipValSlope));
   if (RafterType == Type::kBayCommon) {

@@ -37,7 +37,7 @@ struct Joint {
 
 }  // namespace
 
-void CRafter::CalculateGambrel() {
+void Rafter::CalculateGambrel() {
   AdjFasciaHeight = FasciaHeight;
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   let(PlumbRun) = SlopeBase * PlumbCut / Slope;
@@ -62,7 +62,7 @@ void CRafter::CalculateGambrel() {
   RaiseCalculated();
 }
 
-void CRafter::CalculateGambrelBottomJoint() {
+void Rafter::CalculateGambrelBottomJoint() {
   if (Purlins) {
     const Single own = AngleOf(Slope, SlopeBase);
     const Joint joint(own, own, AngleOf(HipValSlope, SlopeBase), RidgeThickness);
@@ -78,7 +78,7 @@ void CRafter::CalculateGambrelBottomJoint() {
   JointOffset = 0;
 }
 
-void CRafter::CalculateGambrelTopJoint() {
+void Rafter::CalculateGambrelTopJoint() {
   let(RidgeAllowance) = RidgeThickness / 2;
   JointCutAngle = DegreesOf(SlopeBase / Slope);
   if (Purlins) {
@@ -98,7 +98,7 @@ void CRafter::CalculateGambrelTopJoint() {
   }
 }
 
-void CRafter::CalculateGambrelRunsAndLengths() {
+void Rafter::CalculateGambrelRunsAndLengths() {
   AdjSpan = Span - RidgeAllowance - JointOffset;
   AdjSpanWithOverhang = AdjSpan + Overhang;
   RiseToSpan = RiseOver(Span);

@@ -17,7 +17,7 @@ constexpr double kCornerDegrees = 67.5;    // between the hip and the wall
 
 }  // namespace
 
-void CRafter::CalculateOctagon() {
+void Rafter::CalculateOctagon() {
   AdjFasciaHeight = FasciaHeight;
   if (Span == 0) {
     Span = HipValSpan * kSideRunPerHipRun;
@@ -39,7 +39,7 @@ void CRafter::CalculateOctagon() {
   RaiseCalculated();
 }
 
-void CRafter::CalculateOctagonRuns() {
+void Rafter::CalculateOctagonRuns() {
   HipEndSpan = Span * TanDegrees(kHalfSideDegrees) + Span * TanDegrees(kHalfSideDegrees);
   let(PlumbCut) = PlumbDepth(Slope, Depth, SlopeBase);
   let(RidgeAllowance) = 0;
@@ -49,7 +49,7 @@ void CRafter::CalculateOctagonRuns() {
   AdjSpanWithOverhang = AdjSpan + Overhang;
 }
 
-void CRafter::CalculateOctagonHip(double hipRunPerRun) {
+void Rafter::CalculateOctagonHip(double hipRunPerRun) {
   HipValSlope = Slope / hipRunPerRun;
   let(HipDegrees) = RoundedDegrees(HipValSlope);
   let(HipValOverhang) = Overhang * hipRunPerRun;
@@ -62,12 +62,12 @@ void CRafter::CalculateOctagonHip(double hipRunPerRun) {
   HipAngle2 = kHalfSideDegrees;
 }
 
-void CRafter::CalculateOctagonFascia() {
+void Rafter::CalculateOctagonFascia() {
   LimitTo(AdjFasciaHeight, PlumbCut);
   HipEndFasciaCut = std::min<double>(AdjFasciaHeight, HipValPlumbCut);
 }
 
-void CRafter::CalculateOctagonDropAndSeat() {
+void Rafter::CalculateOctagonDropAndSeat() {
   // The wall meets the cheek of the hip this far behind the corner. The drop over it goes by the slope of the
   // sides, which is a little more than the hip's own.
   let(HipDrop) = (HipValThickness / 2) * TanDegrees(HipAngle2);
@@ -77,7 +77,7 @@ void CRafter::CalculateOctagonDropAndSeat() {
   HipFasciaCut = AdjFasciaHeight - HipDrop;
 }
 
-void CRafter::CalculateOctagonLengths() {
+void Rafter::CalculateOctagonLengths() {
   if (RafterType == Type::kOctagonJack) {
     Rise = RiseOver(AdjSpan);
     RiseWithOverhang = RiseOver(AdjSpanWithOverhang);
@@ -92,7 +92,7 @@ void CRafter::CalculateOctagonLengths() {
   }
 }
 
-void CRafter::CalculateOctagonJackDifferences() {
+void Rafter::CalculateOctagonJackDifferences() {
   const Single run = spacing / TanDegrees(kHalfSideDegrees);
   const Single length = Hypotenuse(run * Slope / SlopeBase, run);
   let(CommonDifference16) = length * 16 / SlopeBase;

@@ -13,27 +13,27 @@ constexpr double kMetricHipRun = 1414.2135;
 
 }  // namespace
 
-CRafter::CRafter() { SetUnits(0); }
+Rafter::Rafter() { SetUnits(0); }
 
-void CRafter::SetUnits(int units) {
+void Rafter::SetUnits(int units) {
   units_ = units;
   let(SlopeBase) = IsMetric() ? 1000 : 12;
   let(HipRun) = IsMetric() ? kMetricHipRun : kImperialHipRun;
   let(HipFactor) = HipRun / SlopeBase;
 }
 
-Single CRafter::PlumbDepth(double slope, double depth, double run) {
+Single Rafter::PlumbDepth(double slope, double depth, double run) {
   const Single rise = slope * depth / run;
   return Hypotenuse(depth, rise);
 }
 
-void CRafter::LimitTo(Single& height, double limit) {
+void Rafter::LimitTo(Single& height, double limit) {
   if (height > limit) height = limit;
 }
 
-double CRafter::RoundedDegrees(double slope) const { return RoundTo(DegreesOf(slope / SlopeBase), 2); }
+double Rafter::RoundedDegrees(double slope) const { return RoundTo(DegreesOf(slope / SlopeBase), 2); }
 
-void CRafter::ApplyLocks(bool heelLocked, bool seatLocked, double share) {
+void Rafter::ApplyLocks(bool heelLocked, bool seatLocked, double share) {
   if (heelLocked) {
     Seat = SeatBelowHeel();
   } else if (seatLocked) {
@@ -44,7 +44,7 @@ void CRafter::ApplyLocks(bool heelLocked, bool seatLocked, double share) {
   }
 }
 
-void CRafter::LimitHeel(double share, ZeroHeel zeroHeel) {
+void Rafter::LimitHeel(double share, ZeroHeel zeroHeel) {
   const bool clearsOverhang = zeroHeel == ZeroHeel::kClearsOverhang;
   if (Heel > PlumbCut) {
     Heel = PlumbCut;
@@ -60,21 +60,21 @@ void CRafter::LimitHeel(double share, ZeroHeel zeroHeel) {
   CommonSeat = Seat;
 }
 
-void CRafter::LimitFasciaWithoutOverhang() {
+void Rafter::LimitFasciaWithoutOverhang() {
   if (Overhang == 0) LimitTo(AdjFasciaHeight, Heel);
 }
 
-double CRafter::WholeInMetric(double slope) const { return IsMetric() ? RoundTo(slope, 0) : slope; }
+double Rafter::WholeInMetric(double slope) const { return IsMetric() ? RoundTo(slope, 0) : slope; }
 
-std::string CRafter::PerSlopeBase(const std::string& text) const { return text + "/" + PlainText(SlopeBase); }
+std::string Rafter::PerSlopeBase(const std::string& text) const { return text + "/" + PlainText(SlopeBase); }
 
-std::string CRafter::CutText(const std::string& text, double slope) {
+std::string Rafter::CutText(const std::string& text, double slope) {
   return text.substr(0, slope >= 10 ? 5 : 4);
 }
 
-std::string CRafter::PitchText(double slope) const { return PerSlopeBase(SignedText(WholeInMetric(slope))); }
+std::string Rafter::PitchText(double slope) const { return PerSlopeBase(SignedText(WholeInMetric(slope))); }
 
-std::string CRafter::HipPitchText() const {
+std::string Rafter::HipPitchText() const {
   std::string text = " ";
   text += PerSlopeBase(CutText(PlainText(WholeInMetric(HipValSlope)), HipValSlope));
   return text;

@@ -17,11 +17,11 @@ namespace pitchcraft {
 /// Units changes. A slope is a rise for SlopeBase of run; angles are degrees. A calculation overwrites the
 /// derived members and, where told, the inputs Heel, Seat and Overhang; members that it does not touch keep
 /// their values. No input is checked: what cannot be computed is stored as an infinity or a not-a-number.
-class CRafter {
+class Rafter {
  public:
-  CRafter();
-  CRafter(const CRafter&) = delete;
-  CRafter& operator=(const CRafter&) = delete;
+  Rafter();
+  Rafter(const Rafter&) = delete;
+  Rafter& operator=(const Rafter&) = delete;
 
   /// Raised once at the end of each calculation that runs to its end, before the procedure returns.
   std::function<void()> Calculated;

@@ -13,10 +13,10 @@ using MemberValue = std::variant<Single, double, int, bool, std::string>;
 
 struct RafterMember {
   const char* Name;
-  MemberValue (*Read)(const CRafter&);
+  MemberValue (*Read)(const Rafter&);
 };
 
-/// Every public member of CRafter, in the order of its declaration.
+/// Every public member of Rafter, in the order of its declaration.
 std::span<const RafterMember> RafterMembers();
 
 }  // namespace pitchcraft

@@ -3,7 +3,7 @@
 
 namespace pitchcraft {
 
-/// The member that a CRafter stands for. The numbers are part of the product: they stand in dumps and
+/// The member that a Rafter stands for. The numbers are part of the product: they stand in dumps and
 /// projects.
 enum class RafterType : int {
   kCommon = 0,          ///< gable, dual slope, blind valley jack, main common of a Dutch or bastard hip

@@ -9,7 +9,7 @@
 
 namespace pitchcraft {
 
-class CRafter;
+class Rafter;
 
 /// What a member is in an expression: a Single is a double there, everything else itself.
 template <typename T>
@@ -34,7 +34,7 @@ class Derived {
   Derived& operator=(const Derived&) { return *this; }
 
  private:
-  friend class CRafter;
+  friend class Rafter;
   T value_{};
 };
 
@@ -49,7 +49,7 @@ class Internal {
   const T& Stored() const { return value_; }
 
  private:
-  friend class CRafter;
+  friend class Rafter;
   T value_{};
 };
 

@@ -7,7 +7,7 @@
 namespace pitchcraft {
 namespace {
 
-using Handler = void (frmDocument::*)(int);
+using Handler = void (Document::*)(int);
 
 /// What the events of a control call; the index of a control array is handed on.
 struct HandlerRow {
@@ -18,7 +18,7 @@ struct HandlerRow {
   Handler click;
 };
 
-using D = frmDocument;
+using D = Document;
 constexpr HandlerRow kHandlers[] = {
     // control          leaves                      Enter                    while typing     picks or clicks
     {"cboType", nullptr, nullptr, nullptr, &D::cboType_Click},
@@ -54,7 +54,7 @@ constexpr HandlerRow kHandlers[] = {
     {"chkLowerHeight", nullptr, nullptr, nullptr, &D::chkLowerHeight_Click},
 };
 
-/// A control's name cut at its index: "FtSpan(2)" is FtSpan and 2.
+/// A control's name cut at its index: "Span(2)" is Span and 2.
 struct IndexedName {
   std::string_view base;
   int index = 0;
@@ -75,7 +75,7 @@ const HandlerRow* HandlersOf(std::string_view base) {
   return nullptr;
 }
 
-void Run(frmDocument& document, Handler handler, int index) {
+void Run(Document& document, Handler handler, int index) {
   if (handler != nullptr) (document.*handler)(index);
 }
 
@@ -85,11 +85,11 @@ Refusal Refuse(std::string_view name, const char* why) { return std::string(name
 struct PutText {
   std::string_view text;
 
-  bool operator()(FtInText* field) const {
+  bool operator()(MeasureControl* field) const {
     if (!field->ReadOnly) field->SetEntry(text);
     return true;
   }
-  bool operator()(LWCombo* field) const {
+  bool operator()(PairControl* field) const {
     if (field->Locked) return true;
     const std::size_t bar = text.find('|');
     const bool both = bar != std::string_view::npos;
@@ -110,8 +110,8 @@ struct PutText {
 
 // A field that is left, or whose entry is confirmed, shows its value in its own form.
 void Redisplay(const AnyControl& control) {
-  if (auto* const* field = std::get_if<FtInText*>(&control)) (*field)->Redisplay();
-  if (auto* const* pair = std::get_if<LWCombo*>(&control)) (*pair)->Redisplay();
+  if (auto* const* field = std::get_if<MeasureControl*>(&control)) (*field)->Redisplay();
+  if (auto* const* pair = std::get_if<PairControl*>(&control)) (*pair)->Redisplay();
 }
 
 }  // namespace
@@ -122,7 +122,8 @@ Refusal Actions::Reach(std::string_view name, const AnyControl*& control) const 
   const Control& common = ControlOf(*control);
   if (!common.Visible) return Refuse(name, "is hidden");
   if (!common.Enabled) return Refuse(name, "is disabled");
-  if (common.Host == Host::kBayStrip && !document_.sheet.Toolbar1.Visible) return Refuse(name, "is hidden");
+  if (common.Host == Host::kBayStrip && !document_.sheet.DimensionStrip.Visible)
+    return Refuse(name, "is hidden");
   return std::nullopt;
 }
 
@@ -159,7 +160,7 @@ Refusal Actions::Pick(std::string_view name, std::string_view item) {
     row = (*combo)->RowOf(item);
     locked = (*combo)->Locked;
     if (row >= 0 && !locked) (*combo)->SetListIndex(row);
-  } else if (auto* const* pair = std::get_if<LWCombo*>(control)) {
+  } else if (auto* const* pair = std::get_if<PairControl*>(control)) {
     row = (*pair)->RowOf(item);
     locked = (*pair)->Locked;
     if (row >= 0 && !locked) (*pair)->SetListIndex(row);
@@ -212,10 +213,10 @@ Refusal Actions::Click(std::string_view name) {
 }
 
 Refusal Actions::Press(std::string_view key) {
-  const ToolButton* button = document_.tbToolBar.Find(key);
+  const ToolButton* button = document_.toolBar.Find(key);
   if (button == nullptr) return Refuse(key, "is no button of the tool bar");
   if (!button->Visible) return Refuse(key, "is hidden");
-  if (!document_.menus.mnuViewToolbar.Checked) return Refuse(key, "stands on a tool bar that is hidden");
+  if (!document_.menus.ViewToolbar.Checked) return Refuse(key, "stands on a tool bar that is hidden");
   if (!document_.ToolButtonEnabled(*button)) return Refuse(key, "is disabled");
   document_.tbToolBar_ButtonClick(key);
   return std::nullopt;
@@ -232,7 +233,7 @@ Refusal Actions::Spin(std::string_view name, bool up) {
 Refusal Actions::Page(std::string_view name, int page) {
   const IndexedName cut = Cut(name);
   if (cut.base != "VSTab" || cut.index < 0 || cut.index > 1) return Refuse(name, "is no index tab");
-  const IndexTab& tab = document_.sheet.VSTab[static_cast<std::size_t>(cut.index)];
+  const IndexTab& tab = document_.sheet.Tabs[static_cast<std::size_t>(cut.index)];
   const int last = tab.OnePageOnly ? 0 : tab.PageCount() - 1;
   if (page < 0 || page > last) return Refuse(name, "has no such page");
   document_.VSTab_Switch(cut.index, tab.Page, page);
@@ -241,7 +242,7 @@ Refusal Actions::Page(std::string_view name, int page) {
 
 Refusal Actions::Hover(std::string_view name) {
   const bool known = document_.menus.Find(name) != nullptr || document_.sheet.Find(name) != nullptr ||
-                     name == "Picture1" || name == "Picture3" || document_.tbToolBar.Find(name) != nullptr;
+                     name == "Picture1" || name == "Picture3" || document_.toolBar.Find(name) != nullptr;
   if (!known) return Refuse(name, "is nothing to point at");
   document_.Hint(name);
   return std::nullopt;

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 
@@ -17,7 +17,7 @@ using Refusal = std::optional<std::string>;
 /// field that takes no typing (a locked slope, a derived bay dimension) keeps its text.
 class Actions {
  public:
-  explicit Actions(frmDocument& document) : document_(document) {}
+  explicit Actions(Document& document) : document_(document) {}
 
   /// Puts the text in and leaves the field: its commit runs. Of a left/right field both texts stand with a
   /// bar between them; without a bar the right one stays.
@@ -35,7 +35,7 @@ class Actions {
   /// Clicks a button of the tool bar.
   Refusal Press(std::string_view key);
   Refusal Spin(std::string_view name, bool up);
-  /// Chooses a page of "VSTab(0)" or "VSTab(1)", counted from 0.
+  /// Chooses a page of "Tabs(0)" or "Tabs(1)", counted from 0.
   Refusal Page(std::string_view name, int page);
   /// The pointer comes over a control, a menu item or a drawing.
   Refusal Hover(std::string_view name);
@@ -46,7 +46,7 @@ class Actions {
   Refusal Reach(std::string_view name, const AnyControl*& control) const;
   Refusal ReachMenu(const MenuItem& item) const;
 
-  frmDocument& document_;
+  Document& document_;
 };
 
 }  // namespace pitchcraft

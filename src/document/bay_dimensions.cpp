@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "core/angles.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 namespace {
@@ -11,15 +11,15 @@ constexpr const char* kHipsCross = "Not possible... Hip rafters will cross!";
 
 }  // namespace
 
-void frmDocument::FtBay_Commit(int) { CalculateBayDimensions(); }
+void Document::FtBay_Commit(int) { CalculateBayDimensions(); }
 
-void frmDocument::CalculateBayDimensions() {
+void Document::CalculateBayDimensions() {
   Try("CalculateBayDimensions", [&] {
     if (!SolveBayField()) return;
-    const Single projection = sheet.FtProjection.Value();
-    const Single face = sheet.FtFace.Value();
-    const Single back = sheet.FtBack.Value();
-    const Single angle = sheet.FtBayAngle.Value();
+    const Single projection = sheet.Projection.Value();
+    const Single face = sheet.Face.Value();
+    const Single back = sheet.Back.Value();
+    const Single angle = sheet.BayAngle.Value();
     if (projection * face * back * angle == 0) return;
     if (!(angle > 0) || angle > 90) {
       return MsgBox("Bay Angle must be between 0 and 90 degrees.", "Bay dimensions");
@@ -35,28 +35,28 @@ void frmDocument::CalculateBayDimensions() {
 }
 
 // Fills the first field that reads 0 from the three others. False where the dimensions are not complete.
-bool frmDocument::SolveBayField() {
-  const Single p = sheet.FtProjection.Value();
-  const Single f = sheet.FtFace.Value();
-  const Single k = sheet.FtBack.Value();
-  const Single w = sheet.FtBayAngle.Value();
+bool Document::SolveBayField() {
+  const Single p = sheet.Projection.Value();
+  const Single f = sheet.Face.Value();
+  const Single k = sheet.Back.Value();
+  const Single w = sheet.BayAngle.Value();
   const Single t = std::tan(1.570796326795 - w * kRadiansPerDegree);
   if (p == 0) {
     if (f * k * w == 0) return false;
     if (w == 90) {
       MsgBox("Projection must be entered if bay angle = 90\u00BA");
-      Focus(sheet.Command1);
+      Focus(sheet.ResetBay);
       return false;
     }
     const Single half = (k - f) / 2;
-    SetBayField(sheet.FtProjection, half / t, 1);
+    SetBayField(sheet.Projection, half / t, 1);
   } else if (f == 0) {
     if (k * w == 0) return false;
     const Single reach = p * t;
-    SetBayField(sheet.FtFace, k - (reach + reach), 2);
+    SetBayField(sheet.Face, k - (reach + reach), 2);
   } else if (k == 0) {
     if (w == 0) return false;
-    SetBayField(sheet.FtBack, (p * t + p * t) + f, 3);
+    SetBayField(sheet.Back, (p * t + p * t) + f, 3);
   } else if (w == 0) {
     Single angle = 90;
     if (k != f) {
@@ -64,12 +64,12 @@ bool frmDocument::SolveBayField() {
       angle = std::atan(angle);
       angle = angle * kDegreesPerRadian;
     }
-    SetBayField(sheet.FtBayAngle, angle, 4);
+    SetBayField(sheet.BayAngle, angle, 4);
   }
   return true;
 }
 
-void frmDocument::SetBayField(FtInText& field, double value, int mode) {
+void Document::SetBayField(MeasureControl& field, double value, int mode) {
   field.ForeColor = CtlCalcColor;
   field.Calculated = true;
   field.ReadOnly = true;
@@ -78,25 +78,25 @@ void frmDocument::SetBayField(FtInText& field, double value, int mode) {
 }
 
 // The hips would meet before the ridge.
-void frmDocument::RefuseCrossingHips() {
+void Document::RefuseCrossingHips() {
   if (RoofType == roof::kDutchHip) {
     MsgBox(kHipsCross, "Dutch Hip Dimensions");
-    sheet.FtSpan[2].SetValue((sheet.FtSpan[0].Value() + sheet.FtSpan[0].Value()) / 3);
-    sheet.FtProjection.SetValue(sheet.FtSpan[2].Value());
+    sheet.Span[2].SetValue((sheet.Span[0].Value() + sheet.Span[0].Value()) / 3);
+    sheet.Projection.SetValue(sheet.Span[2].Value());
   } else {
     MsgBox(kHipsCross, "Bay Dimensions");
     Command1_Click();
   }
 }
 
-void frmDocument::HandBayToRafter(CRafter& rafter, double side) {
+void Document::HandBayToRafter(Rafter& rafter, double side) {
   // The solver is called for other roof types too; only a bay and a Dutch hip have a rafter that carries one.
   if (RoofType != roof::kBay && RoofType != roof::kDutchHip) return;
-  const Single angle = sheet.FtBayAngle.Value();
-  rafter.Back = sheet.FtBack.Value();
-  rafter.Face = sheet.FtFace.Value();
+  const Single angle = sheet.BayAngle.Value();
+  rafter.Back = sheet.Back.Value();
+  rafter.Face = sheet.Face.Value();
   rafter.BayAngle = angle;
-  rafter.Projection = sheet.FtProjection.Value();
+  rafter.Projection = sheet.Projection.Value();
   rafter.BaySide = side;
   rafter.CenterLedgerSpan = rafter.Back;
   rafter.LedgerRunFactor = UnitRun / std::sin(angle * kRadiansPerDegree);
@@ -105,16 +105,16 @@ void frmDocument::HandBayToRafter(CRafter& rafter, double side) {
   rafter.CalculateBay();
 }
 
-void frmDocument::Command1_Click(int) {
+void Document::Command1_Click(int) {
   Try("Command1_Click", [&] {
-    for (FtInText* field : {&sheet.FtFace, &sheet.FtBack, &sheet.FtBayAngle, &sheet.FtProjection}) {
+    for (MeasureControl* field : {&sheet.Face, &sheet.Back, &sheet.BayAngle, &sheet.Projection}) {
       field->ForeColor = CtlForeColor;
       field->ReadOnly = false;
       field->SetText("");
       field->Calculated = false;
     }
     BayEditMode = 0;
-    Focus(sheet.FtProjection);
+    Focus(sheet.Projection);
     Draw(Drawing::kBayDiagram, Rafter1);
   });
 }

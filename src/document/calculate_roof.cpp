@@ -2,14 +2,14 @@
 #include <cmath>
 
 #include "core/number_text.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/rafter_copies.h"
 
 namespace pitchcraft {
 namespace {
 
 /// Shows a result by its text in base units: the field then holds the seven digits that it was given.
-void ShowResult(FtInText& field, double value) {
+void ShowResult(MeasureControl& field, double value) {
   if (std::isfinite(value)) {
     field.SetText(PlainText(value));
   } else {
@@ -19,14 +19,14 @@ void ShowResult(FtInText& field, double value) {
 
 }  // namespace
 
-void frmDocument::CalculateRoof(bool FromFile) {
+void Document::CalculateRoof(bool FromFile) {
   if (!CalcEnabled) return;
   constexpr const char* kProcedure = "CalculateRoof";
   Try(kProcedure, [&] { StartRoof(FromFile); });
   Try(kProcedure, [&] { SetHelpContext(); });
 }
 
-void frmDocument::StartRoof(bool FromFile) {
+void Document::StartRoof(bool FromFile) {
   switch (RoofType) {
     case roof::kGable:
     case roof::kValley:
@@ -38,7 +38,7 @@ void frmDocument::StartRoof(bool FromFile) {
     case roof::kHip:
       Rafter1.RafterType = RafterType::kHip;
       Rafter1.Calculate();
-      sheet.FtLastCommon.SetValue(Rafter1.HipEndSpan);
+      sheet.LastCommon.SetValue(Rafter1.HipEndSpan);
       return NamePages();
     case roof::kBastardHip: return StartBastardHip();
     case roof::kUnequalSpanValley:
@@ -66,38 +66,38 @@ void frmDocument::StartRoof(bool FromFile) {
       Rafter1.RafterType = RafterType::kGambrelBottom;
       Rafter2.RafterType = RafterType::kGambrelTop;
       CopyLumber(Rafter1, Rafter2);
-      Rafter2.Overhang = sheet.FtOverhang[0].Value();
+      Rafter2.Overhang = sheet.Overhang[0].Value();
       return CalculateGambrelDimensions("Heel");
     default: return;
   }
 }
 
-void frmDocument::NamePages() {
+void Document::NamePages() {
   const RoofTypeRow* row = RoofTypeByCode(RoofType);
-  if (row != nullptr) sheet.VSTab[0].SetCaption(row->Pages);
-  CurrentTab = sheet.VSTab[0].Page;
+  if (row != nullptr) sheet.Tabs[0].SetCaption(row->Pages);
+  CurrentTab = sheet.Tabs[0].Page;
 }
 
 // A bastard hip that comes from a project: from here on it is a hip whose rafter is of type 16.
-void frmDocument::StartBastardHip() {
+void Document::StartBastardHip() {
   RoofType = roof::kHip;
   Rafter1.RafterType = RafterType::kBastardHip;
-  sheet.LWSlope[2].SetLeftValue(Rafter1.HipEndSlope);
-  sheet.cboDegrees[2].SetText(PlainText(Rafter1.HipEndDegrees));
+  sheet.Slope[2].SetLeftValue(Rafter1.HipEndSlope);
+  sheet.Degrees[2].SetText(PlainText(Rafter1.HipEndDegrees));
   CalculateBastard();
-  sheet.VSTab[0].SetCaption(kBastardHipPages);
+  sheet.Tabs[0].SetCaption(kBastardHipPages);
 }
 
 // Picked from the list, the rear roof begins as a copy of the front; from a project it keeps its own values.
-void frmDocument::StartDualSlope(bool FromFile) {
+void Document::StartDualSlope(bool FromFile) {
   Rafter1.RafterType = RafterType::kCommon;
   Rafter2.RafterType = RafterType::kCommon;
   if (!FromFile) {
-    sheet.LWSlope[1].SetListIndex(0);
-    sheet.cboDegrees[1].SetListIndex(0);
+    sheet.Slope[1].SetListIndex(0);
+    sheet.Degrees[1].SetListIndex(0);
     Rafter2.Slope = Rafter1.Slope;
     Rafter2.degrees = Rafter1.degrees;
-    sheet.cboDegrees[1].SetText(PlainText(Rafter2.degrees));
+    sheet.Degrees[1].SetText(PlainText(Rafter2.degrees));
     Rafter2.Span = Rafter1.Span;
     CopyLumber(Rafter1, Rafter2);
     Rafter2.Overhang = Rafter1.Overhang;
@@ -108,25 +108,25 @@ void frmDocument::StartDualSlope(bool FromFile) {
 }
 
 // A Dutch hip is a bay with a square corner across the whole roof end.
-void frmDocument::StartDutchHip() {
+void Document::StartDutchHip() {
   Rafter1.RafterType = RafterType::kCommon;
   Rafter1.Calculate();
   Rafter2.RafterType = RafterType::kBayCommon;
-  sheet.FtProjection.SetValue(sheet.FtSpan[2].Value());
-  sheet.FtBayAngle.SetValue(90);
-  sheet.FtBack.SetValue(2 * Rafter1.Span);
-  sheet.FtFace.SetValue(sheet.FtBack.Value());
+  sheet.Projection.SetValue(sheet.Span[2].Value());
+  sheet.BayAngle.SetValue(90);
+  sheet.Back.SetValue(2 * Rafter1.Span);
+  sheet.Face.SetValue(sheet.Back.Value());
   Rafter2.Heel = Rafter1.Heel;
   Rafter2.Seat = Rafter1.Seat;
   CopyLumber(Rafter1, Rafter2);
   CopyHipLumber(Rafter1, Rafter2);
-  if (menus.mnuDutchLedger[1].Checked) Rafter2.RidgeThickness = 0;
+  if (menus.DutchLedger[1].Checked) Rafter2.RidgeThickness = 0;
   Rafter2.Overhang = Rafter1.Overhang;
   Rafter2.Slope = Rafter1.Slope;
   CalculateBayDimensions();
 }
 
-void frmDocument::Rafter1_Calculated() {
+void Document::Rafter1_Calculated() {
   constexpr const char* kProcedure = "Rafter1_Calculated";
   Try(kProcedure, [&] { ShowFrontRow(); });
   bool finished = false;
@@ -134,36 +134,36 @@ void frmDocument::Rafter1_Calculated() {
   if (!finished) Try(kProcedure, [&] { RedrawAfterRafter1(); });
 }
 
-void frmDocument::ShowFrontRow() {
+void Document::ShowFrontRow() {
   if (RoofType == roof::kGambrel) {
-    sheet.FtHeel[0].SetValue(Rafter1.Heel);
-    sheet.FtSeat[0].SetValue(Rafter1.Seat);
+    sheet.Heel[0].SetValue(Rafter1.Heel);
+    sheet.Seat[0].SetValue(Rafter1.Seat);
     return;
   }
   ShowRow(0, Rafter1);
-  sheet.LWRidge.SetValues(Rafter1.RidgeThickness, Rafter1.RidgeDepth);
-  sheet.LWHipVal.SetValues(Rafter1.HipValThickness, Rafter1.HipValDepth);
+  sheet.Ridge.SetValues(Rafter1.RidgeThickness, Rafter1.RidgeDepth);
+  sheet.HipOrValley.SetValues(Rafter1.HipValThickness, Rafter1.HipValDepth);
 }
 
 // The heel and the seat are those after the limits: this is how a person sees a clamped value.
-void frmDocument::ShowRow(std::size_t row, const CRafter& rafter) {
-  sheet.LWSlope[row].SetValues(rafter.Slope, UnitRun);
-  ShowResult(sheet.FtSpan[row], rafter.Span);
-  ShowResult(sheet.FtOverhang[row], rafter.Overhang);
-  ShowResult(sheet.FtHeel[row], rafter.CommonHeel);
-  ShowResult(sheet.FtSeat[row], rafter.CommonSeat);
-  sheet.LWRafter[row].SetValues(rafter.Thickness, rafter.Depth);
-  sheet.LWFascia[row].SetValues(rafter.FasciaThickness, rafter.FasciaHeight);
+void Document::ShowRow(std::size_t row, const Rafter& rafter) {
+  sheet.Slope[row].SetValues(rafter.Slope, UnitRun);
+  ShowResult(sheet.Span[row], rafter.Span);
+  ShowResult(sheet.Overhang[row], rafter.Overhang);
+  ShowResult(sheet.Heel[row], rafter.CommonHeel);
+  ShowResult(sheet.Seat[row], rafter.CommonSeat);
+  sheet.Common[row].SetValues(rafter.Thickness, rafter.Depth);
+  sheet.Fascia[row].SetValues(rafter.FasciaThickness, rafter.FasciaHeight);
 }
 
 // The second rafter of a roof that has two. True when the event ends with it.
-bool frmDocument::ChainRafter2() {
+bool Document::ChainRafter2() {
   switch (RoofType) {
     case roof::kDualSlope:
       Rafter2.Calculate();  // its event draws both
       return true;
     case roof::kHip:
-      if (LoadingProject == 0) sheet.LWSlope[2].SetValues(Rafter1.HipEndSlope, UnitRun);
+      if (LoadingProject == 0) sheet.Slope[2].SetValues(Rafter1.HipEndSlope, UnitRun);
       return false;
     case roof::kDutchHip:
       Rafter2.Slope = Rafter1.Slope;
@@ -173,16 +173,16 @@ bool frmDocument::ChainRafter2() {
       // The heel in both: the seat of the Dutch common follows from its heel, so what stands here is only a
       // start.
       Rafter2.Seat = Rafter1.CommonHeel;
-      if (!menus.mnuDutchLedger[0].Checked) Rafter2.RidgeThickness = 0;
+      if (!menus.DutchLedger[0].Checked) Rafter2.RidgeThickness = 0;
       Rafter2.Overhang = Rafter1.Overhang;
       CopyLocks(Rafter1, Rafter2);
       CalculateBayDimensions();
       Rafter2.CalculateBay();
-      if (sheet.VSTab[0].Page == 0) Draw(Drawing::kDutchPlan, Rafter2);
+      if (sheet.Tabs[0].Page == 0) Draw(Drawing::kDutchPlan, Rafter2);
       return true;
     case roof::kUnequalSpanValley:
       Rafter2.Slope = Rafter1.Slope;
-      Rafter2.Span = sheet.FtSpan[2].Value();
+      Rafter2.Span = sheet.Span[2].Value();
       CopyLumber(Rafter1, Rafter2);
       CopyHipLumber(Rafter1, Rafter2);
       Rafter2.Overhang = Rafter1.Overhang;
@@ -191,13 +191,13 @@ bool frmDocument::ChainRafter2() {
       Rafter2.Seat = Rafter1.CommonSeat;
       Rafter2.Calculate();
       return false;
-    case roof::kOctagon: ShowResult(sheet.FtSpan[2], Rafter1.HipValSpan); return false;
+    case roof::kOctagon: ShowResult(sheet.Span[2], Rafter1.HipValSpan); return false;
     default: return false;
   }
 }
 
-void frmDocument::RedrawAfterRafter1() {
-  const bool onDesignPage = sheet.VSTab[0].Page == 0;
+void Document::RedrawAfterRafter1() {
+  const bool onDesignPage = sheet.Tabs[0].Page == 0;
   switch (Rafter1.RafterType) {
     case RafterType::kCommon:
     case RafterType::kHip:
@@ -223,12 +223,12 @@ void frmDocument::RedrawAfterRafter1() {
     case RafterType::kBastardHip:
       if (onDesignPage) Draw(Drawing::kHipPlan, Rafter1);
       return;
-    case RafterType::kGambrelBottom: sheet.FtOverhang[0].SetValue(Rafter1.Overhang); return;
+    case RafterType::kGambrelBottom: sheet.Overhang[0].SetValue(Rafter1.Overhang); return;
     default: return;
   }
 }
 
-void frmDocument::Rafter2_Calculated() {
+void Document::Rafter2_Calculated() {
   constexpr const char* kProcedure = "Rafter2_Calculated";
   switch (RoofType) {
     case roof::kDualSlope:

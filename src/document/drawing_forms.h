@@ -31,9 +31,9 @@ enum class Drawing {
   kNone  ///< a page without a drawing of that form
 };
 
-using DrawProcedure = void (*)(DraftingBoard&, const CRafter&, const DrawingContext&);
-using ExportProcedure = void (*)(CDxfWriter&, const DraftingBoard&, const CRafter&, const PrintContext&);
-using PrintProcedure = void (*)(Printer&, DraftingBoard&, const CRafter&, const PrintContext&);
+using DrawProcedure = void (*)(DraftingBoard&, const Rafter&, const DrawingContext&);
+using ExportProcedure = void (*)(DxfWriter&, const DraftingBoard&, const Rafter&, const PrintContext&);
+using PrintProcedure = void (*)(Printer&, DraftingBoard&, const Rafter&, const PrintContext&);
 
 /// One drawing. A procedure is null while that form does not exist; its name is the title of its messages.
 struct DrawingForms {
@@ -48,7 +48,7 @@ struct DrawingForms {
 /// `drawing` is not kNone.
 const DrawingForms& FormsOf(Drawing drawing);
 
-/// What a page of VSTab(0) gives in one form.
+/// What a page of Tabs(0) gives in one form.
 struct PageOutput {
   pitchcraft::Drawing Drawing = pitchcraft::Drawing::kNone;
   int Rafter = 1;       ///< 1 or 2

@@ -1,6 +1,6 @@
 // The drawing shown, as a file for other programs.
 #include "core/number_text.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "files/file_names.h"
 #include "output/dxf_writer.h"
 #include "output/placeable_metafile.h"
@@ -15,7 +15,7 @@ constexpr const char* kMetafileName = "export.wmf";
 }  // namespace
 
 // The exported file becomes the document's file, so that Save then asks for no name and replaces it.
-void frmDocument::mnuFileExportDXF_Click(int) {
+void Document::mnuFileExportDXF_Click(int) {
   const PageOutput output = OutputOfPage(OutputForm::kDxf);
   if (output.Drawing != Drawing::kNone && FormsOf(output.Drawing).Export == nullptr)
     return MsgBox("This page cannot be exported yet.", FormsOf(output.Drawing).ExportName);
@@ -30,14 +30,14 @@ void frmDocument::mnuFileExportDXF_Click(int) {
 }
 
 /// A page without a drawing has nothing to write, nor has one whose figures are infinite.
-void frmDocument::RequireDrawing() const {
+void Document::RequireDrawing() const {
   if (!DrawingExists) throw RunTimeError::NotAvailable();
-  if (!board.MetaCanvas.IsClosed() || board.MetaCanvas.Operations().empty()) throw RunTimeError::Overflow();
+  if (!board.Recorder.IsClosed() || board.Recorder.Operations().empty()) throw RunTimeError::Overflow();
 }
 
-void frmDocument::ExportDxf(const std::string& path) {
+void Document::ExportDxf(const std::string& path) {
   RequireDrawing();
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.FileName = path;
   SetUpWriter(writer);
   writer.SetDimensionPoints(board.DimensionPoints, false);
@@ -45,15 +45,15 @@ void frmDocument::ExportDxf(const std::string& path) {
   if (output.Drawing != Drawing::kNone) {
     const DrawingForms& forms = FormsOf(output.Drawing);
     if (forms.Export == nullptr) throw RunTimeError::NotAvailable();
-    WithOutputRafter(output, [&](const CRafter& rafter) {
+    WithOutputRafter(output, [&](const Rafter& rafter) {
       Try(forms.ExportName, [&] { forms.Export(writer, board, rafter, OutputContext(output.Rafter)); });
     });
   }
   writer.Save();
 }
 
-void frmDocument::SetUpWriter(CDxfWriter& writer) const {
-  const Single size = Imperial() ? DXFTextsize : DXFMetricTextsize;
+void Document::SetUpWriter(DxfWriter& writer) const {
+  const Single size = Imperial() ? DxfTextSize : DxfMetricTextSize;
   const bool namesOnly = RoofType == roof::kBay && BayEditMode == 0;  // the diagram of a bay measures nothing
   writer.Units = Imperial() ? DxfUnits::kInch : DxfUnits::kMillimetre;
   writer.LengthText = board.LengthText;
@@ -63,24 +63,24 @@ void frmDocument::SetUpWriter(CDxfWriter& writer) const {
   writer.DimExtension = size;
   writer.DimIncrement = size;
   writer.DimOffset = size;
-  writer.DimColor = DXFDimcolor;
+  writer.DimColor = DxfDimColor;
 }
 
 // One file, always of the same name: each export replaces the last one.
-void frmDocument::mnuFileExportMetafile_Click(int) {
+void Document::mnuFileExportMetafile_Click(int) {
   Try("mnuFileExportMetafile_Click", [&] { ExportMetafile(surroundings_.programFolder / kMetafileName); });
 }
 
-void frmDocument::ExportMetafile(const std::filesystem::path& path) const {
+void Document::ExportMetafile(const std::filesystem::path& path) const {
   RequireDrawing();
-  const CMetaFile& canvas = board.MetaCanvas;
+  const DrawingRecorder& canvas = board.Recorder;
   MetafileFrame frame;
   frame.Left = ToLong(canvas.MinX());
   frame.Top = ToLong(canvas.MinY());
   frame.Width = ToLong(canvas.MaxX() - canvas.MinX());
   frame.Height = ToLong(canvas.MaxY() - canvas.MinY());
   frame.BackColor = static_cast<DrawColor>(BackColor);
-  MetaSave(path, canvas.Finished(), frame);
+  SaveMetafile(path, canvas.Finished(), frame);
 }
 
 }  // namespace pitchcraft

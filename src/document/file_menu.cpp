@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "core/number_text.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "files/file_names.h"
 
 namespace pitchcraft {
@@ -27,10 +27,10 @@ bool Exists(const std::string& path) {
 }  // namespace
 
 // A new project begins with a common gable; the values of the sheet stay.
-void frmDocument::mnuFileNew_Click(int) {
+void Document::mnuFileNew_Click(int) {
   Try("mnuFileNew_Click", [&] {
-    if (sheet.VSTab[0].Page != 0) VSTab_Switch(0, sheet.VSTab[0].Page, 0);
-    sheet.cboType.SetListIndex(0);
+    if (sheet.Tabs[0].Page != 0) VSTab_Switch(0, sheet.Tabs[0].Page, 0);
+    sheet.RoofList.SetListIndex(0);
     cboType_Click();
     const auto answer = surroundings_.dialogs.Input({"New Project", kNewPrompt, ProjectName});
     if (answer && !answer->empty()) ProjectName = *answer;
@@ -38,7 +38,7 @@ void frmDocument::mnuFileNew_Click(int) {
   });
 }
 
-void frmDocument::mnuFileProjectName_Click(int) {
+void Document::mnuFileProjectName_Click(int) {
   const auto answer =
       surroundings_.dialogs.Input({"New Project", "Enter a name for this project:", ProjectName});
   if (!answer || answer->empty()) return;
@@ -46,7 +46,7 @@ void frmDocument::mnuFileProjectName_Click(int) {
   ShowProjectTitle(ProjectName);
 }
 
-void frmDocument::mnuFileOpen_Click(int) {
+void Document::mnuFileOpen_Click(int) {
   Try("mnuFileOpen_Click", [&] {
     const auto answer = surroundings_.dialogs.OpenFile(
         {"Open Project", surroundings_.programFolder, "", kExtension, kFilter, true, false});
@@ -56,7 +56,7 @@ void frmDocument::mnuFileOpen_Click(int) {
   });
 }
 
-bool frmDocument::OpenProject(const std::string& path) {
+bool Document::OpenProject(const std::string& path) {
   ProjectFile = path;
   if (!LoadRafter(ProjectFile)) return false;
   ProjectName = NameOfProject(ProjectFile);
@@ -65,26 +65,26 @@ bool frmDocument::OpenProject(const std::string& path) {
 
 // The project is written in any case, also after a Save As that was cancelled: without a file that is an
 // error.
-void frmDocument::mnuFileSave_Click(int) {
+void Document::mnuFileSave_Click(int) {
   if (ProjectFile.empty()) mnufileSaveAs_Click();
   SaveRafter(ProjectFile);
 }
 
-void frmDocument::mnufileSaveAs_Click(int) {
+void Document::mnufileSaveAs_Click(int) {
   Try("mnufileSaveAs_Click", [&] {
     const auto answer = surroundings_.dialogs.SaveFile(
         {"Save Project", surroundings_.programFolder, ProjectName, kExtension, kFilter, false, true});
     const std::string path(Trimmed(answer.value_or("")));
     if (path.empty()) return;
     ProjectFile = WithExtension(path, kExtension);
-    if (SaveRafter(ProjectFile)) ShowProjectTitle(MRU::LongDirFix(ProjectFile, kTitleLength));
+    if (SaveRafter(ProjectFile)) ShowProjectTitle(RecentFileList::ShortenedPath(ProjectFile, kTitleLength));
   });
 }
 
-void frmDocument::mnuFileMRU_Click(int Index) {
+void Document::mnuFileMRU_Click(int Index) {
   const auto place = static_cast<std::size_t>(Index);
-  if (place >= menus.mnuFileMRU.size() || menus.mnuFileMRU[place].Caption.empty()) return;
-  OpenProject(RecentFiles.MRUSelected(Index));
+  if (place >= menus.FileMRU.size() || menus.FileMRU[place].Caption.empty()) return;
+  OpenProject(RecentFiles.Selected(Index));
 }
 
 }  // namespace pitchcraft

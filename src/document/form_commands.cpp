@@ -2,8 +2,8 @@
 #include <cmath>
 #include <random>
 
+#include "document/document.h"
 #include "document/forms.h"
-#include "document/frm_document.h"
 #include "storage/list_files.h"
 #include "storage/lists.h"
 
@@ -31,7 +31,7 @@ void RewriteIfChanged(ListGrid& grid, const std::filesystem::path& folder, const
 
 }  // namespace
 
-void frmDocument::ShowForm(const AnyForm& form) {
+void Document::ShowForm(const AnyForm& form) {
   const bool before = DialogIsActive;
   DialogIsActive = true;
   surroundings_.dialogs.ShowForm(form);
@@ -39,41 +39,41 @@ void frmDocument::ShowForm(const AnyForm& form) {
 }
 
 /// That of a length, with parts of a millimetre.
-FtInConverter frmDocument::FineFormat() const {
-  FtInConverter format = sheet.FtSpan[0].Format;
-  format.DecimalPlaces = FtInConverter().DecimalPlaces;
+MeasureConverter Document::FineFormat() const {
+  MeasureConverter format = sheet.Span[0].Format;
+  format.DecimalPlaces = MeasureConverter().DecimalPlaces;
   return format;
 }
 
 // --- The small ones
 // -------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuSpinIncrement_Click(int) {
+void Document::mnuSpinIncrement_Click(int) {
   Single& step = Imperial() ? Increment : MetricIncrement;
   IncrementForm form;
-  form.FtIncrement.Format = FineFormat();
-  form.FtIncrement.SetValue(step);
+  form.Increment.Format = FineFormat();
+  form.Increment.SetValue(step);
   ShowForm(&form);
-  const Single entered = form.FtIncrement.Value();
+  const Single entered = form.Increment.Value();
   if (form.Accepted && entered > 0 && std::isfinite(double{entered})) step = entered;
 }
 
-void frmDocument::mnuHelpAbout_Click(int) {
+void Document::mnuHelpAbout_Click(int) {
   AboutForm form;
-  form.lblVersion = "Version " PITCHCRAFT_VERSION;
-  form.lblDescription = "The roof-framing calculator for carpenters and builders.";
-  form.lblDisclaimer = DisclaimerForm::Text();
+  form.Version = "Version " PITCHCRAFT_VERSION;
+  form.Description = "The roof-framing calculator for carpenters and builders.";
+  form.Disclaimer = DisclaimerForm::Text();
   ShowForm(&form);
 }
 
-void frmDocument::mnuHelpTips_Click(int) {
+void Document::mnuHelpTips_Click(int) {
   TipForm form(surroundings_.store, {surroundings_.programFolder, surroundings_.dataFolder},
                std::random_device{}());
   ShowForm(&form);
   form.Unload();
 }
 
-void frmDocument::ShowStartForms() {
+void Document::ShowStartForms() {
   const Settings stored = ReadSettings(surroundings_.store);
   if (stored.ShowDisclaimer != 0) {
     DisclaimerForm form(surroundings_.store);
@@ -85,11 +85,11 @@ void frmDocument::ShowStartForms() {
 // --- The options
 // ----------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuViewOptions_Click(int) { ShowOptions(OptionsPage::kColors); }
+void Document::mnuViewOptions_Click(int) { ShowOptions(OptionsPage::kColors); }
 
-void frmDocument::mnuFileDXFSettings_Click(int) { ShowOptions(OptionsPage::kDxf); }
+void Document::mnuFileDXFSettings_Click(int) { ShowOptions(OptionsPage::kDxf); }
 
-void frmDocument::ShowOptions(OptionsPage page) {
+void Document::ShowOptions(OptionsPage page) {
   OptionsForm form;
   form.Page = page;
   FillOptions(form);
@@ -98,15 +98,15 @@ void frmDocument::ShowOptions(OptionsPage page) {
   VSTab_Switch(0, kNoTab, CurrentTab);
 }
 
-void frmDocument::FillOptions(OptionsForm& form) {
+void Document::FillOptions(OptionsForm& form) {
   form.Load({CtlBackColor, CtlForeColor, CtlCalcColor, BackColor, LineColor, DimColor, TextColor},
-            {static_cast<int>(DXFBackcolor), DXFTextcolor, DXFLinecolor, DXFDimcolor}, LineWidth);
-  form.chkSystemColors = UseSystemColors;
-  form.chkPrintAllBlack = PrintAllBlack;
-  form.chkRotateFonts = RotateFonts;
-  form.ftDXFTextsize.Format = FineFormat();
-  if (Imperial()) form.ftDXFTextsize.Format.Units = kInchesAlone;
-  form.ftDXFTextsize.SetValue(Imperial() ? DXFTextsize : DXFMetricTextsize);
+            {static_cast<int>(DxfBackColor), DxfTextColor, DxfLineColor, DxfDimColor}, LineWidth);
+  form.SystemColors = UseSystemColors;
+  form.PrintAllBlack = PrintAllBlack;
+  form.RotateFonts = RotateFonts;
+  form.DxfTextSize.Format = FineFormat();
+  if (Imperial()) form.DxfTextSize.Format.Units = kInchesAlone;
+  form.DxfTextSize.SetValue(Imperial() ? DxfTextSize : DxfMetricTextSize);
   // A run of 12 serves metric slopes, too: the field brings it to its own.
   form.SlopeList.NewRow = {"", "", "12"};
   const std::filesystem::path& folder = surroundings_.programFolder;
@@ -116,8 +116,8 @@ void frmDocument::FillOptions(OptionsForm& form) {
       [&] { form.LumberList.Load(RowsFor(folder, LumberFileOf(UnitRun), DefaultLumberRows())); });
 }
 
-void frmDocument::ApplyOptions(OptionsForm& form) {
-  UseSystemColors = form.chkSystemColors;
+void Document::ApplyOptions(OptionsForm& form) {
+  UseSystemColors = form.SystemColors;
   CtlBackColor = form.ShownColor(kCtlBack);
   CtlForeColor = form.ShownColor(kCtlText);
   CtlCalcColor = form.ShownColor(kCalcText);
@@ -126,15 +126,15 @@ void frmDocument::ApplyOptions(OptionsForm& form) {
   DimColor = form.ShownColor(kDimension);
   TextColor = form.ShownColor(kText);
   LineWidth = form.LineWidth();
-  PrintAllBlack = form.chkPrintAllBlack;
-  RotateFonts = form.chkRotateFonts;
+  PrintAllBlack = form.PrintAllBlack;
+  RotateFonts = form.RotateFonts;
   ColorFields();
   Try(kApply, [&] { SwitchTab(0, kNoTab, CurrentTab); });
-  TakeDxfTextsize(form.ftDXFTextsize);
-  DXFBackcolor = static_cast<std::uint32_t>(form.DxfColors()[kDxfBack]);
-  DXFTextcolor = form.DxfColors()[kDxfText];
-  DXFLinecolor = form.DxfColors()[kDxfLine];
-  DXFDimcolor = form.DxfColors()[kDxfDim];
+  TakeDxfTextSize(form.DxfTextSize);
+  DxfBackColor = static_cast<std::uint32_t>(form.DxfColors()[kDxfBack]);
+  DxfTextColor = form.DxfColors()[kDxfText];
+  DxfLineColor = form.DxfColors()[kDxfLine];
+  DxfDimColor = form.DxfColors()[kDxfDim];
   const std::filesystem::path& folder = surroundings_.programFolder;
   Try(kApply, [&] { RewriteIfChanged(form.SlopeList, folder, SlopeFileOf(UnitRun)); });
   Try(kApply, [&] { RewriteIfChanged(form.LumberList, folder, LumberFileOf(UnitRun)); });
@@ -143,8 +143,8 @@ void frmDocument::ApplyOptions(OptionsForm& form) {
 }
 
 // A text without a height, or higher than any drawing, would leave a file that no program shows.
-void frmDocument::TakeDxfTextsize(FtInText& field) {
-  Single& size = Imperial() ? DXFTextsize : DXFMetricTextsize;
+void Document::TakeDxfTextSize(MeasureControl& field) {
+  Single& size = Imperial() ? DxfTextSize : DxfMetricTextSize;
   const Single entered = field.Value();
   if (entered > 0 && entered <= kLargestDxfText) {
     size = entered;

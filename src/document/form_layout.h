@@ -25,9 +25,9 @@ struct FormLayout {
   Area menuBar;
   Area toolBar;         ///< height 0 while it is hidden
   Area bayStrip;        ///< height 0 while it is hidden
-  Area tabStrip;        ///< the page captions of VSTab(0)
+  Area tabStrip;        ///< the page captions of Tabs(0)
   Area sheet;           ///< the design sheet, at the left of the first page
-  Area roofTabs;        ///< the captions of VSTab(1), inside the sheet's area; height 0 with one roof
+  Area roofTabs;        ///< the captions of Tabs(1), inside the sheet's area; height 0 with one roof
   Area picture1;        ///< the drawing of the design page
   Area picture3;        ///< the drawing of every other page
   Area statusBar;       ///< height 0 while it is hidden

@@ -69,7 +69,7 @@ void TipForm::DisplayCurrentTip() {
   if (!tips_.empty()) text_ = tips_[current_];
 }
 
-void TipForm::cmdNextTip_Click() {
+void TipForm::NextTip() {
   current_ = current_ + 1 < tips_.size() ? current_ + 1 : 0;
   DisplayCurrentTip();
 }

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "document/options_form.h"
-#include "sheet/ft_in_text.h"
+#include "sheet/measure_control.h"
 #include "storage/keyed_store.h"
 
 namespace pitchcraft {
@@ -19,7 +19,7 @@ struct IncrementForm {
   static constexpr const char* kTitle = "Increment Amount";
   static constexpr const char* kLabel1 = "Enter a new increment amount:";
 
-  FtInText FtIncrement;
+  MeasureControl Increment;
   bool Accepted = false;  ///< closed with OK
 };
 
@@ -28,9 +28,9 @@ struct AboutForm {
   static constexpr const char* kName = "frmAbout";
   static constexpr const char* kTitle = "About Pitchcraft";
 
-  std::string lblVersion;
-  std::string lblDescription;
-  std::string lblDisclaimer;
+  std::string Version;
+  std::string Description;
+  std::string Disclaimer;
 };
 
 /// Who answers for a roof. Comes up at the start of the window.
@@ -63,9 +63,9 @@ class TipForm {
 
   /// Takes the first of the folders that holds the file.
   TipForm(KeyedStore& store, const std::vector<std::filesystem::path>& folders, unsigned seed);
-  const std::string& lblTipText() const { return text_; }
+  const std::string& TipText() const { return text_; }
   std::size_t TipCount() const { return tips_.size(); }
-  void cmdNextTip_Click();
+  void NextTip();
   bool ShowsAtStartup() const { return ticked_; }
   void Click(bool ticked);
   void Unload() const;

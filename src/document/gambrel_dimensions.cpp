@@ -6,7 +6,7 @@
 
 #include "core/angles.h"
 #include "core/number_text.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 namespace {
@@ -32,16 +32,16 @@ std::string UpperCase(std::string_view text) {
 
 }  // namespace
 
-void frmDocument::CalculateGambrelDimensions(std::string_view ChangedField) {
+void Document::CalculateGambrelDimensions(std::string_view ChangedField) {
   constexpr const char* kProcedure = "CalculateGambrelDimensions";
   const std::string changed = UpperCase(ChangedField);
   Single upperSpan;
   Try(kProcedure, [&] {
     if (Rafter1.Heel == 0) {
       Rafter1.Overhang = 0;
-      sheet.FtOverhang[0].SetValue(0);
+      sheet.Overhang[0].SetValue(0);
     }
-    if (menus.mnuGambrelRegular.Checked) {
+    if (menus.GambrelRegular.Checked) {
       upperSpan = SolveRegularGambrel(std::find(std::begin(kFields), std::end(kFields), changed) !=
                                       std::end(kFields));
     } else {
@@ -53,28 +53,28 @@ void frmDocument::CalculateGambrelDimensions(std::string_view ChangedField) {
     if (Rafter1.Heel == 0) Rafter1.Overhang = 0;
     Rafter1.Calculate();
     Rafter2.Calculate();
-    sheet.FtSpan[2].SetValue(upperSpan);
-    sheet.FtRidge[0].SetValue(Rafter2.RiseToSpan + Rafter2.Heel);
-    sheet.FtRidge[1].SetValue(Rafter1.RiseToSpan + Rafter1.Heel);
+    sheet.Span[2].SetValue(upperSpan);
+    sheet.RidgeLength[0].SetValue(Rafter2.RiseToSpan + Rafter2.Heel);
+    sheet.RidgeLength[1].SetValue(Rafter1.RiseToSpan + Rafter1.Heel);
   });
   Draw(Drawing::kGambrelPreview, Rafter1);
 }
 
 // The roof fits the circle through the ends of the overhangs and the ridge. Gives the upper span.
-double frmDocument::SolveRegularGambrel(bool knownField) {
+double Document::SolveRegularGambrel(bool knownField) {
   const RegularSlopes& slopes = Imperial() ? kImperialSlopes : kMetricSlopes;
-  sheet.LWSlope[0].SetValues(slopes.upperShown, UnitRun);
-  sheet.LWSlope[2].SetValues(slopes.lowerShown, UnitRun);
+  sheet.Slope[0].SetValues(slopes.upperShown, UnitRun);
+  sheet.Slope[2].SetValues(slopes.lowerShown, UnitRun);
   Rafter2.Slope = Rafter1.HipValSlope = slopes.upper;
   Rafter1.Slope = Rafter2.HipValSlope = slopes.lower;
-  sheet.cboDegrees[0].SetText(PlainText(22.5));
-  sheet.cboDegrees[2].SetText(PlainText(67.5));
+  sheet.Degrees[0].SetText(PlainText(22.5));
+  sheet.Degrees[2].SetText(PlainText(67.5));
   Rafter1.degrees = 67.5;
   Rafter2.degrees = 22.5;
-  const Single width = sheet.FtSpan[0].Value();
+  const Single width = sheet.Span[0].Value();
   Single half;
   if (knownField) {
-    const Single radius = sheet.FtOverhang[0].Value() + width / 2;
+    const Single radius = sheet.Overhang[0].Value() + width / 2;
     half = std::sqrt(radius * radius / 2);
   }
   const Single upper = 2 * half;
@@ -87,26 +87,26 @@ double frmDocument::SolveRegularGambrel(bool knownField) {
 
 // Gives the upper span; the two runs follow from it and the whole width. Unless a lock box names another
 // derived quantity, a change of the lower roof moves the upper span, and every other change the two heights.
-double frmDocument::SolveCustomGambrel(const std::string& changed) {
-  Rafter2.Slope = Rafter1.HipValSlope = sheet.LWSlope[0].LeftValue();
-  Rafter1.Slope = Rafter2.HipValSlope = sheet.LWSlope[2].LeftValue();
-  const Single width = sheet.FtSpan[0].Value();
-  Single upper = sheet.FtSpan[2].Value();
+double Document::SolveCustomGambrel(const std::string& changed) {
+  Rafter2.Slope = Rafter1.HipValSlope = sheet.Slope[0].LeftValue();
+  Rafter1.Slope = Rafter2.HipValSlope = sheet.Slope[2].LeftValue();
+  const Single width = sheet.Span[0].Value();
+  Single upper = sheet.Span[2].Value();
   const bool lowerRoof = changed == "LOWER SPAN" || changed == "LOWER HEIGHT";
-  const bool lowerHeightFollows = sheet.chkLowerHeight.Ticked() && changed == "LOWER SPAN";
-  const bool upperSpanFollows = sheet.chkUpperSpan.Ticked() && changed == "LOWER SLOPE";
-  if (sheet.chkLowerSlope.Ticked() && (lowerRoof || changed == "UPPER SPAN")) {
+  const bool lowerHeightFollows = sheet.LowerHeightLock.Ticked() && changed == "LOWER SPAN";
+  const bool upperSpanFollows = sheet.UpperSpanLock.Ticked() && changed == "LOWER SLOPE";
+  if (sheet.LowerSlopeLock.Ticked() && (lowerRoof || changed == "UPPER SPAN")) {
     DeriveLowerSlope(width, upper);
   } else if ((lowerRoof && !lowerHeightFollows) || upperSpanFollows) {
     upper = UpperSpanFromLowerHeight(width);
-  } else if (changed == "UPPER HEIGHT" && sheet.chkUpperSpan.Ticked()) {
-    upper = 2 * UnitRun * sheet.FtRidge[0].Value() / Rafter2.Slope;
-  } else if (changed == "UPPER HEIGHT" || (changed == "UPPER SPAN" && sheet.chkUpperSlope.Ticked())) {
+  } else if (changed == "UPPER HEIGHT" && sheet.UpperSpanLock.Ticked()) {
+    upper = 2 * UnitRun * sheet.RidgeLength[0].Value() / Rafter2.Slope;
+  } else if (changed == "UPPER HEIGHT" || (changed == "UPPER SPAN" && sheet.UpperSlopeLock.Ticked())) {
     DeriveUpperSlope(upper);
   } else if (changed == "UPPER SLOPE") {
-    sheet.FtRidge[0].SetValue((upper / 2) * Rafter2.Slope / UnitRun);
+    sheet.RidgeLength[0].SetValue((upper / 2) * Rafter2.Slope / UnitRun);
   }
-  for (CRafter* rafter : {&Rafter1, &Rafter2}) {
+  for (Rafter* rafter : {&Rafter1, &Rafter2}) {
     rafter->degrees = kDegreesPerRadian * std::atan(rafter->Slope / UnitRun);
   }
   Rafter1.Span = (width - upper) / 2;
@@ -115,52 +115,52 @@ double frmDocument::SolveCustomGambrel(const std::string& changed) {
 }
 
 // The lower roof keeps its height and slope: what is left of the width is the upper roof's.
-double frmDocument::UpperSpanFromLowerHeight(double width) {
-  const Single lowerHeight = sheet.FtRidge[1].Value();
+double Document::UpperSpanFromLowerHeight(double width) {
+  const Single lowerHeight = sheet.RidgeLength[1].Value();
   Rafter1.Span = UnitRun * (lowerHeight - Rafter1.Heel) / Rafter1.Slope;
   return width - (Rafter1.Span + Rafter1.Span);
 }
 
-void frmDocument::DeriveUpperSlope(double upperSpan) {
-  Rafter2.Slope = UnitRun * sheet.FtRidge[0].Value() / (upperSpan / 2);
+void Document::DeriveUpperSlope(double upperSpan) {
+  Rafter2.Slope = UnitRun * sheet.RidgeLength[0].Value() / (upperSpan / 2);
   Rafter1.HipValSlope = Rafter2.Slope;
-  sheet.LWSlope[0].SetValues(Rafter2.Slope, UnitRun);
-  sheet.cboDegrees[0].SetText(PlainText(DegreesOfRow(0)));
+  sheet.Slope[0].SetValues(Rafter2.Slope, UnitRun);
+  sheet.Degrees[0].SetText(PlainText(DegreesOfRow(0)));
 }
 
-void frmDocument::DeriveLowerSlope(double width, double upperSpan) {
-  Rafter1.Slope = UnitRun * (sheet.FtRidge[1].Value() - Rafter1.Heel) / ((width - upperSpan) / 2);
+void Document::DeriveLowerSlope(double width, double upperSpan) {
+  Rafter1.Slope = UnitRun * (sheet.RidgeLength[1].Value() - Rafter1.Heel) / ((width - upperSpan) / 2);
   Rafter2.HipValSlope = Rafter1.Slope;
-  sheet.LWSlope[2].SetValues(Rafter1.Slope, UnitRun);
-  sheet.cboDegrees[2].SetText(PlainText(DegreesOfRow(2)));
+  sheet.Slope[2].SetValues(Rafter1.Slope, UnitRun);
+  sheet.Degrees[2].SetText(PlainText(DegreesOfRow(2)));
 }
 
 // A raised wall support gives the upper rafter a heel of its fascia's plumb height; else it sits on the lower
 // one.
-void frmDocument::SetUpperBearing() {
+void Document::SetUpperBearing() {
   Rafter2.Heel = 0;
   Rafter2.Overhang = 0;
-  if (!menus.mnuGambrelWallSupportRaised.Checked) return;
-  const Single fascia = FtInConverter1.ToValue(sheet.FTUpperFascia.Text());
+  if (!menus.GambrelWallSupportRaised.Checked) return;
+  const Single fascia = measures.ToValue(sheet.UpperFascia.Text());
   const Single rise = fascia * Rafter2.Slope / UnitRun;
   Rafter2.Heel = std::sqrt(fascia * fascia + rise * rise);
   const double angle = std::atan(Rafter2.Slope / UnitRun) + 1.570796326795;
   Rafter2.Overhang = std::abs(DraftingBoard::AngleDistance(angle, fascia).X);
 }
 
-void frmDocument::FTUpperFascia_Click(int) {
+void Document::FTUpperFascia_Click(int) {
   Try("FTUpperFascia_Click", [&] {
-    const double height = FtInConverter1.ToValue(sheet.FTUpperFascia.Text());
+    const double height = measures.ToValue(sheet.UpperFascia.Text());
     const bool tooTall = height > Rafter1.Depth;
     if (Imperial()) {
-      FtInConverter1.Units = kInchesAlone;
-      sheet.FTUpperFascia.SetText(FtInConverter1.ToText(tooTall ? double{Rafter1.Depth} : height));
-      FtInConverter1.Units = kFeetAndInches;
+      measures.Units = kInchesAlone;
+      sheet.UpperFascia.SetText(measures.ToText(tooTall ? double{Rafter1.Depth} : height));
+      measures.Units = kFeetAndInches;
     } else if (tooTall) {
-      sheet.FTUpperFascia.SetText(PlainText(Rafter1.Depth));
+      sheet.UpperFascia.SetText(PlainText(Rafter1.Depth));
     }
     CalculateGambrelDimensions("Heel");
-    const int page = sheet.VSTab[0].Page;
+    const int page = sheet.Tabs[0].Page;
     if (page == 1 || page == 2) Draw(Drawing::kGambrelRafter, page == 1 ? Rafter1 : Rafter2);
   });
 }
@@ -168,71 +168,71 @@ void frmDocument::FTUpperFascia_Click(int) {
 // --- Menus of the gambrel
 // -------------------------------------------------------------------------------------------
 
-void frmDocument::mnuGambrelRegular_Click(int) {
+void Document::mnuGambrelRegular_Click(int) {
   Try("mnuGambrelRegular_Click", [&] {
     SetGambrelKind(true);
     CalculateGambrelDimensions("Heel");
   });
 }
 
-void frmDocument::mnuGambrelCustom_Click(int) {
+void Document::mnuGambrelCustom_Click(int) {
   Try("mnuGambrelCustom_Click", [&] {
     SetGambrelKind(false);
-    if (menus.mnuGambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
+    if (menus.GambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
     CalculateGambrelDimensions("Heel");
   });
 }
 
-void frmDocument::SetGambrelKind(bool regular) {
-  sheet.txtUpperFascia.Visible = sheet.FTUpperFascia.Visible = false;
-  menus.mnuGambrelRegular.Checked = menus.mnuPopup2GambrelRegular.Checked = regular;
-  menus.mnuGambrelCustom.Checked = menus.mnuPopup2GambrelCustom.Checked = !regular;
+void Document::SetGambrelKind(bool regular) {
+  sheet.UpperFasciaLabel.Visible = sheet.UpperFascia.Visible = false;
+  menus.GambrelRegular.Checked = menus.PopUp2GambrelRegular.Checked = regular;
+  menus.GambrelCustom.Checked = menus.PopUp2GambrelCustom.Checked = !regular;
   for (const std::size_t index : {2, 4, 7}) sheet.Spin[index].Enabled = !regular;
   sheet.Spin[3].Enabled = true;
   for (const std::size_t row : {0, 2}) {
-    sheet.LWSlope[row].Locked = regular;
-    sheet.cboDegrees[row].Locked = regular;
+    sheet.Slope[row].Locked = regular;
+    sheet.Degrees[row].Locked = regular;
   }
   for (CheckControl* box : GambrelLocks()) box->Visible = !regular;
   // The upper roof of a regular gambrel cannot stand on raised walls: its circle leaves no room for them.
   const bool canRaise = !regular;
-  menus.mnuGambrelWallSupportRaised.Enabled = menus.mnuPopup2GambrelWallSupportRaised.Enabled = canRaise;
-  if (regular && menus.mnuGambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
+  menus.GambrelWallSupportRaised.Enabled = menus.PopUp2GambrelWallSupportRaised.Enabled = canRaise;
+  if (regular && menus.GambrelWallSupportRaised.Checked) SetGambrelSupport(GambrelSupport::kPurlins);
 }
 
-void frmDocument::mnuGambrelPurlins_Click(int) { ChooseGambrelSupport(GambrelSupport::kPurlins); }
-void frmDocument::mnuGambrelWallSupport_Click(int) { ChooseGambrelSupport(GambrelSupport::kWall); }
-void frmDocument::mnuGambrelWallSupportRaised_Click(int) { ChooseGambrelSupport(GambrelSupport::kRaised); }
+void Document::mnuGambrelPurlins_Click(int) { ChooseGambrelSupport(GambrelSupport::kPurlins); }
+void Document::mnuGambrelWallSupport_Click(int) { ChooseGambrelSupport(GambrelSupport::kWall); }
+void Document::mnuGambrelWallSupportRaised_Click(int) { ChooseGambrelSupport(GambrelSupport::kRaised); }
 
-void frmDocument::ChooseGambrelSupport(GambrelSupport support) {
+void Document::ChooseGambrelSupport(GambrelSupport support) {
   Try("mnuGambrelPurlins_Click", [&] {
     SetGambrelSupport(support);
     CalculateGambrelDimensions("Heel");
   });
 }
 
-void frmDocument::SetGambrelSupport(GambrelSupport support) {
+void Document::SetGambrelSupport(GambrelSupport support) {
   const auto check = [support](MenuItem& item, MenuItem& twin, GambrelSupport own) {
     item.Checked = twin.Checked = own == support;
   };
-  check(menus.mnuGambrelPurlins, menus.mnuPopup2GambrelPurlins, GambrelSupport::kPurlins);
-  check(menus.mnuGambrelWallSupport, menus.mnuPopup2GambrelWallSupport, GambrelSupport::kWall);
-  check(menus.mnuGambrelWallSupportRaised, menus.mnuPopup2GambrelWallSupportRaised, GambrelSupport::kRaised);
+  check(menus.GambrelPurlins, menus.PopUp2GambrelPurlins, GambrelSupport::kPurlins);
+  check(menus.GambrelWallSupport, menus.PopUp2GambrelWallSupport, GambrelSupport::kWall);
+  check(menus.GambrelWallSupportRaised, menus.PopUp2GambrelWallSupportRaised, GambrelSupport::kRaised);
   Rafter1.Purlins = Rafter2.Purlins = support == GambrelSupport::kPurlins;
   const bool raised = support == GambrelSupport::kRaised;
-  sheet.txtUpperFascia.Visible = raised;
-  sheet.FTUpperFascia.Visible = raised;
-  if (raised) sheet.FTUpperFascia.SetListIndex(0);
+  sheet.UpperFasciaLabel.Visible = raised;
+  sheet.UpperFascia.Visible = raised;
+  if (raised) sheet.UpperFascia.SetListIndex(0);
   sheet.Label[22].Caption = support == GambrelSupport::kPurlins ? "Purlins:" : "Ridge:";
 }
 
-std::array<CheckControl*, 5> frmDocument::GambrelLocks() {
-  return {&sheet.chkUpperSlope, &sheet.chkLowerSlope, &sheet.chkUpperSpan, &sheet.chkUpperHeight,
-          &sheet.chkLowerHeight};
+std::array<CheckControl*, 5> Document::GambrelLocks() {
+  return {&sheet.UpperSlopeLock, &sheet.LowerSlopeLock, &sheet.UpperSpanLock, &sheet.UpperHeightLock,
+          &sheet.LowerHeightLock};
 }
 
 // The box that is ticked names the derived quantity: one of the five follows from the others.
-void frmDocument::GambrelLock_Click(std::size_t which) {
+void Document::GambrelLock_Click(std::size_t which) {
   const auto locks = GambrelLocks();
   const CheckControl* clicked = locks[which];
   const int others = clicked->Ticked() ? 0 : 1;

@@ -1,5 +1,5 @@
 // What the status bar says while the pointer or the focus is on a field.
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 namespace {
@@ -105,7 +105,7 @@ constexpr HintRow kHints[] = {
 
 }  // namespace
 
-void frmDocument::Hint(std::string_view controlName) {
+void Document::Hint(std::string_view controlName) {
   StatusText.clear();
   if (const MenuItem* item = menus.Find(controlName)) {
     StatusText = item->StatusText;
@@ -114,7 +114,7 @@ void frmDocument::Hint(std::string_view controlName) {
   const std::size_t bracket = controlName.find('(');
   const std::string_view base = controlName.substr(0, bracket);
   const int index = bracket == std::string_view::npos ? 0 : controlName[bracket + 1] - '0';
-  const Kind gambrel = menus.mnuGambrelRegular.Checked ? Kind::kRegular : Kind::kCustom;
+  const Kind gambrel = menus.GambrelRegular.Checked ? Kind::kRegular : Kind::kCustom;
   for (const HintRow& row : kHints) {
     const bool fits = row.control == base && (row.roofType == kEvery || row.roofType == RoofType) &&
                       (row.index == kEvery || row.index == index) &&

@@ -110,8 +110,8 @@ bool OptionsForm::SetDxfColor(int row, int color) {
 void OptionsForm::SetLineWidth(int width) { lineWidth_ = std::clamp(width, kThinnestLine, kHeaviestLine); }
 
 std::uint32_t OptionsForm::ShownColor(int row) const {
-  if (chkSystemColors && row == kCtlBack) return kSystemWindowColor;
-  if (chkSystemColors && (row == kCtlText || row == kCalcText)) return kSystemWindowTextColor;
+  if (SystemColors && row == kCtlBack) return kSystemWindowColor;
+  if (SystemColors && (row == kCtlText || row == kCalcText)) return kSystemWindowTextColor;
   return row >= 0 && row < kColorRows ? colors_[static_cast<std::size_t>(row)] : 0;
 }
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sheet/ft_in_text.h"
+#include "sheet/measure_control.h"
 
 namespace pitchcraft {
 
@@ -66,10 +66,10 @@ struct OptionsForm {
   static constexpr const char* kTitle = "Options";
 
   OptionsPage Page = OptionsPage::kColors;
-  bool chkSystemColors = false;
-  bool chkPrintAllBlack = false;
-  bool chkRotateFonts = false;
-  FtInText ftDXFTextsize;
+  bool SystemColors = false;
+  bool PrintAllBlack = false;
+  bool RotateFonts = false;
+  MeasureControl DxfTextSize;
   ListGrid SlopeList;
   ListGrid LumberList;
   std::function<void()> Apply;  ///< hands the copies to the document

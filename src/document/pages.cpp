@@ -1,26 +1,26 @@
-// The pages of VSTab(0) and what is drawn on each.
-#include "document/frm_document.h"
+// The pages of Tabs(0) and what is drawn on each.
+#include "document/document.h"
 
 namespace pitchcraft {
 
-void frmDocument::VSTab_Switch(int Index, int, int NewTab) {
+void Document::VSTab_Switch(int Index, int, int NewTab) {
   constexpr const char* kProcedure = "VSTab_Switch";
   if (Index == 1) {
-    sheet.VSTab[1].Page = NewTab;
+    sheet.Tabs[1].Page = NewTab;
     const auto page = static_cast<std::size_t>(NewTab);
-    menus.mnuSettingsHeelLocked.Checked = sheet.chkHeel[page].Ticked();
-    menus.mnuSettingsSeatLocked.Checked = sheet.chkSeat[page].Ticked();
+    menus.SettingsHeelLocked.Checked = sheet.HeelLock[page].Ticked();
+    menus.SettingsSeatLocked.Checked = sheet.SeatLock[page].Ticked();
     return;
   }
-  sheet.VSTab[0].Page = NewTab;
+  sheet.Tabs[0].Page = NewTab;
   CurrentTab = NewTab;
-  sheet.txtSpacing.Visible = false;
-  sheet.cboSpacing.Visible = false;
+  sheet.SpacingLabel.Visible = false;
+  sheet.Spacing.Visible = false;
   Try(kProcedure, [&] { LayOutPictures(); });
   Try(kProcedure, [&] { DrawPage(NewTab); });
 }
 
-void frmDocument::DrawPage(int page) {
+void Document::DrawPage(int page) {
   ClearPicture();
   switch (RoofType) {
     case roof::kGable:
@@ -50,12 +50,12 @@ void frmDocument::DrawPage(int page) {
       Rafter1.RafterType = RafterType::kGambrelBottom;
       Rafter2.RafterType = RafterType::kGambrelTop;
       CalculateGambrelDimensions("Heel");
-      return Focus(sheet.FtSpan[0]);
+      return Focus(sheet.Span[0]);
     default: return;
   }
 }
 
-void frmDocument::DrawHipPage(int page) {
+void Document::DrawHipPage(int page) {
   const bool bastard = IsBastardByRafter();
   ShowHipLayoutMenus(true);
   ShowOverhangsEqualMenus(bastard);
@@ -77,24 +77,24 @@ void frmDocument::DrawHipPage(int page) {
   DrawAs(kMembers[page], Drawing::kBastardHipRafters);
 }
 
-void frmDocument::DrawAs(RafterType type, Drawing drawing) {
+void Document::DrawAs(RafterType type, Drawing drawing) {
   const RafterType own = Rafter1.RafterType;
   Rafter1.RafterType = type;
   Draw(drawing, Rafter1);
   Rafter1.RafterType = own;
 }
 
-void frmDocument::DrawBayPage(int page) {
+void Document::DrawBayPage(int page) {
   if (page == 0) return Draw(BayEditMode != 0 ? Drawing::kBayPlan : Drawing::kBayDiagram, Rafter1);
   const double product =
-      sheet.FtFace.Value() * sheet.FtBack.Value() * sheet.FtBayAngle.Value() * sheet.FtProjection.Value();
+      sheet.Face.Value() * sheet.Back.Value() * sheet.BayAngle.Value() * sheet.Projection.Value();
   if (product == 0) return;  // a page of a bay without dimensions stays blank
   Rafter1.RafterType = static_cast<RafterType>(static_cast<int>(RafterType::kBayCommon) + page - 1);
   Rafter1.CalculateBay();
   Draw(page < 4 ? Drawing::kBayRafter : Drawing::kBayCenterLedger, Rafter1);
 }
 
-void frmDocument::DrawDutchHipPage(int page) {
+void Document::DrawDutchHipPage(int page) {
   switch (page) {
     case 0: return Draw(Drawing::kDutchPlan, Rafter2);
     case 1: return Draw(Drawing::kRafter, Rafter1);
@@ -105,7 +105,7 @@ void frmDocument::DrawDutchHipPage(int page) {
   }
 }
 
-void frmDocument::DrawOctagonPage(int page) {
+void Document::DrawOctagonPage(int page) {
   if (page == 0) {
     Rafter1.RafterType = RafterType::kOctagonHip;
     Draw(Drawing::kOctagonPlan, Rafter1);
@@ -118,7 +118,7 @@ void frmDocument::DrawOctagonPage(int page) {
   Rafter1.RafterType = RafterType::kOctagonJack;
 }
 
-void frmDocument::Draw(Drawing drawing, const CRafter& rafter) {
+void Document::Draw(Drawing drawing, const Rafter& rafter) {
   if (!CalcEnabled) return;
   const DrawingForms& forms = FormsOf(drawing);
   DrawingExists = forms.Draw != nullptr;
@@ -126,14 +126,14 @@ void frmDocument::Draw(Drawing drawing, const CRafter& rafter) {
   if (DrawingExists) Try(forms.DrawName, [&] { forms.Draw(board, rafter, Context()); });
 }
 
-DrawingContext frmDocument::Context() const {
+DrawingContext Document::Context() const {
   DrawingContext context;
   context.RoofType = RoofType;
   context.UnitRun = UnitRun;
   context.UnitHipRun = UnitHipRun;
   context.CurrentTab = CurrentTab;
-  context.SquareCut = menus.mnuSettingsSquareCut.Checked;
-  context.RiseOverRun = menus.mnuSettingsRiseOverRun.Checked;
+  context.SquareCut = menus.SettingsSquareCut.Checked;
+  context.RiseOverRun = menus.SettingsRiseOverRun.Checked;
   context.HipLayout = HipLayoutChoice();
   context.BackColor = static_cast<DrawColor>(BackColor);
   context.LineColor = static_cast<DrawColor>(LineColor);
@@ -142,41 +142,41 @@ DrawingContext frmDocument::Context() const {
   return context;
 }
 
-HipLayoutOptions frmDocument::HipLayoutChoice() const {
+HipLayoutOptions Document::HipLayoutChoice() const {
   HipLayoutOptions options;
-  options.Layout = menus.mnuHipLayoutCenter.Checked         ? JackLayout::kCenter
-                   : menus.mnuHipLayoutCornersFlush.Checked ? JackLayout::kCornersFlush
-                                                            : JackLayout::kCorners;
-  options.WithOverhang = menus.mnuHipLayoutJackMeasurement.Checked;
-  if (sheet.chkLastCommon.Ticked()) options.LastCommon = sheet.FtLastCommon.Value();
+  options.Layout = menus.HipLayoutCenter.Checked         ? JackLayout::kCenter
+                   : menus.HipLayoutCornersFlush.Checked ? JackLayout::kCornersFlush
+                                                         : JackLayout::kCorners;
+  options.WithOverhang = menus.HipLayoutJackMeasurement.Checked;
+  if (sheet.HasLastCommon.Ticked()) options.LastCommon = sheet.LastCommon.Value();
   return options;
 }
 
 // The page's picture becomes the target, with nothing on it.
-void frmDocument::ClearPicture() {
+void Document::ClearPicture() {
   board.DrawScale = DrawScale();
-  board.MetaCanvas.SetCanvas((CurrentTab == 0 ? Picture1 : Picture3).Size());
+  board.Recorder.SetCanvas((CurrentTab == 0 ? Picture1 : Picture3).Size());
   board.AbandonDrawing();
 }
 
-void frmDocument::RepeatDrawing() {
+void Document::RepeatDrawing() {
   const std::string focus = FocusRequest;
   if (RoofType == roof::kGambrel && CurrentTab > 0) CalculateGambrelDimensions("Heel");
   DrawPage(CurrentTab);
   FocusRequest = focus;
 }
 
-void frmDocument::ShowSpacing() {
-  sheet.txtSpacing.Visible = true;
-  sheet.cboSpacing.Visible = true;
+void Document::ShowSpacing() {
+  sheet.SpacingLabel.Visible = true;
+  sheet.Spacing.Visible = true;
 }
 
-void frmDocument::FocusSlope(std::size_t row) {
+void Document::FocusSlope(std::size_t row) {
   if (DialogIsActive) return;  // a dialog keeps the focus
-  if (menus.mnuSettingsRiseOverRun.Checked) {
-    Focus(sheet.LWSlope[row]);
+  if (menus.SettingsRiseOverRun.Checked) {
+    Focus(sheet.Slope[row]);
   } else {
-    Focus(sheet.cboDegrees[row]);
+    Focus(sheet.Degrees[row]);
   }
 }
 

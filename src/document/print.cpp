@@ -1,5 +1,5 @@
 // The page shown, on paper.
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "output/printer.h"
 
 namespace pitchcraft {
@@ -12,35 +12,35 @@ constexpr const char* kPrint = "mnuFilePrint_Click";
 
 }  // namespace
 
-void frmDocument::mnuFilePageSetup_Click(int) {
+void Document::mnuFilePageSetup_Click(int) {
   Try("mnuFilePageSetup_Click", [&] {
     if (surroundings_.printer != nullptr) surroundings_.printer->ShowSetup();
   });
 }
 
-PageOutput frmDocument::OutputOfPage(OutputForm form) const {
+PageOutput Document::OutputOfPage(OutputForm form) const {
   return OutputOf(form, RoofType, CurrentTab,
                   {SlopesDiffer(), BayEditMode == 0, Rafter1.RafterType == RafterType::kCenterLedger});
 }
 
-void frmDocument::mnuFilePrint_Click(int) {
+void Document::mnuFilePrint_Click(int) {
   if (surroundings_.printer == nullptr) return MsgBox("There is no printer.", kPrint);
   const PageOutput output = OutputOfPage(OutputForm::kPaper);
   if (output.Drawing == Drawing::kNone) return;
   const DrawingForms& forms = FormsOf(output.Drawing);
   if (forms.Print == nullptr) return MsgBox("This page cannot be printed yet.", forms.PrintName);
   WithOutputRafter(output,
-                   [&](const CRafter& rafter) { Try(forms.PrintName, [&] { PrintPage(output, rafter); }); });
+                   [&](const Rafter& rafter) { Try(forms.PrintName, [&] { PrintPage(output, rafter); }); });
 }
 
-PrintContext frmDocument::OutputContext(int rafter) const {
+PrintContext Document::OutputContext(int rafter) const {
   const std::string today = surroundings_.printer == nullptr ? std::string() : surroundings_.printer->Today();
   return {Context(), sheet, rafter == 2 ? 1U : 0U, ProjectName, today, board.LengthText};
 }
 
 /// White lines, made for a dark screen, come out black; on a printer without colour, or where the person
 /// wants it, everything does.
-PrintContext frmDocument::PaperContext(int rafter, bool color) const {
+PrintContext Document::PaperContext(int rafter, bool color) const {
   PrintContext context = OutputContext(rafter);
   DrawingContext& drawing = context.Drawing;
   drawing.BackColor = kWhite;
@@ -51,14 +51,14 @@ PrintContext frmDocument::PaperContext(int rafter, bool color) const {
 }
 
 // The sheet has a board of its own: the drawing on screen stays as it is.
-void frmDocument::PrintPage(const PageOutput& output, const CRafter& rafter) {
+void Document::PrintPage(const PageOutput& output, const Rafter& rafter) {
   Printer page(surroundings_.printer->NextPaper(!Imperial()), meter);
   page.ScaleHeight = -page.ScaleHeight;
   const bool color = page.ColorMode == kPrintsInColor && !PrintAllBlack;
   DraftingBoard paper(meter, board.LengthText);
   paper.DrawScale = DrawScale();
   paper.TextFlip = RotateFonts ? -1 : 1;
-  paper.MetaCanvas.SetCanvas({page.ScaleWidth, page.ScaleHeight, true});
+  paper.Recorder.SetCanvas({page.ScaleWidth, page.ScaleHeight, true});
   FormsOf(output.Drawing).Print(page, paper, rafter, PaperContext(output.Rafter, color));
   surroundings_.printer->Send(page.EndDoc(), ProjectName);
 }

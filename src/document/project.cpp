@@ -1,7 +1,7 @@
 // Projects: written whole, and read whole before anything changes.
 #include <filesystem>
 
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/project_reader.h"
 #include "files/whole_file.h"
 #include "storage/ini_file.h"
@@ -31,7 +31,7 @@ class Loading {
 
 }  // namespace
 
-bool frmDocument::SaveRafter(const std::string& path) {
+bool Document::SaveRafter(const std::string& path) {
   if (!WriteWholeFile(path, ProjectText(Project()))) {
     MsgBox("Error writing to file, can't save rafter", "Save Rafter");
     return false;
@@ -40,7 +40,7 @@ bool frmDocument::SaveRafter(const std::string& path) {
   return true;
 }
 
-bool frmDocument::LoadRafter(const std::string& path) {
+bool Document::LoadRafter(const std::string& path) {
   const Loading loading(LoadingProject);
   try {
     if (!IsFile(path)) return RefuseProject("Invalid file name, can't load rafter");
@@ -49,7 +49,7 @@ bool frmDocument::LoadRafter(const std::string& path) {
     const IniText file(bytes.value_or(""));
     if (!file.HasSection(kProjectSection)) return RefuseProject("Error reading file, can't load rafter");
     if (const char* why = ProjectReader(*this, file).Read()) return RefuseProject(why);
-    ShowProjectTitle(MRU::LongDirFix(path, kTitleLength));
+    ShowProjectTitle(RecentFileList::ShortenedPath(path, kTitleLength));
     RecentFiles.AddNewFile(path);
     return true;
   } catch (const RunTimeError& error) {
@@ -58,7 +58,7 @@ bool frmDocument::LoadRafter(const std::string& path) {
   }
 }
 
-bool frmDocument::RefuseProject(const char* why) {
+bool Document::RefuseProject(const char* why) {
   MsgBox(why, "Load Rafter");
   return false;
 }

@@ -60,10 +60,10 @@ bool ProjectReader::PickRoof(const std::string& text) {
   if (code == kBayToo) code = roof::kBay;
   const int row = ListIndexOfRoof(code);
   if (row < 0) return false;
-  document_.sheet.cboType.SetListIndex(row);
+  document_.sheet.RoofList.SetListIndex(row);
   document_.cboType_Click();
   document_.RoofType = code;
-  if (code == roof::kHip) document_.Focus(document_.sheet.FtSpan[0]);
+  if (code == roof::kHip) document_.Focus(document_.sheet.Span[0]);
   return true;
 }
 
@@ -93,12 +93,11 @@ void ProjectReader::ReadKey(const ProjectKey& key, const std::string& text) {
     // How jacks are laid out is a matter of the session: a project begins with the plain choices.
     case ProjectStep::kHipLayout: return document_.ShowHipLayoutChecks(0);
     case ProjectStep::kOverhangsEqual:
-      document_.menus.mnuHipLayoutOverhangsEqual.Checked = document_.menus.mnuPopUp1OverhangsEqual.Checked =
-          false;
+      document_.menus.HipLayoutOverhangsEqual.Checked = document_.menus.PopUp1OverhangsEqual.Checked = false;
       document_.Rafter1.OverhangsEqual = false;
       return;
     case ProjectStep::kJackMeasurement:
-      document_.menus.mnuHipLayoutJackMeasurement.Checked = document_.menus.mnuPopUp1JackMeasurement.Checked =
+      document_.menus.HipLayoutJackMeasurement.Checked = document_.menus.PopUp1JackMeasurement.Checked =
           false;
       return;
     case ProjectStep::kSpacing: key.PutBack(document_.Project(), text); return document_.cboSpacing_Click();
@@ -114,10 +113,10 @@ void ProjectReader::ReadKey(const ProjectKey& key, const std::string& text) {
 void ProjectReader::ReadKneewall(const ProjectKey& key, const std::string& text, std::size_t row) {
   key.PutBack(document_.Project(), text);
   const double value = (row == 0 ? document_.Rafter1 : document_.Rafter2).Kneewall;
-  document_.sheet.FtKneewall[row].SetValue(value);
-  document_.sheet.chkKneewall[0].Value = value > 0 ? 1 : 0;
+  document_.sheet.Kneewall[row].SetValue(value);
+  document_.sheet.HasKneewall[0].Value = value > 0 ? 1 : 0;
   const std::string focus = document_.FocusRequest;
-  document_.TakeTick(document_.sheet.chkKneewall[0], document_.sheet.FtKneewall[0], document_.sheet.Label[0]);
+  document_.TakeTick(document_.sheet.HasKneewall[0], document_.sheet.Kneewall[0], document_.sheet.Label[0]);
   document_.FocusRequest = focus;
 }
 
@@ -132,15 +131,15 @@ void ProjectReader::ReadGambrelSupport(const std::string& text) {
 void ProjectReader::TakeLocks() {
   const std::string focus = document_.FocusRequest;
   for (std::size_t row = 0; row < 2; ++row) {
-    const bool seat = document_.sheet.chkSeat[row].Ticked();
-    if (document_.sheet.chkHeel[row].Ticked()) document_.chkHeel_Click(static_cast<int>(row));
+    const bool seat = document_.sheet.SeatLock[row].Ticked();
+    if (document_.sheet.HeelLock[row].Ticked()) document_.chkHeel_Click(static_cast<int>(row));
     if (seat) {
-      document_.sheet.chkSeat[row].Value = 1;
+      document_.sheet.SeatLock[row].Value = 1;
       document_.chkSeat_Click(static_cast<int>(row));
     }
   }
-  document_.menus.mnuSettingsHeelLocked.Checked = document_.sheet.chkHeel[0].Ticked();
-  document_.menus.mnuSettingsSeatLocked.Checked = document_.sheet.chkSeat[0].Ticked();
+  document_.menus.SettingsHeelLocked.Checked = document_.sheet.HeelLock[0].Ticked();
+  document_.menus.SettingsSeatLocked.Checked = document_.sheet.SeatLock[0].Ticked();
   document_.FocusRequest = focus;
 }
 
@@ -150,15 +149,15 @@ void ProjectReader::FinishRoof() {
     case roof::kHip:
       if (document_.IsBastardByRafter()) {
         document_.ShowOverhangsEqualMenus(true);
-        document_.sheet.LWSlope[2].SetValues(document_.Rafter1.HipEndSlope, document_.UnitRun);
-        document_.sheet.FtLastCommon.SetValue((document_.Rafter1.Slope / document_.Rafter1.HipEndSlope) *
-                                                  document_.Rafter1.Span -
-                                              document_.Rafter1.HipEndOverhangExcess);
+        document_.sheet.Slope[2].SetValues(document_.Rafter1.HipEndSlope, document_.UnitRun);
+        document_.sheet.LastCommon.SetValue((document_.Rafter1.Slope / document_.Rafter1.HipEndSlope) *
+                                                document_.Rafter1.Span -
+                                            document_.Rafter1.HipEndOverhangExcess);
         document_.Draw(Drawing::kHipPlan, document_.Rafter1);
       } else {
-        document_.sheet.LWSlope[2].CopyPositionFrom(document_.sheet.LWSlope[0]);
+        document_.sheet.Slope[2].CopyPositionFrom(document_.sheet.Slope[0]);
       }
-      return document_.Focus(document_.sheet.FtSpan[0]);
+      return document_.Focus(document_.sheet.Span[0]);
     case roof::kBay:
       document_.Rafter1.CalculateBay();
       document_.BayEditMode = 1;
@@ -168,10 +167,9 @@ void ProjectReader::FinishRoof() {
       return document_.Draw(Drawing::kBlindValley, document_.Rafter1);
     case roof::kGambrel:
       // Its results do not touch the lumber fields, which show what was typed.
-      document_.sheet.LWRafter[0].SetValues(document_.Rafter1.Thickness, document_.Rafter1.Depth);
-      document_.sheet.LWRidge.SetValues(document_.Rafter1.RidgeThickness, document_.Rafter1.RidgeDepth);
-      document_.sheet.LWFascia[0].SetValues(document_.Rafter1.FasciaThickness,
-                                            document_.Rafter1.FasciaHeight);
+      document_.sheet.Common[0].SetValues(document_.Rafter1.Thickness, document_.Rafter1.Depth);
+      document_.sheet.Ridge.SetValues(document_.Rafter1.RidgeThickness, document_.Rafter1.RidgeDepth);
+      document_.sheet.Fascia[0].SetValues(document_.Rafter1.FasciaThickness, document_.Rafter1.FasciaHeight);
       return;
     default: return;
   }

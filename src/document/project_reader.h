@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "storage/ini_file.h"
 
 namespace pitchcraft {
@@ -12,7 +12,7 @@ namespace pitchcraft {
 /// since a handler calculates with what has been read before.
 class ProjectReader {
  public:
-  ProjectReader(frmDocument& document, const IniText& file) : document_(document), file_(file) {}
+  ProjectReader(Document& document, const IniText& file) : document_(document), file_(file) {}
 
   /// Nothing on success; else why the project was refused, and the sheet stays as far as it got. Raises
   /// RunTimeError.
@@ -29,7 +29,7 @@ class ProjectReader {
   void TakeLocks();
   void FinishRoof();
 
-  frmDocument& document_;
+  Document& document_;
   const IniText& file_;
 };
 

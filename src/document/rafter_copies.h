@@ -6,7 +6,7 @@
 namespace pitchcraft {
 
 /// Sizes of common rafter, ridge and fascia.
-inline void CopyLumber(const CRafter& from, CRafter& to) {
+inline void CopyLumber(const Rafter& from, Rafter& to) {
   to.Depth = from.Depth;
   to.Thickness = from.Thickness;
   to.RidgeDepth = from.RidgeDepth;
@@ -16,12 +16,12 @@ inline void CopyLumber(const CRafter& from, CRafter& to) {
 }
 
 /// Size of hip or valley.
-inline void CopyHipLumber(const CRafter& from, CRafter& to) {
+inline void CopyHipLumber(const Rafter& from, Rafter& to) {
   to.HipValDepth = from.HipValDepth;
   to.HipValThickness = from.HipValThickness;
 }
 
-inline void CopyLocks(const CRafter& from, CRafter& to) {
+inline void CopyLocks(const Rafter& from, Rafter& to) {
   to.HeelLocked = from.HeelLocked;
   to.SeatLocked = from.SeatLocked;
 }

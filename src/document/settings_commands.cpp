@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/number_text.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 namespace {
@@ -39,11 +39,11 @@ std::vector<std::string> SpacingItems(bool imperial) {
 
 // A toggle, whichever of the two items was clicked. Nothing is converted: the values of the other system are
 // discarded.
-void frmDocument::mnuImperial_Click(int) {
+void Document::mnuImperial_Click(int) {
   constexpr const char* kProcedure = "mnuImperial_Click";
-  const bool metric = !menus.mnuMetric.Checked;
-  menus.mnuMetric.Checked = metric;
-  menus.mnuImperial.Checked = !metric;
+  const bool metric = !menus.Metric.Checked;
+  menus.Metric.Checked = metric;
+  menus.Imperial.Checked = !metric;
   const UnitDefaults& units = metric ? kMetricDefaults : kImperialDefaults;
   Try(kProcedure, [&] {
     sheet.ForEachMeasure([&](auto& field) {
@@ -55,21 +55,21 @@ void frmDocument::mnuImperial_Click(int) {
     });
     // Back to a common gable, whose first calculation must not mix the two systems' locks.
     ClearLocksAndKneewalls();
-    sheet.cboType.SetListIndex(0);
+    sheet.RoofList.SetListIndex(0);
     cboType_Click();
   });
   Try(kProcedure, [&] {
-    menus.mnuTools.Caption = units.calculatorCaption;
+    menus.Tools.Caption = units.calculatorCaption;
     UnitRun = units.unitRun;
     UnitHipRun = units.hipRun;
     UnitHipRatio = UnitHipRun / UnitRun;
-    FtInConverter1.Units = units.textUnits;
-    FtInConverter1.BaseUnits = units.baseUnits;
-    FtInConverter1.DecimalPlaces = units.decimalPlaces;
-    FtInConverter1.Imperial = !metric;
-    sheet.FTUpperFascia.SetList(UpperFasciaItems(!metric));
-    sheet.cboSpacing.SetList(SpacingItems(!metric));
-    for (CRafter* rafter : {&Rafter1, &Rafter2}) {
+    measures.Units = units.textUnits;
+    measures.BaseUnits = units.baseUnits;
+    measures.DecimalPlaces = units.decimalPlaces;
+    measures.Imperial = !metric;
+    sheet.UpperFascia.SetList(UpperFasciaItems(!metric));
+    sheet.Spacing.SetList(SpacingItems(!metric));
+    for (Rafter* rafter : {&Rafter1, &Rafter2}) {
       rafter->SetUnits(units.units);
       rafter->Slope = units.slope;
       rafter->Span = units.span;
@@ -81,20 +81,20 @@ void frmDocument::mnuImperial_Click(int) {
       rafter->FasciaHeight = units.fasciaHeight;
       rafter->Kneewall = 0;
     }
-    sheet.FtSpan[2].SetValue(units.span);
+    sheet.Span[2].SetValue(units.span);
     DefaultLumberList();
     DefaultSlopeList();
   });
   Try(kProcedure, [&] {
-    sheet.VSTab[0].Page = 0;
-    sheet.VSTab[1].Page = 0;
+    sheet.Tabs[0].Page = 0;
+    sheet.Tabs[1].Page = 0;
     CurrentTab = 0;
-    sheet.txtSpacing.Visible = false;
-    sheet.cboSpacing.Visible = false;
-    for (LWCombo& slope : sheet.LWSlope) slope.SetListIndex(0);
-    for (ComboControl& degrees : sheet.cboDegrees) degrees.SetListIndex(0);
+    sheet.SpacingLabel.Visible = false;
+    sheet.Spacing.Visible = false;
+    for (PairControl& slope : sheet.Slope) slope.SetListIndex(0);
+    for (ComboControl& degrees : sheet.Degrees) degrees.SetListIndex(0);
     TakeDegreesOfFirstSlope();
-    sheet.cboSpacing.SetListIndex(1);
+    sheet.Spacing.SetListIndex(1);
     cboSpacing_Click();
     Rafter1.Calculate();
   });
@@ -102,32 +102,32 @@ void frmDocument::mnuImperial_Click(int) {
 
 // The toggle inverts the checks, so they are set to the other system first; that system may be the present
 // one.
-void frmDocument::SwitchUnits(bool metric) {
-  menus.mnuMetric.Checked = !metric;
-  menus.mnuImperial.Checked = metric;
+void Document::SwitchUnits(bool metric) {
+  menus.Metric.Checked = !metric;
+  menus.Imperial.Checked = metric;
   mnuImperial_Click();
 }
 
 // A heel, seat or kneewall of the other system is discarded, and with it its lock.
-void frmDocument::ClearLocksAndKneewalls() {
+void Document::ClearLocksAndKneewalls() {
   for (std::size_t row = 0; row < 2; ++row) {
-    sheet.chkHeel[row].Value = 0;
-    sheet.chkSeat[row].Value = 0;
-    sheet.chkKneewall[row].Value = 0;
-    TakeTick(sheet.chkKneewall[row], sheet.FtKneewall[row], sheet.Label[row]);
-    sheet.FtKneewall[row].SetValue(0);
+    sheet.HeelLock[row].Value = 0;
+    sheet.SeatLock[row].Value = 0;
+    sheet.HasKneewall[row].Value = 0;
+    TakeTick(sheet.HasKneewall[row], sheet.Kneewall[row], sheet.Label[row]);
+    sheet.Kneewall[row].SetValue(0);
   }
-  for (CRafter* rafter : {&Rafter1, &Rafter2}) {
+  for (Rafter* rafter : {&Rafter1, &Rafter2}) {
     rafter->HeelLocked = false;
     rafter->SeatLocked = false;
     rafter->Kneewall = 0;
   }
-  menus.mnuSettingsHeelLocked.Checked = false;
-  menus.mnuSettingsSeatLocked.Checked = false;
+  menus.SettingsHeelLocked.Checked = false;
+  menus.SettingsSeatLocked.Checked = false;
 }
 
 // The rafters start with the angle of their start slope.
-void frmDocument::TakeDegreesOfFirstSlope() {
+void Document::TakeDegreesOfFirstSlope() {
   Rafter1.degrees = RoundTo(DegreesOfRow(0), 2);
   Rafter2.degrees = Rafter1.degrees;
 }
@@ -135,36 +135,36 @@ void frmDocument::TakeDegreesOfFirstSlope() {
 // --- Slope mode
 // -----------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuSettingsRiseOverRun_Click(int) { SetSlopeMode(true); }
+void Document::mnuSettingsRiseOverRun_Click(int) { SetSlopeMode(true); }
 
-void frmDocument::mnuSettingsDegrees_Click(int) { SetSlopeMode(false); }
+void Document::mnuSettingsDegrees_Click(int) { SetSlopeMode(false); }
 
 // Rows 1 and 2 follow only while one of their two boxes shows, so that a row not in use stays hidden.
-void frmDocument::SetSlopeMode(bool riseOverRun) {
-  menus.mnuSettingsRiseOverRun.Checked = riseOverRun;
-  menus.mnuSettingsDegrees.Checked = !riseOverRun;
+void Document::SetSlopeMode(bool riseOverRun) {
+  menus.SettingsRiseOverRun.Checked = riseOverRun;
+  menus.SettingsDegrees.Checked = !riseOverRun;
   ShowSlopeRow(0);
   for (const std::size_t row : {1, 2}) {
-    if (sheet.LWSlope[row].Visible || sheet.cboDegrees[row].Visible) ShowSlopeRow(row);
+    if (sheet.Slope[row].Visible || sheet.Degrees[row].Visible) ShowSlopeRow(row);
   }
 }
 
 // --- Fascia cut
 // -----------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuSettingsPlumbCut_Click(int) { SetFasciaCut(FasciaCut::kPlumb); }
-void frmDocument::mnuSettingsSquareCut_Click(int) { SetFasciaCut(FasciaCut::kSquare); }
-void frmDocument::mnuSettingsLevelCut_Click(int) { SetFasciaCut(FasciaCut::kLevel); }
+void Document::mnuSettingsPlumbCut_Click(int) { SetFasciaCut(FasciaCut::kPlumb); }
+void Document::mnuSettingsSquareCut_Click(int) { SetFasciaCut(FasciaCut::kSquare); }
+void Document::mnuSettingsLevelCut_Click(int) { SetFasciaCut(FasciaCut::kLevel); }
 
 // Square and level cuts take the fascia height from the rafter, so the field shows none to enter; what it
 // showed is kept for the way back.
-void frmDocument::SetFasciaCut(FasciaCut cut) {
+void Document::SetFasciaCut(FasciaCut cut) {
   Try("mnuSettingsPlumbCut_Click", [&] {
-    const bool wasPlumb = menus.mnuSettingsPlumbCut.Checked;
+    const bool wasPlumb = menus.SettingsPlumbCut.Checked;
     const bool plumb = cut == FasciaCut::kPlumb;
     CheckFasciaCut(cut);
     for (std::size_t row = 0; row < 2; ++row) {
-      LWCombo& fascia = sheet.LWFascia[row];
+      PairControl& fascia = sheet.Fascia[row];
       if (wasPlumb && !plumb) keptFasciaHeight_[row] = fascia.RightText();
       if (!wasPlumb && plumb && !keptFasciaHeight_[row].empty()) fascia.SetRightText(keptFasciaHeight_[row]);
       fascia.Enabled = plumb;
@@ -173,93 +173,93 @@ void frmDocument::SetFasciaCut(FasciaCut cut) {
   });
 }
 
-void frmDocument::CheckFasciaCut(FasciaCut cut) {
+void Document::CheckFasciaCut(FasciaCut cut) {
   const bool plumb = cut == FasciaCut::kPlumb, square = cut == FasciaCut::kSquare,
              level = cut == FasciaCut::kLevel;
-  for (MenuItem* item : {&menus.mnuSettingsPlumbCut, &menus.mnuGambrelPlumb, &menus.mnuPopUp1PlumbCut,
-                         &menus.mnuPopUp2PlumbCut}) {
+  for (MenuItem* item :
+       {&menus.SettingsPlumbCut, &menus.GambrelPlumb, &menus.PopUp1PlumbCut, &menus.PopUp2PlumbCut}) {
     item->Checked = plumb;
   }
-  for (MenuItem* item : {&menus.mnuSettingsSquareCut, &menus.mnuGambrelSquare, &menus.mnuPopUp1SquareCut,
-                         &menus.mnuPopUp2SquareCut}) {
+  for (MenuItem* item :
+       {&menus.SettingsSquareCut, &menus.GambrelSquare, &menus.PopUp1SquareCut, &menus.PopUp2SquareCut}) {
     item->Checked = square;
   }
-  for (MenuItem* item : {&menus.mnuSettingsLevelCut, &menus.mnuGambrelLevel, &menus.mnuPopUp2LevelCut}) {
+  for (MenuItem* item : {&menus.SettingsLevelCut, &menus.GambrelLevel, &menus.PopUp2LevelCut}) {
     item->Checked = level;
   }
-  tbToolBar.PressFasciaCut(plumb ? "Plumb" : square ? "Square" : "Level");
+  toolBar.PressFasciaCut(plumb ? "Plumb" : square ? "Square" : "Level");
 }
 
 // --- Locks
 // ----------------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuSettingsHeelLocked_Click(int) {
-  menus.mnuSettingsHeelLocked.Checked = !menus.mnuSettingsHeelLocked.Checked;
-  sheet.chkHeel[static_cast<std::size_t>(RoofPage())].Value = menus.mnuSettingsHeelLocked.Checked ? 1 : 0;
+void Document::mnuSettingsHeelLocked_Click(int) {
+  menus.SettingsHeelLocked.Checked = !menus.SettingsHeelLocked.Checked;
+  sheet.HeelLock[static_cast<std::size_t>(RoofPage())].Value = menus.SettingsHeelLocked.Checked ? 1 : 0;
   chkHeel_Click(RoofPage());
 }
 
-void frmDocument::mnuSettingsSeatLocked_Click(int) {
-  menus.mnuSettingsSeatLocked.Checked = !menus.mnuSettingsSeatLocked.Checked;
-  sheet.chkSeat[static_cast<std::size_t>(RoofPage())].Value = menus.mnuSettingsSeatLocked.Checked ? 1 : 0;
+void Document::mnuSettingsSeatLocked_Click(int) {
+  menus.SettingsSeatLocked.Checked = !menus.SettingsSeatLocked.Checked;
+  sheet.SeatLock[static_cast<std::size_t>(RoofPage())].Value = menus.SettingsSeatLocked.Checked ? 1 : 0;
   chkSeat_Click(RoofPage());
 }
 
 // --- Bars
 // -----------------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuViewToolbar_Click(int) {
-  menus.mnuViewToolbar.Checked = !menus.mnuViewToolbar.Checked;
-  sheet.VSElastic[1].Top = (menus.mnuViewToolbar.Checked ? 420 : 0) + (sheet.Toolbar1.Visible ? 420 : 0);
+void Document::mnuViewToolbar_Click(int) {
+  menus.ViewToolbar.Checked = !menus.ViewToolbar.Checked;
+  sheet.Frames[1].Top = (menus.ViewToolbar.Checked ? 420 : 0) + (sheet.DimensionStrip.Visible ? 420 : 0);
   Form_Resize();
 }
 
-void frmDocument::mnuViewStatusBar_Click(int) {
-  menus.mnuViewStatusBar.Checked = !menus.mnuViewStatusBar.Checked;
+void Document::mnuViewStatusBar_Click(int) {
+  menus.ViewStatusBar.Checked = !menus.ViewStatusBar.Checked;
   Form_Resize();
 }
 
 // --- Hip layout
 // -----------------------------------------------------------------------------------------------------
 
-void frmDocument::mnuHipLayoutCenter_Click(int) { SetHipLayout(0); }
-void frmDocument::mnuHipLayoutCorners_Click(int) { SetHipLayout(1); }
-void frmDocument::mnuHipLayoutCornersFlush_Click(int) { SetHipLayout(2); }
+void Document::mnuHipLayoutCenter_Click(int) { SetHipLayout(0); }
+void Document::mnuHipLayoutCorners_Click(int) { SetHipLayout(1); }
+void Document::mnuHipLayoutCornersFlush_Click(int) { SetHipLayout(2); }
 
-void frmDocument::SetHipLayout(int which) {
+void Document::SetHipLayout(int which) {
   ShowHipLayoutChecks(which);
   RedrawLayoutPage();
 }
 
-void frmDocument::ShowHipLayoutChecks(int which) {
+void Document::ShowHipLayoutChecks(int which) {
   const std::array<std::array<MenuItem*, 2>, 3> choices{
-      {{&menus.mnuHipLayoutCenter, &menus.mnuPopUp1LayoutCenter},
-       {&menus.mnuHipLayoutCorners, &menus.mnuPopUp1LayoutCorner},
-       {&menus.mnuHipLayoutCornersFlush, &menus.mnuPopUp1LayoutCornerFlush}}};
+      {{&menus.HipLayoutCenter, &menus.PopUp1LayoutCenter},
+       {&menus.HipLayoutCorners, &menus.PopUp1LayoutCorner},
+       {&menus.HipLayoutCornersFlush, &menus.PopUp1LayoutCornerFlush}}};
   for (int i = 0; i < 3; ++i) {
     for (MenuItem* item : choices[static_cast<std::size_t>(i)]) item->Checked = i == which;
   }
 }
 
-void frmDocument::mnuHipLayoutJackMeasurement_Click(int) {
-  menus.mnuHipLayoutJackMeasurement.Checked = !menus.mnuHipLayoutJackMeasurement.Checked;
-  menus.mnuPopUp1JackMeasurement.Checked = menus.mnuHipLayoutJackMeasurement.Checked;
+void Document::mnuHipLayoutJackMeasurement_Click(int) {
+  menus.HipLayoutJackMeasurement.Checked = !menus.HipLayoutJackMeasurement.Checked;
+  menus.PopUp1JackMeasurement.Checked = menus.HipLayoutJackMeasurement.Checked;
   RedrawLayoutPage();
 }
 
-void frmDocument::RedrawLayoutPage() {
-  const int page = sheet.VSTab[0].Page;
-  const bool last = page > 0 && page == sheet.VSTab[0].PageCount() - 1;
+void Document::RedrawLayoutPage() {
+  const int page = sheet.Tabs[0].Page;
+  const bool last = page > 0 && page == sheet.Tabs[0].PageCount() - 1;
   if (RoofType == roof::kHip && last) Draw(Drawing::kHipLayout, Rafter1);
 }
 
-void frmDocument::mnuHipLayoutOverhangsEqual_Click(int) {
+void Document::mnuHipLayoutOverhangsEqual_Click(int) {
   Try("mnuHipLayoutOverhangsEqual_Click", [&] {
-    menus.mnuHipLayoutOverhangsEqual.Checked = !menus.mnuHipLayoutOverhangsEqual.Checked;
-    menus.mnuPopUp1OverhangsEqual.Checked = menus.mnuHipLayoutOverhangsEqual.Checked;
+    menus.HipLayoutOverhangsEqual.Checked = !menus.HipLayoutOverhangsEqual.Checked;
+    menus.PopUp1OverhangsEqual.Checked = menus.HipLayoutOverhangsEqual.Checked;
     CalculateBastard();
     // The moved end wall may leave the last common where it cannot stand.
-    if (sheet.VSTab[0].Page == 0) return FtLastCommon_Commit();
+    if (sheet.Tabs[0].Page == 0) return FtLastCommon_Commit();
     RepeatDrawing();
   });
 }
@@ -267,18 +267,18 @@ void frmDocument::mnuHipLayoutOverhangsEqual_Click(int) {
 // --- Ledger of a Dutch hip
 // ------------------------------------------------------------------------------------------
 
-void frmDocument::cboLedger_Click(int) { mnuDutchLedger_Click(sheet.cboLedger.ListIndex()); }
+void Document::cboLedger_Click(int) { mnuDutchLedger_Click(sheet.Ledger.ListIndex()); }
 
-void frmDocument::mnuDutchLedger_Click(int Index) {
+void Document::mnuDutchLedger_Click(int Index) {
   if (Index < 0 || Index > 1) return;
   Try("mnuDutchLedger_Click", [&] {
     for (std::size_t i = 0; i < 2; ++i) {
-      menus.mnuDutchLedger[i].Checked = menus.mnuPopUp1Ledger[i].Checked = static_cast<int>(i) == Index;
+      menus.DutchLedger[i].Checked = menus.PopUp1Ledger[i].Checked = static_cast<int>(i) == Index;
     }
-    sheet.cboLedger.SetListIndex(Index);
+    sheet.Ledger.SetListIndex(Index);
     Rafter2.RidgeThickness = Index == 0 ? double{Rafter1.RidgeThickness} : 0.0;
     Rafter1.Calculate();
-    const int page = sheet.VSTab[0].Page;
+    const int page = sheet.Tabs[0].Page;
     if (page == 2 || page == 3) Draw(Drawing::kBayRafter, Rafter2);
     if (page == 4) Draw(Drawing::kBayCenterLedger, Rafter2);
   });

@@ -156,7 +156,7 @@ void DimensionDrafter::DrawExtensionLines() {
 
 /// Where what stands so far ends, for the drawing to stack the next dimension or text clear of it.
 void DimensionDrafter::MarkHighWater() {
-  const CMetaFile& canvas = board_.MetaCanvas;
+  const DrawingRecorder& canvas = board_.Recorder;
   if (dim_.Kind == kAligned) board_.Pts(12).Y = canvas.MaxY();
   if (dim_.Kind == kHorizontal) board_.Pts(11).Y = canvas.MaxY();
   if (dim_.Kind == kVertical) board_.Pts(12).X = canvas.MaxX();

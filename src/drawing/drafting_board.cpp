@@ -64,40 +64,40 @@ const PointRecord& PointArray::operator()(int index) const {
 }
 
 DraftingBoard::DraftingBoard(const TextMeter& meter, std::function<std::string(double)> lengthText)
-    : MetaCanvas(meter), LengthText(std::move(lengthText)) {
-  MetaCanvas.Attach(DrawFX, TextFX);
+    : Recorder(meter), LengthText(std::move(lengthText)) {
+  Recorder.Attach(Strokes, Letters);
 }
 
 void DraftingBoard::BeginDrawing(DrawColor backColor, DrawColor lineColor) {
-  MetaCanvas.BackColor = backColor;
-  MetaCanvas.Cls();
+  Recorder.BackColor = backColor;
+  Recorder.Clear();
   Pts.Clear();
   DimensionPoints.clear();
   Dimensions.clear();
-  DrawFX.EntryMode = 0;
-  DrawFX.SetDrawStyle(0);
-  DrawFX.SetDrawWidth(0);
-  DrawFX.SetPenColor(lineColor);
-  TextFX.FontName = "Arial";
-  TextFX.FontBold = false;
-  TextFX.FontItalic = false;
-  TextFX.Angle = 0;
+  Strokes.EntryMode = 0;
+  Strokes.SetDrawStyle(0);
+  Strokes.SetDrawWidth(0);
+  Strokes.SetPenColor(lineColor);
+  Letters.FontName = "Arial";
+  Letters.FontBold = false;
+  Letters.FontItalic = false;
+  Letters.Angle = 0;
 }
 
 void DraftingBoard::EndDrawing() {
-  MetaCanvas.MetaClose();
-  DrawingWidth = MetaCanvas.MaxX() - MetaCanvas.MinX();
+  Recorder.Close();
+  DrawingWidth = Recorder.MaxX() - Recorder.MinX();
 }
 
 void DraftingBoard::AbandonDrawing() {
-  MetaCanvas.Cls();
+  Recorder.Clear();
   DimensionPoints.clear();
   Dimensions.clear();
   EndDrawing();
 }
 
 Single DraftingBoard::SetMetrics() {
-  const PointSize point = MetaCanvas.CalcPointSize();
+  const PointSize point = Recorder.CalcPointSize();
   PointFactor = point.Size;
   DimGap = PointFactor * kGapTwips;
   DimArrow = PointFactor * kArrowTwips;
@@ -107,26 +107,26 @@ Single DraftingBoard::SetMetrics() {
 }
 
 void DraftingBoard::Text(const std::string& text, double x, double y, int align) {
-  TextFX.SetTextAlign(align);
-  TextFX.TextLine(text, Single(x), Single(y));
+  Letters.SetTextAlign(align);
+  Letters.TextLine(text, Single(x), Single(y));
 }
 
 bool DraftingBoard::IsClear(const std::string& text, double x, double y, int align, double margin) {
   const TextOp op{{ToLong(x), ToLong(y)},
                   text,
-                  TextFX.FontHeight,
-                  TextFX.Angle,
+                  Letters.FontHeight,
+                  Letters.Angle,
                   align,
                   0,
-                  TextFX.FontName,
-                  TextFX.FontBold,
-                  TextFX.FontItalic};
-  return pitchcraft::IsClear(MetaCanvas.Operations(), MetaCanvas.Meter(), op, margin);
+                  Letters.FontName,
+                  Letters.FontBold,
+                  Letters.FontItalic};
+  return pitchcraft::IsClear(Recorder.Operations(), Recorder.Meter(), op, margin);
 }
 
 double DraftingBoard::WidthOf(const std::string& text, double height) {
-  TextFX.FontHeight = ToLong(height);
-  return TextFX.TextWidth(text);
+  Letters.FontHeight = ToLong(height);
+  return Letters.TextWidth(text);
 }
 
 PointRecord DraftingBoard::AngleDistance(double angle, double distance) {
@@ -134,7 +134,7 @@ PointRecord DraftingBoard::AngleDistance(double angle, double distance) {
 }
 
 void DraftingBoard::DimensionStroke(PointRecord from, PointRecord to) {
-  DrawFX.DrawLine(from.X, from.Y, to.X, to.Y);
+  Strokes.DrawLine(from.X, from.Y, to.X, to.Y);
   for (const Single value : {from.X, from.Y, to.X, to.Y})
     DimensionPoints.emplace_back(Single(value / DrawScale));
 }
@@ -143,12 +143,12 @@ void DraftingBoard::DimText(const std::string& text, Single height, Single angle
   Single turned = TurnedBy(mode, angle);
   if (turned > kWholeTurnLimit) turned -= kWholeTurn;
   if (!text.empty()) {
-    const Single kept = TextFX.Angle;
-    TextFX.SetTextAlign(align);
-    TextFX.FontHeight = ToLong(height);
-    TextFX.Angle = turned * kDegreesPerRadian * TextFlip;
-    TextFX.TextLine(text, Pts(10).X, Pts(10).Y);
-    TextFX.Angle = kept;
+    const Single kept = Letters.Angle;
+    Letters.SetTextAlign(align);
+    Letters.FontHeight = ToLong(height);
+    Letters.Angle = turned * kDegreesPerRadian * TextFlip;
+    Letters.TextLine(text, Pts(10).X, Pts(10).Y);
+    Letters.Angle = kept;
   }
   DimensionPoints.emplace_back(Single(Pts(10).X / DrawScale));
   DimensionPoints.emplace_back(Single(Pts(10).Y / DrawScale));

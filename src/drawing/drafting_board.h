@@ -9,9 +9,9 @@
 
 #include "core/single.h"
 #include "drawing/dimension_value.h"
-#include "drawing/draw_fx.h"
-#include "drawing/meta_file.h"
-#include "drawing/text_fx.h"
+#include "drawing/drawing_recorder.h"
+#include "drawing/stroke_tool.h"
+#include "drawing/text_tool.h"
 
 namespace pitchcraft {
 
@@ -65,11 +65,11 @@ class DraftingBoard {
   DraftingBoard(const TextMeter& meter, std::function<std::string(double)> lengthText);
   DraftingBoard(const DraftingBoard&) = delete;
   DraftingBoard& operator=(const DraftingBoard&) = delete;
-  ~DraftingBoard() { MetaCanvas.Destroy(); }
+  ~DraftingBoard() { Recorder.Destroy(); }
 
-  CMetaFile MetaCanvas;
-  CDrawFX DrawFX;
-  CTextFX TextFX;
+  DrawingRecorder Recorder;
+  StrokeTool Strokes;
+  TextTool Letters;
   PointArray Pts;
   std::vector<DimensionValue> DimensionPoints;
   std::vector<DrawnDimension> Dimensions;  ///< in the order of their drawing
@@ -94,8 +94,8 @@ class DraftingBoard {
   /// Sets PointFactor and the dimension measures from the extents so far; hands out the aspect ratio.
   Single SetMetrics();
 
-  void Move(int point) { DrawFX.MoveToPoint(Pts(point).X, Pts(point).Y); }
-  void Line(int from, int to) { DrawFX.DrawLine(Pts(from).X, Pts(from).Y, Pts(to).X, Pts(to).Y); }
+  void Move(int point) { Strokes.MoveToPoint(Pts(point).X, Pts(point).Y); }
+  void Line(int from, int to) { Strokes.DrawLine(Pts(from).X, Pts(from).Y, Pts(to).X, Pts(to).Y); }
   void Text(const std::string& text, double x, double y, int align);
   /// Whether a text would stand clear of all that is drawn, by `margin` drawing units, in the present face.
   bool IsClear(const std::string& text, double x, double y, int align, double margin);

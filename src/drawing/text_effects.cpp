@@ -6,7 +6,7 @@
 #include "core/angles.h"
 #include "core/run_time_error.h"
 #include "drawing/text_align.h"
-#include "drawing/text_fx.h"
+#include "drawing/text_tool.h"
 #include "drawing/utf8.h"
 
 namespace pitchcraft {
@@ -28,9 +28,9 @@ double Between(double from, double to, double share) { return from + (to - from)
 }  // namespace
 
 /// Puts back what an effect changes of the lettering, also when a character cannot be placed.
-class CTextFX::EffectScope {
+class TextTool::EffectScope {
  public:
-  explicit EffectScope(CTextFX& text)
+  explicit EffectScope(TextTool& text)
       : text_(text),
         angle_(text.Angle),
         height_(text.FontHeight),
@@ -47,30 +47,30 @@ class CTextFX::EffectScope {
   std::int32_t Height() const { return height_; }
 
  private:
-  CTextFX& text_;
+  TextTool& text_;
   Single angle_;
   std::int32_t height_;
   DrawColor color_;
   int align_;
 };
 
-void CTextFX::OnCircle(std::string_view character, double x, double y, double radius, double angle) {
+void TextTool::OnCircle(std::string_view character, double x, double y, double radius, double angle) {
   const double radians = angle * kRadiansPerDegree;
   SetTextAlign(kAlignCenterBase);
   Angle = angle - 90;
   TextLine(character, Single(x + radius * std::cos(radians)), Single(y + radius * std::sin(radians)));
 }
 
-void CTextFX::TextVertical(std::string_view text, Single x, Single y) {
+void TextTool::TextVertical(std::string_view text, Single x, Single y) {
   GrowTextVerticalIn(TextColor, text, x, y, FontHeight);
 }
 
-void CTextFX::GrowTextVertical(std::string_view text, Single x, Single y, double endHeight) {
+void TextTool::GrowTextVertical(std::string_view text, Single x, Single y, double endHeight) {
   GrowTextVerticalIn(GrowColor, text, x, y, endHeight);
 }
 
-void CTextFX::GrowTextVerticalIn(DrawColor color, std::string_view text, double x, double y,
-                                 double endHeight) {
+void TextTool::GrowTextVerticalIn(DrawColor color, std::string_view text, double x, double y,
+                                  double endHeight) {
   const EffectScope scope(*this);
   TextColor = color;
   const auto characters = CharactersOf(text);
@@ -81,7 +81,7 @@ void CTextFX::GrowTextVerticalIn(DrawColor color, std::string_view text, double 
   }
 }
 
-void CTextFX::TextCircle(std::string_view text, Single x, Single y, Single radius, double startAngle) {
+void TextTool::TextCircle(std::string_view text, Single x, Single y, Single radius, double startAngle) {
   const EffectScope scope(*this);
   const auto characters = CharactersOf(text);
   for (std::size_t at = 0; at < characters.size(); ++at) {
@@ -90,8 +90,8 @@ void CTextFX::TextCircle(std::string_view text, Single x, Single y, Single radiu
   }
 }
 
-void CTextFX::TextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
-                      double endAngle) {
+void TextTool::TextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
+                       double endAngle) {
   const EffectScope scope(*this);
   const auto characters = CharactersOf(text);
   for (std::size_t at = 0; at < characters.size(); ++at) {
@@ -99,8 +99,8 @@ void CTextFX::TextArc(std::string_view text, Single x, Single y, Single radius, 
   }
 }
 
-void CTextFX::GrowTextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
-                          double endAngle, double endHeight) {
+void TextTool::GrowTextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
+                           double endAngle, double endHeight) {
   const EffectScope scope(*this);
   TextColor = GrowColor;
   const auto characters = CharactersOf(text);
@@ -111,7 +111,7 @@ void CTextFX::GrowTextArc(std::string_view text, Single x, Single y, Single radi
   }
 }
 
-void CTextFX::GrowTextLine(std::string_view text, Single x, Single y, double endHeight) {
+void TextTool::GrowTextLine(std::string_view text, Single x, Single y, double endHeight) {
   const EffectScope scope(*this);
   TextColor = GrowColor;
   const double radians = Angle * kRadiansPerDegree;
@@ -124,8 +124,8 @@ void CTextFX::GrowTextLine(std::string_view text, Single x, Single y, double end
   }
 }
 
-void CTextFX::SpiralText(std::string_view text, Single x, Single y, Single startRadius, Single endRadius,
-                         double turns) {
+void TextTool::SpiralText(std::string_view text, Single x, Single y, Single startRadius, Single endRadius,
+                          double turns) {
   const EffectScope scope(*this);
   TextColor = GrowColor;
   const auto characters = CharactersOf(text);

@@ -20,13 +20,13 @@ double GrownLine(double line, double a, double b, double growth) {
 
 }  // namespace
 
-DxfForm::DxfForm(CDxfWriter& writer, const DraftingBoard& board)
+DxfForm::DxfForm(DxfWriter& writer, const DraftingBoard& board)
     : writer_(writer),
       board_(board),
       textHeight_(writer.TextHeight),
-      right_(board.MetaCanvas.MaxX() / board.DrawScale),
-      top_(board.MetaCanvas.MaxY() / board.DrawScale),
-      bottom_(board.MetaCanvas.MinY() / board.DrawScale) {
+      right_(board.Recorder.MaxX() / board.DrawScale),
+      top_(board.Recorder.MaxY() / board.DrawScale),
+      bottom_(board.Recorder.MinY() / board.DrawScale) {
   const double capital = board.DimTextHeight * kCapitalPerCell / board.DrawScale;
   if (capital > 0 && textHeight_ > 0) growth_ = textHeight_ / capital;
 }
@@ -152,7 +152,7 @@ void DxfForm::Label(const std::string& text, PointRecord at, const char* align, 
 }
 
 void DxfForm::Title(const std::string& text) {
-  const CMetaFile& canvas = board_.MetaCanvas;
+  const DrawingRecorder& canvas = board_.Recorder;
   const double middle = (canvas.MinX() + canvas.MaxX()) / 2 / board_.DrawScale;
   const double y = top_ + 2 * textHeight_;
   writer_.Text(text, middle - static_cast<double>(text.size()) * textHeight_ / 2, y, 2 * textHeight_);

@@ -19,7 +19,7 @@ namespace pitchcraft {
 /// is measured stays where it is.
 class DxfForm {
  public:
-  DxfForm(CDxfWriter& writer, const DraftingBoard& board);
+  DxfForm(DxfWriter& writer, const DraftingBoard& board);
 
   /// An edge between two points of the array; one without length is left out.
   void Line(int from, int to);
@@ -56,7 +56,7 @@ class DxfForm {
   void Horizontal(const DrawnDimension& dimension);
   void Vertical(const DrawnDimension& dimension);
 
-  CDxfWriter& writer_;
+  DxfWriter& writer_;
   const DraftingBoard& board_;
   double textHeight_;
   double growth_ = 1;

@@ -21,13 +21,13 @@ ElevationFamily FamilyOf(RafterType type) {
 
 /// The common of a hip roof hangs its fascia by its own height: the record, calculated for the hip, holds the
 /// height that is lowered by the hip's drop.
-double FasciaOfCommon(const CRafter& rafter, int roofType) {
+double FasciaOfCommon(const Rafter& rafter, int roofType) {
   if (roofType != kHipRoof) return rafter.AdjFasciaHeight;
   const double height = std::min<double>(rafter.FasciaHeight, rafter.PlumbCut);
   return rafter.Overhang == 0 ? std::min<double>(height, rafter.Heel) : height;
 }
 
-void TakeCommon(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+void TakeCommon(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   member.Run = rafter.AdjSpan;
   member.Overhang = rafter.Overhang;
   member.RunWithOverhang = rafter.AdjSpanWithOverhang;
@@ -48,7 +48,7 @@ void TakeCommon(ElevationMember& member, const CRafter& rafter, const DrawingCon
 }
 
 /// The end of a bastard hip roof climbs from its own wall to the ridge.
-void TakeHipEndCommon(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+void TakeHipEndCommon(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   member.HipEnd = true;
   member.Run = rafter.AdjHipEndSpan;
   member.Overhang = rafter.HipEndOverhang;
@@ -66,7 +66,7 @@ void TakeHipEndCommon(ElevationMember& member, const CRafter& rafter, const Draw
   member.UnitRun = context.UnitRun;
 }
 
-void TakeBastardHip(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+void TakeBastardHip(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   member.Run = rafter.AdjHipSpan;
   member.Overhang = rafter.HipValOverhang;
   member.RunWithOverhang = rafter.AdjHipSpanWithOverhang;
@@ -88,7 +88,7 @@ void TakeBastardHip(ElevationMember& member, const CRafter& rafter, const Drawin
   member.RidgeBevels = {rafter.HipAngle1, rafter.HipAngle2};
 }
 
-void TakeHipOrValley(ElevationMember& member, const CRafter& rafter, const DrawingContext& context) {
+void TakeHipOrValley(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   const bool hip = member.Family == ElevationFamily::kHip;
   member.Run = hip ? double{rafter.AdjHipSpan} : double{rafter.AdjValSpan};
   // A heel of 0 takes the overhang away after the hip's was worked out from it: the rises then end at the
@@ -117,7 +117,7 @@ void KeepWithinLumber(ElevationMember& member) {
   if (member.Fascia < 0) member.Fascia = 0;
 }
 
-std::string TitleOf(const ElevationMember& member, const CRafter& rafter, bool riseOverRun) {
+std::string TitleOf(const ElevationMember& member, const Rafter& rafter, bool riseOverRun) {
   if (member.HipEnd) return SlopeText(rafter.HipEndPitch, rafter.HipEndDegrees, riseOverRun);
   if (member.IsCommon()) return SlopeText(rafter.Pitch, rafter.degrees, riseOverRun);
   return SlopeText(rafter.HipPitch, rafter.HipDegrees, riseOverRun);
@@ -125,7 +125,7 @@ std::string TitleOf(const ElevationMember& member, const CRafter& rafter, bool r
 
 }  // namespace
 
-ElevationMember ChooseElevationMember(const CRafter& rafter, const DrawingContext& context) {
+ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext& context) {
   ElevationMember member;
   member.Family = FamilyOf(rafter.RafterType);
   member.Rise = rafter.Rise;

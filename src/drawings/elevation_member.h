@@ -52,6 +52,6 @@ struct ElevationMember {
   bool SetsFascia() const { return IsCommon() && !HipEnd; }
 };
 
-ElevationMember ChooseElevationMember(const CRafter& rafter, const DrawingContext& context);
+ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext& context);
 
 }  // namespace pitchcraft

@@ -26,8 +26,7 @@ constexpr int kMostShrinks = 12;
 /// The figure is that of the roof, not of its recording, which rounds each point.
 class HipExport {
  public:
-  HipExport(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
-            const PrintContext& context)
+  HipExport(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter, const PrintContext& context)
       : form_(writer, board),
         board_(board),
         rafter_(rafter),
@@ -176,7 +175,7 @@ class HipExport {
 
   DxfForm form_;
   const DraftingBoard& board_;
-  const CRafter& rafter_;
+  const Rafter& rafter_;
   const PrintContext& context_;
   double gap_;
   double slopeGap_;
@@ -185,12 +184,12 @@ class HipExport {
 
 }  // namespace
 
-void ExportHipPlan(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportHipPlan(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                    const PrintContext& context) {
   HipExport(writer, board, rafter, context).WritePlan();
 }
 
-void ExportHipLayout(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportHipLayout(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                      const PrintContext& context) {
   HipExport(writer, board, rafter, context).WriteLayout();
 }

@@ -15,7 +15,7 @@ constexpr double kStubSpacings = 1.5;
 constexpr double kAboveLastCommon = 0.5;
 
 /// The end of a plain hip is its side turned round: what the record holds of it may be older than the side.
-bool IsPlain(const CRafter& rafter) { return rafter.RafterType != RafterType::kBastardHip; }
+bool IsPlain(const Rafter& rafter) { return rafter.RafterType != RafterType::kBastardHip; }
 
 /// One face as its jacks see it: they stand along its eave and run square to it.
 struct Face {
@@ -37,7 +37,7 @@ struct Places {
 
 class HipLayoutBuilder {
  public:
-  HipLayoutBuilder(const CRafter& rafter, const HipLayoutOptions& options)
+  HipLayoutBuilder(const Rafter& rafter, const HipLayoutOptions& options)
       : options_(options),
         thickness_(rafter.Thickness),
         halfHip_(rafter.HipValThickness / 2),
@@ -142,7 +142,7 @@ class HipLayoutBuilder {
 
 }  // namespace
 
-HipOutline OutlineOfHip(const CRafter& rafter, const HipLayoutOptions& options) {
+HipOutline OutlineOfHip(const Rafter& rafter, const HipLayoutOptions& options) {
   const bool plain = IsPlain(rafter);
   const double endSpan = plain ? rafter.Span : rafter.HipEndSpan;
   HipOutline outline;
@@ -159,7 +159,7 @@ HipOutline OutlineOfHip(const CRafter& rafter, const HipLayoutOptions& options) 
   return outline;
 }
 
-HipLayout LayOutHip(const CRafter& rafter, const HipLayoutOptions& options) {
+HipLayout LayOutHip(const Rafter& rafter, const HipLayoutOptions& options) {
   return HipLayoutBuilder(rafter, options).Build();
 }
 

@@ -66,9 +66,9 @@ struct HipLayout {
 /// More jacks on one face than any roof has: a spacing that cannot be meant.
 inline constexpr int kMostJacks = 2000;
 
-HipOutline OutlineOfHip(const CRafter& rafter, const HipLayoutOptions& options);
+HipOutline OutlineOfHip(const Rafter& rafter, const HipLayoutOptions& options);
 /// A spacing that leaves no room for a rafter beside the next one lays out the commons alone. Raises an error
 /// where a face would take more than kMostJacks.
-HipLayout LayOutHip(const CRafter& rafter, const HipLayoutOptions& options);
+HipLayout LayOutHip(const Rafter& rafter, const HipLayoutOptions& options);
 
 }  // namespace pitchcraft

@@ -35,10 +35,10 @@ struct HipPlanDrafter::FootLettering {
 
 void HipPlanDrafter::WriteFeet(const HipLayout& layout) {
   const FootLettering lettering = ChooseFootLettering(layout);
-  board_.TextFX.FontHeight = ToLong(lettering.Height);
+  board_.Letters.FontHeight = ToLong(lettering.Height);
   WriteFeetOf(HipRoofFace::kEnd, layout, lettering);
   WriteFeetOf(HipRoofFace::kMain, layout, lettering);
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
 }
 
 HipPlanDrafter::FootLettering HipPlanDrafter::ChooseFootLettering(const HipLayout& layout) {
@@ -82,20 +82,20 @@ void HipPlanDrafter::WriteFoot(HipRoofFace face, double foot, double at, const s
     const double from = kLeaderGap * board_.DimTextHeight;
     const double to = begin - kLeaderGap * lettering.Height;
     if (end) {
-      board_.DrawFX.DrawLine(foot, -from, at, -to);
+      board_.Strokes.DrawLine(foot, -from, at, -to);
     } else {
-      board_.DrawFX.DrawLine(-from, foot, -to, at);
+      board_.Strokes.DrawLine(-from, foot, -to, at);
     }
   }
   const double base = kBaseUnderMiddle * lettering.Height;
-  board_.TextFX.Angle = end ? 90 : 0;
+  board_.Letters.Angle = end ? 90 : 0;
   board_.Text(text, end ? at + base : -begin, end ? -begin : at - base, kAlignRightBase);
-  board_.TextFX.Angle = 0;
+  board_.Letters.Angle = 0;
 }
 
 /// Below all that stands, so that no length runs into them.
 void HipPlanDrafter::WriteNotes() {
-  double base = board_.MetaCanvas.MinY() - board_.DimTextHeight;
+  double base = board_.Recorder.MinY() - board_.DimTextHeight;
   for (const HipNote& note : NotesOfHipLayout(rafter_, context_.HipLayout)) {
     base -= kNotePitch * board_.DimTextHeight;
     board_.Text(ScreenText(note, board_.LengthText), X(0), base, kAlignLeftBase);

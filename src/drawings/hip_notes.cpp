@@ -69,7 +69,7 @@ HipNoteKind StartOf(JackLayout layout) {
 
 }  // namespace
 
-std::vector<HipNote> NotesOfHipLayout(const CRafter& rafter, const HipLayoutOptions& options) {
+std::vector<HipNote> NotesOfHipLayout(const Rafter& rafter, const HipLayoutOptions& options) {
   std::vector<HipNote> notes{
       {HipNoteKind::kLongestEdge, {}},
       {options.WithOverhang ? HipNoteKind::kWithOverhang : HipNoteKind::kWithoutOverhang, {}},
@@ -100,11 +100,11 @@ std::string FootText(const LaidRafter& rafter, const LengthTextFunction& lengthT
   return rafter.Length ? lengthText(*rafter.Length) : std::string();
 }
 
-std::string MainSlopeText(const CRafter& rafter, bool riseOverRun) {
+std::string MainSlopeText(const Rafter& rafter, bool riseOverRun) {
   return std::string(Trimmed(SlopeText(rafter.Pitch, rafter.degrees, riseOverRun)));
 }
 
-std::string EndSlopeText(const CRafter& rafter, bool riseOverRun) {
+std::string EndSlopeText(const Rafter& rafter, bool riseOverRun) {
   return std::string(Trimmed(SlopeText(rafter.HipEndPitch, rafter.HipEndDegrees, riseOverRun)));
 }
 

@@ -33,7 +33,7 @@ struct HipNote {
 };
 
 /// The notes whose condition holds, in their order.
-std::vector<HipNote> NotesOfHipLayout(const CRafter& rafter, const HipLayoutOptions& options);
+std::vector<HipNote> NotesOfHipLayout(const Rafter& rafter, const HipLayoutOptions& options);
 
 using LengthTextFunction = std::function<std::string(double)>;
 /// As screen and paper show it, set in by blanks.
@@ -45,7 +45,7 @@ std::string ExportText(const HipNote& note, const LengthTextFunction& lengthText
 std::string FootText(const LaidRafter& rafter, const LengthTextFunction& lengthText);
 
 /// Rise over run, or degrees.
-std::string MainSlopeText(const CRafter& rafter, bool riseOverRun);
-std::string EndSlopeText(const CRafter& rafter, bool riseOverRun);
+std::string MainSlopeText(const Rafter& rafter, bool riseOverRun);
+std::string EndSlopeText(const Rafter& rafter, bool riseOverRun);
 
 }  // namespace pitchcraft

@@ -5,11 +5,11 @@
 
 namespace pitchcraft {
 
-void DrawHipPlan(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
+void DrawHipPlan(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context) {
   RecordOrAbandon(board, [&] { HipPlanDrafter(board, rafter, context).DrawPlan(); });
 }
 
-void DrawHipLayout(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
+void DrawHipLayout(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context) {
   RecordOrAbandon(board, [&] { HipPlanDrafter(board, rafter, context).DrawLayout(); });
 }
 

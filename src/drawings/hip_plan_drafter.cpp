@@ -31,7 +31,7 @@ constexpr double kShrink = 0.75;
 
 }  // namespace
 
-HipPlanDrafter::HipPlanDrafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context)
+HipPlanDrafter::HipPlanDrafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context)
     : board_(board), rafter_(rafter), context_(context) {}
 
 void HipPlanDrafter::DrawPlan() {
@@ -78,38 +78,38 @@ void HipPlanDrafter::DrawOutline(const HipOutline& outline) {
   pts(7) = {wall, Units(outline.EndOverhang)};
   pts(8) = {width - wall, pts(7).Y};
   pts(9) = {width - wall, top};
-  board_.DrawFX.SetDrawWidth(context_.LineWidth);
+  board_.Strokes.SetDrawWidth(context_.LineWidth);
   board_.Line(kLeftCorner, kRightCorner);
   board_.Line(kRightCorner, kPeak);
   board_.Line(kPeak, kLeftCorner);
   board_.Line(kPeak, kRidgeEnd);
   board_.Line(kLeftCorner, kLeftEaveEnd);
   board_.Line(kRightCorner, kRightEaveEnd);
-  board_.DrawFX.SetDrawWidth(0);
-  board_.DrawFX.SetDrawStyle(kDashed);
+  board_.Strokes.SetDrawWidth(0);
+  board_.Strokes.SetDrawStyle(kDashed);
   for (int wallPoint = 6; wallPoint < 9; ++wallPoint) board_.Line(wallPoint, wallPoint + 1);
-  board_.DrawFX.SetDrawStyle(0);
+  board_.Strokes.SetDrawStyle(0);
 }
 
 void HipPlanDrafter::DrawLastCommon(const HipOutline& outline) {
   const double y = Units(outline.LastCommonPlace());
   board_.Pts(kMainCommonFoot) = {0, y};
   board_.Pts(kMainCommonFoot + 1) = {X(kPeak), y};
-  board_.DrawFX.SetDrawWidth(context_.LineWidth);
+  board_.Strokes.SetDrawWidth(context_.LineWidth);
   board_.Line(kMainCommonFoot, kMainCommonFoot + 1);
-  board_.DrawFX.SetDrawWidth(0);
+  board_.Strokes.SetDrawWidth(0);
 }
 
 /// The left half stands for the whole end: the right half holds what is written into it.
 void HipPlanDrafter::DrawRafters(const HipLayout& layout) {
-  board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.Strokes.SetPenColor(context_.DimColor);
   for (const LaidRafter& rafter : layout.Rafters) {
     const double place = Units(rafter.Place);
     const double length = Units(rafter.PlanLength);
     const bool end = rafter.Face == HipRoofFace::kEnd;
     const PointRecord foot = end ? PointRecord{place, 0} : PointRecord{0, place};
     const PointRecord top = end ? PointRecord{place, length} : PointRecord{length, place};
-    board_.DrawFX.DrawLine(foot.X, foot.Y, top.X, top.Y);
+    board_.Strokes.DrawLine(foot.X, foot.Y, top.X, top.Y);
     const int point = end ? kEndCommonFoot : kMainCommonFoot;
     if (rafter.IsJack() || X(point + 1) != 0) continue;  // the first common of a face
     board_.Pts(point) = foot;
@@ -128,7 +128,7 @@ void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
   const double wall = Y(7) + Twips(kClear);
   WriteWhereClear(EndSlopeText(rafter_, context_.RiseOverRun),
                   {{endX, Y(kPeak) / 4}, {endX, wall}, {endX, Y(kPeak) / 2}}, endAlign);
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
 }
 
 /// Between the eaves, also above them, where the dimension's extension lines will run up.
@@ -136,8 +136,8 @@ void HipPlanDrafter::WriteWhereClear(const std::string& text, const std::vector<
                                      int align) {
   const PointRecord* place = nullptr;
   for (double size = kSlopeText; place == nullptr && size > kSmallestSlopeText; size *= kShrink) {
-    board_.TextFX.FontHeight = ToLong(Twips(size));
-    const double width = board_.TextFX.TextWidth(text);
+    board_.Letters.FontHeight = ToLong(Twips(size));
+    const double width = board_.Letters.TextWidth(text);
     const auto clear = std::find_if(places.begin(), places.end(), [&](const PointRecord& at) {
       const double right = at.X + width * (1 - ShareLeftOf(SideOf(align))) + Twips(kClear);
       return right <= X(kRightCorner) && board_.IsClear(text, at.X, at.Y, align, Twips(kClear));
@@ -151,7 +151,7 @@ void HipPlanDrafter::WriteWhereClear(const std::string& text, const std::vector<
 /// The end's run at the right; the whole width above, clear of the main slope's label where the roof is cut
 /// off close to the peak.
 void HipPlanDrafter::DimensionOutline() {
-  board_.DrawFX.SetPenColor(context_.DimColor);
+  board_.Strokes.SetPenColor(context_.DimColor);
   Dimension run = PlainDimension(board_, kVertical, kPeak, kRightCorner, 2 * board_.DimLeg);
   run.TextMode = 1;
   board_.Dimension2(run);

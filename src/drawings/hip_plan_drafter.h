@@ -13,7 +13,7 @@ namespace pitchcraft {
 
 class HipPlanDrafter {
  public:
-  HipPlanDrafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+  HipPlanDrafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
   void DrawPlan();
   void DrawLayout();
 
@@ -41,7 +41,7 @@ class HipPlanDrafter {
   double Y(int point) const { return board_.Pts(point).Y; }
 
   DraftingBoard& board_;
-  const CRafter& rafter_;
+  const Rafter& rafter_;
   const DrawingContext& context_;
   double slopeLabelTop_ = 0;  // of the main slope's label
 };

@@ -6,23 +6,23 @@
 namespace pitchcraft {
 namespace {
 
-bool IsBastard(const CRafter& rafter) { return rafter.RafterType == RafterType::kBastardHip; }
+bool IsBastard(const Rafter& rafter) { return rafter.RafterType == RafterType::kBastardHip; }
 
-std::string RoofName(const CRafter& rafter) { return IsBastard(rafter) ? "Bastard Hip Roof" : "Hip Roof"; }
+std::string RoofName(const Rafter& rafter) { return IsBastard(rafter) ? "Bastard Hip Roof" : "Hip Roof"; }
 
 }  // namespace
 
-std::string HipPlanTitle(const CRafter& rafter) {
+std::string HipPlanTitle(const Rafter& rafter) {
   // As with the notes of the layout, only a wall that was moved is told of.
   const bool adjusted = IsBastard(rafter) && rafter.HipEndOverhangExcess != 0;
   return RoofName(rafter) + " - Plan View" + (adjusted ? " (adjusted to make overhangs equal)" : "");
 }
 
-std::string HipLayoutTitle(const CRafter& rafter, const PrintContext& context) {
-  return RoofName(rafter) + " - Layout  (" + context.Fields.cboSpacing.Text() + " o.c. spacing)";
+std::string HipLayoutTitle(const Rafter& rafter, const PrintContext& context) {
+  return RoofName(rafter) + " - Layout  (" + context.Fields.Spacing.Text() + " o.c. spacing)";
 }
 
-SheetColumns HipRows(const CRafter& rafter, const PrintContext& context) {
+SheetColumns HipRows(const Rafter& rafter, const PrintContext& context) {
   const Sheet& fields = context.Fields;
   const auto length = [&](const char* label, double value) {
     return label + std::string(" = ") + context.LengthText(value);
@@ -31,31 +31,31 @@ SheetColumns HipRows(const CRafter& rafter, const PrintContext& context) {
   // One jack is longer than the next by the difference of a unit along the wall, times the spacing.
   const double spacing = rafter.spacing;
   SheetColumns columns;
-  columns[0] = {Row("Common Rafter Run", fields.FtSpan[0]), Row("Common Overhang", fields.FtOverhang[0]),
+  columns[0] = {Row("Common Rafter Run", fields.Span[0]), Row("Common Overhang", fields.Overhang[0]),
                 length("Hip End Common Run", outline.EndRun - outline.EndOverhang),
                 length("Hip End Overhang", outline.EndOverhang)};
   columns[1] = {SlopeRow("Main Slope", rafter.Pitch, rafter.degrees),
                 SlopeRow("Hip End Slope", rafter.HipEndPitch, rafter.HipEndDegrees),
                 SlopeRow("Hip Rafter Slope", rafter.HipPitch, rafter.HipDegrees),
-                "Rafter Spacing = " + fields.cboSpacing.Text(),
+                "Rafter Spacing = " + fields.Spacing.Text(),
                 length("CommonDifference", rafter.CommonDifference * spacing),
                 length("Hip End CommonDifference", rafter.HipEndCommonDifference * spacing)};
-  columns[2] = {Row("Common", fields.LWRafter[0]), Row("Hip", fields.LWHipVal), Row("Ridge", fields.LWRidge)};
-  if (context.Drawing.SquareCut) columns[2].push_back(Row("Fascia", fields.LWFascia[0]));
+  columns[2] = {Row("Common", fields.Common[0]), Row("Hip", fields.HipOrValley), Row("Ridge", fields.Ridge)};
+  if (context.Drawing.SquareCut) columns[2].push_back(Row("Fascia", fields.Fascia[0]));
   // Where it is drawn: a field that tells less than the run to the peak is raised to it.
   if (outline.LastCommon)
     columns[2].push_back(length("Last Common (distance o.c. from corner)", *outline.LastCommon));
   return columns;
 }
 
-void PrintHipPlan(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
+void PrintHipPlan(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context) {
   DrawHipPlan(board, rafter, context.Drawing);
-  PrintSheet(page, context, board.MetaCanvas, HipPlanTitle(rafter), HipRows(rafter, context));
+  PrintSheet(page, context, board.Recorder, HipPlanTitle(rafter), HipRows(rafter, context));
 }
 
-void PrintHipLayout(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
+void PrintHipLayout(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context) {
   DrawHipLayout(board, rafter, context.Drawing);
-  PrintSheet(page, context, board.MetaCanvas, HipLayoutTitle(rafter, context), HipRows(rafter, context));
+  PrintSheet(page, context, board.Recorder, HipLayoutTitle(rafter, context), HipRows(rafter, context));
 }
 
 }  // namespace pitchcraft

@@ -8,11 +8,11 @@
 namespace pitchcraft {
 
 /// "Hip Roof - Plan View".
-std::string HipPlanTitle(const CRafter& rafter);
+std::string HipPlanTitle(const Rafter& rafter);
 /// "Hip Roof - Layout  (16" o.c. spacing)".
-std::string HipLayoutTitle(const CRafter& rafter, const PrintContext& context);
+std::string HipLayoutTitle(const Rafter& rafter, const PrintContext& context);
 
 /// The measures of both, in three columns.
-SheetColumns HipRows(const CRafter& rafter, const PrintContext& context);
+SheetColumns HipRows(const Rafter& rafter, const PrintContext& context);
 
 }  // namespace pitchcraft

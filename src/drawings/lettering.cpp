@@ -27,10 +27,10 @@ std::string SlopeText(const std::string& pitch, double degrees, bool riseOverRun
 }
 
 void ChooseLettering(DraftingBoard& board, const DrawingContext& context) {
-  board.TextFX.TextColor = context.TextColor;
-  board.TextFX.FontHeight = ToLong(board.DimTextHeight);
-  board.TextFX.SetTextAlign(kAlignLeftBase);
-  board.DrawFX.SetPenColor(context.DimColor);
+  board.Letters.TextColor = context.TextColor;
+  board.Letters.FontHeight = ToLong(board.DimTextHeight);
+  board.Letters.SetTextAlign(kAlignLeftBase);
+  board.Strokes.SetPenColor(context.DimColor);
 }
 
 Dimension PlainDimension(const DraftingBoard& board, int kind, int p1, int p2, double leg) {

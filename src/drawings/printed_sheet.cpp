@@ -97,9 +97,11 @@ std::string FourDecimals(double degrees) {
   return text;
 }
 
-std::string Row(const std::string& label, const FtInText& field) { return label + " = " + field.Text(); }
+std::string Row(const std::string& label, const MeasureControl& field) {
+  return label + " = " + field.Text();
+}
 
-std::string Row(const std::string& label, const LWCombo& lumber) {
+std::string Row(const std::string& label, const PairControl& lumber) {
   return label + " = " + lumber.LeftText() + " x " + lumber.RightText();
 }
 
@@ -125,7 +127,7 @@ void PrintHeader(Printer& page, const PrintContext& context) {
   page.Print(context.Date);
 }
 
-void PrintSheet(Printer& page, const PrintContext& context, const CMetaFile& drawing,
+void PrintSheet(Printer& page, const PrintContext& context, const DrawingRecorder& drawing,
                 const std::string& title, const SheetColumns& columns) {
   PrintHeader(page, context);
   const double titleHeight = std::fabs(page.TextHeight());

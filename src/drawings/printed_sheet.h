@@ -38,14 +38,14 @@ void PrintHeader(Printer& page, const PrintContext& context);
 /// Lays out the sheet around a finished drawing. The title stands an inch above the bottom edge, and higher
 /// where the rows under it need the room; the drawing fills what is left below the header. A row that is
 /// wider than its column goes on in the next line.
-void PrintSheet(Printer& page, const PrintContext& context, const CMetaFile& drawing,
+void PrintSheet(Printer& page, const PrintContext& context, const DrawingRecorder& drawing,
                 const std::string& title, const SheetColumns& columns);
 
 // --- Rows
 /// A field's text as the design sheet shows it.
-std::string Row(const std::string& label, const FtInText& field);
+std::string Row(const std::string& label, const MeasureControl& field);
 /// A lumber's two sizes.
-std::string Row(const std::string& label, const LWCombo& lumber);
+std::string Row(const std::string& label, const PairControl& lumber);
 /// A slope's text and its angle in degrees, with one to four decimals: "Slope = 6/12 (26.5651º)".
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees);
 /// At least one decimal and at most four, without a zero in front: "45.0", ".5", "26.5651".

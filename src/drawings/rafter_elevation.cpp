@@ -5,12 +5,12 @@
 
 namespace pitchcraft {
 
-void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
+void DrawRafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context) {
   RecordOrAbandon(board, [&] { RafterElevationDrafter(board, rafter, context).Draw(); });
 }
 
 // One view: what sets the three members of a bastard hip roof apart is chosen with the member.
-void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context) {
+void DrawBastardHipRafters(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context) {
   DrawRafter(board, rafter, context);
 }
 

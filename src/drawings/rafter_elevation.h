@@ -13,20 +13,20 @@ namespace pitchcraft {
 /// Records a common, shed, hip or valley rafter on the board and closes the recording; Pts and
 /// DimensionPoints hold it afterwards. The canvas size must stand. Raises Overflow when the figure is
 /// infinite or too large to draw; the recording is then empty.
-void DrawRafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+void DrawRafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
 
 /// The same for main common, hip end common and hip of a roof whose end has a slope of its own.
-void DrawBastardHipRafters(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+void DrawBastardHipRafters(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
 
 /// Draws the rafter for paper and prints its sheet: the measures that it is cut by, under the drawing.
-void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context);
-void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const CRafter& rafter,
+void PrintRafter(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context);
+void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const Rafter& rafter,
                             const PrintContext& context);
 
 /// Writes the rafter that the board holds since its last drawing, in real size.
-void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportRafter(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                   const PrintContext& context);
-void ExportBastardHipRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportBastardHipRafter(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                             const PrintContext& context);
 
 }  // namespace pitchcraft

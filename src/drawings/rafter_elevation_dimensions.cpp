@@ -54,7 +54,7 @@ void RafterElevationDrafter::Along(int p1, int p2, double tier) {
 }
 
 void RafterElevationDrafter::DimensionAlongRafter() {
-  const std::size_t first = board_.MetaCanvas.Operations().size();
+  const std::size_t first = board_.Recorder.Operations().size();
   double tier = kFirstTier;
   if (geometry_.Kneewall) {
     Along(27, 0, tier);
@@ -67,8 +67,8 @@ void RafterElevationDrafter::DimensionAlongRafter() {
   Along(2, 0, tier);
   board_.Pts(14).Y = board_.Pts(12).Y;
 
-  ExtentsCanvas reach({}, board_.MetaCanvas.Meter());
-  reach.Play(std::span(board_.MetaCanvas.Operations()).subspan(first));
+  ExtentsCanvas reach({}, board_.Recorder.Meter());
+  reach.Play(std::span(board_.Recorder.Operations()).subspan(first));
   if (!reach.Empty()) ChooseTailColumn(reach.Left());
 }
 
@@ -106,10 +106,10 @@ void RafterElevationDrafter::ChooseTailColumn(double lengthsLeft) {
   if (!WholeRiseIsShown() || lengthsLeft > X(2) - tailGap_ - tailLeg_) return;
   const bool steep = Y(0) - Y(2) > X(0) - X(2);
   const PointRecord text = WholeRiseText();
-  board_.TextFX.Angle = 90;
+  board_.Letters.Angle = 90;
   const bool clear = board_.IsClear(board_.LengthText((Y(0) - Y(2)) / board_.DrawScale), text.X, text.Y,
                                     kAlignCenterBase, Twips(kClear));
-  board_.TextFX.Angle = 0;
+  board_.Letters.Angle = 0;
   if (!steep && clear) return;
   tailGap_ = X(2) - lengthsLeft;
   tailLeg_ = board_.DimArrow;

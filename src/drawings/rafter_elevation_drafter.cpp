@@ -13,7 +13,7 @@ constexpr double kTitleTwips = 360;  // 18 points
 
 }  // namespace
 
-RafterElevationDrafter::RafterElevationDrafter(DraftingBoard& board, const CRafter& rafter,
+RafterElevationDrafter::RafterElevationDrafter(DraftingBoard& board, const Rafter& rafter,
                                                const DrawingContext& context)
     : board_(board),
       context_(context),
@@ -41,7 +41,7 @@ void RafterElevationDrafter::Draw() {
 }
 
 void RafterElevationDrafter::DrawOutline() {
-  board_.DrawFX.SetDrawWidth(context_.LineWidth);
+  board_.Strokes.SetDrawWidth(context_.LineWidth);
   board_.Line(0, 1);
   DrawTail();
   DrawHeelLines();
@@ -49,7 +49,7 @@ void RafterElevationDrafter::DrawOutline() {
     const auto [from, to] = geometry_.Strokes[at];
     if (X(from) != X(to) || Y(from) != Y(to)) board_.Line(from, to);
   }
-  board_.DrawFX.SetDrawWidth(0);
+  board_.Strokes.SetDrawWidth(0);
 }
 
 /// The tail of a hip's square cut is measured from the corner that the roof planes meet in: it counts towards
@@ -58,40 +58,40 @@ void RafterElevationDrafter::DrawTail() {
   if (member_.Overhang == 0) return;
   const PointRecord& first = geometry_.FirstTail;
   if (first.X != X(2) || first.Y != Y(2)) {
-    board_.DrawFX.SetPenColor(context_.BackColor);
-    board_.DrawFX.DrawLine(X(1), Y(1), first.X, first.Y);
-    board_.DrawFX.SetPenColor(context_.LineColor);
+    board_.Strokes.SetPenColor(context_.BackColor);
+    board_.Strokes.DrawLine(X(1), Y(1), first.X, first.Y);
+    board_.Strokes.SetPenColor(context_.LineColor);
   }
   board_.Line(1, 2);
 }
 
 void RafterElevationDrafter::DrawHeelLines() {
   if (member_.Heel == 0) return;
-  board_.DrawFX.SetPenColor(context_.DimColor);
-  board_.DrawFX.SetDrawWidth(0);
-  board_.DrawFX.SetDrawStyle(measures::kDashed);
+  board_.Strokes.SetPenColor(context_.DimColor);
+  board_.Strokes.SetDrawWidth(0);
+  board_.Strokes.SetDrawStyle(measures::kDashed);
   board_.Line(1, 5);
   if (geometry_.Kneewall) board_.Line(27, 28);
-  board_.DrawFX.SetPenColor(context_.LineColor);
-  board_.DrawFX.SetDrawWidth(context_.LineWidth);
-  board_.DrawFX.SetDrawStyle(0);
+  board_.Strokes.SetPenColor(context_.LineColor);
+  board_.Strokes.SetDrawWidth(context_.LineWidth);
+  board_.Strokes.SetDrawStyle(0);
 }
 
 void RafterElevationDrafter::WidenByMargin() {
   const double margin = member_.PlumbCut * board_.DrawScale;
-  const CMetaFile& canvas = board_.MetaCanvas;
+  const DrawingRecorder& canvas = board_.Recorder;
   const double left = canvas.MinX() - margin;
   const double bottom = canvas.MinY() - margin;
   const double right = canvas.MaxX() + margin;
   const double top = canvas.MaxY() + margin;
-  board_.DrawFX.MoveToPoint(left, bottom);
-  board_.DrawFX.MoveToPoint(right, top);
+  board_.Strokes.MoveToPoint(left, bottom);
+  board_.Strokes.MoveToPoint(right, top);
 }
 
 /// The plumb angle stands on the extension line that starts at the ridge; the angle of a square tail hangs
 /// beside the tail's end.
 void RafterElevationDrafter::LabelAngles() {
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
   board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
   if (!geometry_.SquareCut || member_.SetsFascia()) return;
   board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
@@ -100,17 +100,17 @@ void RafterElevationDrafter::LabelAngles() {
 /// In the left upper corner; above everything where a line or a text stands there.
 void RafterElevationDrafter::WriteTitle() {
   const double height = Twips(kTitleTwips);
-  const CMetaFile& canvas = board_.MetaCanvas;
+  const DrawingRecorder& canvas = board_.Recorder;
   board_.Pts(14).X =
       X(0) + 2 * board_.DimTextHeight + static_cast<double>(member_.SlopeText.size()) * board_.DimTextHeight;
-  board_.TextFX.FontBold = true;
-  board_.TextFX.FontHeight = ToLong(height);
+  board_.Letters.FontBold = true;
+  board_.Letters.FontHeight = ToLong(height);
   const double left = canvas.MinX();
   double top = canvas.MaxY();
   if (!board_.IsClear(member_.SlopeText, left, top, kAlignLeftTop, board_.DimGap)) top += height;
   board_.Text(member_.SlopeText, left, top, kAlignLeftTop);
-  board_.TextFX.FontBold = false;
-  board_.TextFX.FontHeight = ToLong(board_.DimTextHeight);
+  board_.Letters.FontBold = false;
+  board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
   board_.Pts(9) = board_.Pts(10);
 }
 

@@ -13,7 +13,7 @@ namespace pitchcraft {
 
 class RafterElevationDrafter {
  public:
-  RafterElevationDrafter(DraftingBoard& board, const CRafter& rafter, const DrawingContext& context);
+  RafterElevationDrafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
   void Draw();
 
  private:

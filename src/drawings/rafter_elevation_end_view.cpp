@@ -77,7 +77,7 @@ void RafterElevationDrafter::DrawEndView() {
   const std::optional<BeveledEnds> ends = EndsOf(type_);
   if (!ends || context_.CurrentTab <= 0 || !(ratio_ < 1)) return;
   const double half = board_.DimTextHeight / 2;
-  const double top = board_.MetaCanvas.MinY() - 2 * board_.DimTextHeight;
+  const double top = board_.Recorder.MinY() - 2 * board_.DimTextHeight;
   const EndShape ridge = ShapeOf(ends->Ridge, member_.RidgeBevels);
   const EndShape tail = ShapeOf(ends->Tail, member_.TailBevels);
   const double right = X(0);
@@ -92,14 +92,14 @@ void RafterElevationDrafter::DrawEndView() {
   board_.Pts(25) = board_.Pts(20);
   board_.Pts(26) = board_.Pts(23);
 
-  board_.DrawFX.SetPenColor(context_.LineColor);
-  board_.DrawFX.SetDrawWidth(context_.LineWidth);
+  board_.Strokes.SetPenColor(context_.LineColor);
+  board_.Strokes.SetDrawWidth(context_.LineWidth);
   for (int corner = 18; corner < 24; ++corner) board_.Line(corner, corner + 1);
-  board_.DrawFX.SetPenColor(context_.DimColor);
-  board_.DrawFX.SetDrawWidth(0);
-  board_.DrawFX.SetDrawStyle(measures::kDashed);
+  board_.Strokes.SetPenColor(context_.DimColor);
+  board_.Strokes.SetDrawWidth(0);
+  board_.Strokes.SetDrawStyle(measures::kDashed);
   board_.Line(25, 26);
-  board_.DrawFX.SetDrawStyle(0);
+  board_.Strokes.SetDrawStyle(0);
 
   const EndLabels labels = EndLabelsOf(type_, member_);
   constexpr int kTailRows[] = {kAlignRightBottom, kAlignRightTop};

@@ -36,7 +36,7 @@ void ExportEndView(DxfForm& form, const DraftingBoard& board, const EndLabels& l
   label(labels.Ridge, form.Real(0).X + half, "L");
 }
 
-void ExportElevation(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportElevation(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                      const PrintContext& context, const RafterSheet& sheet) {
   const ElevationMember member = ChooseElevationMember(rafter, context.Drawing);
   PointArray points = board.Pts;
@@ -64,12 +64,12 @@ void ExportElevation(CDxfWriter& writer, const DraftingBoard& board, const CRaft
 
 }  // namespace
 
-void ExportRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportRafter(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                   const PrintContext& context) {
   ExportElevation(writer, board, rafter, context, RafterSheetOf(rafter, context));
 }
 
-void ExportBastardHipRafter(CDxfWriter& writer, const DraftingBoard& board, const CRafter& rafter,
+void ExportBastardHipRafter(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                             const PrintContext& context) {
   ExportElevation(writer, board, rafter, context, BastardHipSheetOf(rafter, context));
 }

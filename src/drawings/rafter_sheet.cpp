@@ -50,7 +50,7 @@ std::string TitleOf(int roofType, RafterType type, std::size_t row) {
 
 class RowBuilder {
  public:
-  RowBuilder(const CRafter& rafter, const PrintContext& context)
+  RowBuilder(const Rafter& rafter, const PrintContext& context)
       : rafter_(rafter), context_(context), fields_(context.Fields), row_(context.Row) {}
 
   SheetColumns Columns() const {
@@ -79,16 +79,16 @@ class RowBuilder {
 
   Rows Commons(const std::string& member) const {
     return {SlopeRow(member + "Slope", rafter_.Pitch.Stored(), rafter_.degrees),
-            Row(member + "Run", fields_.FtSpan[row_]), Row(member + "Overhang", fields_.FtOverhang[row_]),
+            Row(member + "Run", fields_.Span[row_]), Row(member + "Overhang", fields_.Overhang[row_]),
             Length(member + "Heel", rafter_.CommonHeel), Length(member + "Seat", rafter_.CommonSeat)};
   }
 
   /// `hipOrValley` names the member whose lumber stands between common and ridge; null where there is none.
   Rows Lumber(const char* hipOrValley) const {
-    Rows rows{Row("Common", fields_.LWRafter[row_])};
-    if (hipOrValley != nullptr) rows.push_back(Row(hipOrValley, fields_.LWHipVal));
-    if (fields_.LWRidge.Visible) rows.push_back(Row("Ridge", fields_.LWRidge));
-    if (context_.Drawing.SquareCut) rows.push_back(Row("Fascia", fields_.LWFascia[row_]));
+    Rows rows{Row("Common", fields_.Common[row_])};
+    if (hipOrValley != nullptr) rows.push_back(Row(hipOrValley, fields_.HipOrValley));
+    if (fields_.Ridge.Visible) rows.push_back(Row("Ridge", fields_.Ridge));
+    if (context_.Drawing.SquareCut) rows.push_back(Row("Fascia", fields_.Fascia[row_]));
     return rows;
   }
 
@@ -139,8 +139,8 @@ class RowBuilder {
   }
 
   Rows BastardHipRuns() const {
-    return {Row("Common Rafter Run", fields_.FtSpan[row_]),
-            Row("Common Overhang", fields_.FtOverhang[row_]),
+    return {Row("Common Rafter Run", fields_.Span[row_]),
+            Row("Common Overhang", fields_.Overhang[row_]),
             Length("Hip End Common Run", rafter_.HipEndSpan),
             Length("Hip End Overhang", rafter_.HipEndOverhang),
             Length("Hip Rafter Run", rafter_.HipValSpan),
@@ -156,7 +156,7 @@ class RowBuilder {
             Length("Hip Seat", rafter_.HipValSeat),     Length("Hip Drop", rafter_.HipDrop)};
   }
 
-  const CRafter& rafter_;
+  const Rafter& rafter_;
   const PrintContext& context_;
   const Sheet& fields_;
   std::size_t row_;
@@ -164,26 +164,26 @@ class RowBuilder {
 
 }  // namespace
 
-RafterSheet RafterSheetOf(const CRafter& rafter, const PrintContext& context) {
+RafterSheet RafterSheetOf(const Rafter& rafter, const PrintContext& context) {
   return {TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row),
           RowBuilder(rafter, context).Columns()};
 }
 
-RafterSheet BastardHipSheetOf(const CRafter& rafter, const PrintContext& context) {
+RafterSheet BastardHipSheetOf(const Rafter& rafter, const PrintContext& context) {
   return {TitleOf(roof::kBastardHip, rafter.RafterType, 0), RowBuilder(rafter, context).BastardHipColumns()};
 }
 
-void PrintRafter(Printer& page, DraftingBoard& board, const CRafter& rafter, const PrintContext& context) {
+void PrintRafter(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context) {
   DrawRafter(board, rafter, context.Drawing);
   const RafterSheet sheet = RafterSheetOf(rafter, context);
-  PrintSheet(page, context, board.MetaCanvas, sheet.Title, sheet.Rows);
+  PrintSheet(page, context, board.Recorder, sheet.Title, sheet.Rows);
 }
 
-void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const CRafter& rafter,
+void PrintBastardHipRafters(Printer& page, DraftingBoard& board, const Rafter& rafter,
                             const PrintContext& context) {
   DrawBastardHipRafters(board, rafter, context.Drawing);
   const RafterSheet sheet = BastardHipSheetOf(rafter, context);
-  PrintSheet(page, context, board.MetaCanvas, sheet.Title, sheet.Rows);
+  PrintSheet(page, context, board.Recorder, sheet.Title, sheet.Rows);
 }
 
 }  // namespace pitchcraft

@@ -12,9 +12,9 @@ struct RafterSheet {
   SheetColumns Rows;  ///< the measures that the rafter is cut by
 };
 
-RafterSheet RafterSheetOf(const CRafter& rafter, const PrintContext& context);
+RafterSheet RafterSheetOf(const Rafter& rafter, const PrintContext& context);
 /// For main common, hip end common and hip of a roof whose end has a slope of its own: each names its member
 /// and states the measures of all three.
-RafterSheet BastardHipSheetOf(const CRafter& rafter, const PrintContext& context);
+RafterSheet BastardHipSheetOf(const Rafter& rafter, const PrintContext& context);
 
 }  // namespace pitchcraft

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 #include "measure/measure_parser.h"
 
 namespace pitchcraft {
@@ -27,7 +27,7 @@ const char* SignOf(CalcOperation operation) {
 }
 
 std::string PlainDecimal(double number, int decimals) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = kPlainNumber;
   converter.DecimalPlaces = decimals;
   return converter.ToText(number);
@@ -48,7 +48,7 @@ std::string FtCalc::Text(const Quantity& quantity) const {
         return PlainDecimal(quantity.amount / (kInchesPerMetre * kInchesPerMetre), kAreaDecimals) + " sq m";
     }
   }
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.DecimalPlaces = 2;
   converter.Units = units_ == CalcUnits::kFeetAndInches ? kFeetAndInches
                     : units_ == CalcUnits::kInches      ? kInchesAlone

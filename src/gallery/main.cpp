@@ -95,7 +95,7 @@ class Photographer {
   }
 
   void Pages(const QString& roof) {
-    const IndexTab& tab = window_.Document().sheet.VSTab[0];
+    const IndexTab& tab = window_.Document().sheet.Tabs[0];
     for (int page = 0; page < tab.PageCount(); ++page) {
       Do(actions_.Page("VSTab(0)", page));
       // A page whose drawing is still to come shows only that it is.

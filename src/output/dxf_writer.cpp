@@ -64,20 +64,20 @@ DxfPoint PointOf(Single x, Single y) { return {x, y}; }
 
 }  // namespace
 
-void CDxfWriter::SetDimensionPoints(std::vector<DimensionValue> points, bool flag) {
+void DxfWriter::SetDimensionPoints(std::vector<DimensionValue> points, bool flag) {
   listed_ = std::move(points);
   listAlways_ = flag;
 }
 
-void CDxfWriter::Line(Single x1, Single y1, Single x2, Single y2, std::optional<std::string_view> layer) {
+void DxfWriter::Line(Single x1, Single y1, Single x2, Single y2, std::optional<std::string_view> layer) {
   RequireFinite(x1, y1, x2, y2);
   drawing_.Lines.push_back(
       {PointOf(x1, y1), PointOf(x2, y2), LayerName(layer), IsColor(Color) ? Color : kDxfByLayer});
   drawing_.Extents.Include(drawing_.Lines.back());
 }
 
-void CDxfWriter::Text(const std::string& text, Single x, Single y, std::optional<Single> height,
-                      std::optional<int> rotation) {
+void DxfWriter::Text(const std::string& text, Single x, Single y, std::optional<Single> height,
+                     std::optional<int> rotation) {
   const double used = height.value_or(TextHeight);
   RequireFinite(x, y, used);
   if (text.empty() || used <= 0) return;
@@ -86,7 +86,7 @@ void CDxfWriter::Text(const std::string& text, Single x, Single y, std::optional
   drawing_.Extents.Include(drawing_.Texts.back());
 }
 
-void CDxfWriter::Add(DxfDimension dimension, std::optional<Single> textX, std::optional<Single> textY) {
+void DxfWriter::Add(DxfDimension dimension, std::optional<Single> textX, std::optional<Single> textY) {
   RequireFinite(dimension.P1.X, dimension.P1.Y, dimension.P2.X, dimension.P2.Y, dimension.OnLine.X,
                 dimension.OnLine.Y, textX.value_or(0), textY.value_or(0));
   if (textX) dimension.TextX = *textX;
@@ -103,23 +103,23 @@ void CDxfWriter::Add(DxfDimension dimension, std::optional<Single> textX, std::o
   drawing_.Dimensions.push_back(dimension);
 }
 
-void CDxfWriter::DimAligned(Single x1, Single y1, Single x2, Single y2, Single x3, Single y3) {
+void DxfWriter::DimAligned(Single x1, Single y1, Single x2, Single y2, Single x3, Single y3) {
   Add({DxfDimensionKind::kAligned, PointOf(x1, y1), PointOf(x2, y2), PointOf(x3, y3), {}, {}});
 }
 
-void CDxfWriter::DimVertical(Single x1, Single y1, Single x2, Single y2, Single xLine,
-                             std::optional<Single> textX, std::optional<Single> textY) {
+void DxfWriter::DimVertical(Single x1, Single y1, Single x2, Single y2, Single xLine,
+                            std::optional<Single> textX, std::optional<Single> textY) {
   Add({DxfDimensionKind::kVertical, PointOf(x1, y1), PointOf(x2, y2), PointOf(xLine, y1), {}, {}}, textX,
       textY);
 }
 
-void CDxfWriter::DimHorizontal(Single x1, Single y1, Single x2, Single y2, Single yLine,
-                               std::optional<Single> textX, std::optional<Single> textY) {
+void DxfWriter::DimHorizontal(Single x1, Single y1, Single x2, Single y2, Single yLine,
+                              std::optional<Single> textX, std::optional<Single> textY) {
   Add({DxfDimensionKind::kHorizontal, PointOf(x1, y1), PointOf(x2, y2), PointOf(x1, yLine), {}, {}}, textX,
       textY);
 }
 
-std::string CDxfWriter::Bytes() const {
+std::string DxfWriter::Bytes() const {
   DxfFileStyle style;
   style.Units = Units;
   style.TextHeight = AtLeastZero(TextHeight);
@@ -137,7 +137,7 @@ std::string CDxfWriter::Bytes() const {
   return DxfFile(withList, style);
 }
 
-void CDxfWriter::AddListed(DxfDrawing& drawing, const DxfDimensionStyle& style) const {
+void DxfWriter::AddListed(DxfDrawing& drawing, const DxfDimensionStyle& style) const {
   const ListedDimensions listed = ReadDimensionList(listed_);
   for (const ListedStroke& stroke : listed.Strokes) {
     RequireFinite(stroke.X1, stroke.Y1, stroke.X2, stroke.Y2);
@@ -154,6 +154,6 @@ void CDxfWriter::AddListed(DxfDrawing& drawing, const DxfDimensionStyle& style) 
   }
 }
 
-void CDxfWriter::Save() const { SaveFile(FileName, Bytes()); }
+void DxfWriter::Save() const { SaveFile(FileName, Bytes()); }
 
 }  // namespace pitchcraft

@@ -18,7 +18,7 @@ namespace pitchcraft {
 /// One DXF file. Coordinates, distances and heights are of real size, in the unit that the file names, +Y up.
 /// Colours are CAD colour numbers, 1 to 255; 256 is the colour of the layer. A figure with an infinity or a
 /// not-a-number in it raises Overflow and is left out, and the file stays as it was without it.
-class CDxfWriter {
+class DxfWriter {
  public:
   /// Writes the file named by FileName as a whole. Raises "Path not found" (76) where its folder is missing,
   /// "Path/File access error" (75) where it cannot be written, Overflow for a size or a listed dimension that

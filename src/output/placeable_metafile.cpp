@@ -165,7 +165,7 @@ std::string PlaceableMetafile(const Recording& recording, const MetafileFrame& f
   return PlaceableHeader(bounds).Bytes() + MetaHeader(records, player.Slots()).Bytes() + records.Bytes();
 }
 
-void MetaSave(const std::filesystem::path& path, const Recording& recording, const MetafileFrame& frame) {
+void SaveMetafile(const std::filesystem::path& path, const Recording& recording, const MetafileFrame& frame) {
   SaveFile(path, PlaceableMetafile(recording, frame));
 }
 

@@ -29,6 +29,6 @@ std::string PlaceableMetafile(const Recording& recording, const MetafileFrame& f
 
 /// Writes the file as a whole. Raises "Path not found" (76) or "Path/File access error" (75); an old file is
 /// untouched then.
-void MetaSave(const std::filesystem::path& path, const Recording& recording, const MetafileFrame& frame);
+void SaveMetafile(const std::filesystem::path& path, const Recording& recording, const MetafileFrame& frame);
 
 }  // namespace pitchcraft

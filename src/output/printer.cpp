@@ -87,7 +87,7 @@ void Printer::Line(double x1, double y1, double x2, double y2) {
       LineOp{{ToLong(x1), ToLong(y1)}, {ToLong(x2), ToLong(y2)}, {ForeColor, 0, kLineWidth}});
 }
 
-void Printer::Play(const CMetaFile& drawing, const PlayArea& area) {
+void Printer::Play(const DrawingRecorder& drawing, const PlayArea& area) {
   PlayArea below = area;
   below.Top = Downward() * area.Top;
   const CanvasSize page{ScaleWidth, ScaleHeight, true};
@@ -95,7 +95,7 @@ void Printer::Play(const CMetaFile& drawing, const PlayArea& area) {
   page_.Layers.push_back({WithPaperPens(drawing.Finished(), std::fabs(map.ScaleX)), map});
 }
 
-void Printer::MetaPrint(const CMetaFile& drawing) {
+void Printer::PrintRecording(const DrawingRecorder& drawing) {
   if (!drawing.IsClosed()) throw RunTimeError(kMetaFileError, "No metafile to print!");
   const double scale = std::min(ScaleWidth / kPrintWidth, std::fabs(ScaleHeight) / kPrintHeight);
   page_.Layers.push_back({WithPaperPens(drawing.Finished(), scale), {scale, scale, 0, 0}});

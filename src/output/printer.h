@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 #include "drawing/text_meter.h"
 #include "output/printed_page.h"
 
@@ -41,10 +41,10 @@ class Printer {
   /// A straight line in ForeColor, a point thick.
   void Line(double x1, double y1, double x2, double y2);
   /// Plays a finished drawing into an area, Top counted in y; its pen widths are half points of the paper.
-  void Play(const CMetaFile& drawing, const PlayArea& area);
+  void Play(const DrawingRecorder& drawing, const PlayArea& area);
   /// Plays a finished drawing alone into a window of 1400 by 1600 units that fills the page. "No metafile to
   /// print!" when there is none.
-  void MetaPrint(const CMetaFile& drawing);
+  void PrintRecording(const DrawingRecorder& drawing);
   /// Gives the page away; an empty one stands for it.
   PrintedPage EndDoc();
 

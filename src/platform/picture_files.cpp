@@ -9,7 +9,7 @@
 #include <cmath>
 
 #include "core/run_time_error.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "drawing/colors.h"
 #include "files/file_names.h"
 #include "platform/font_setup.h"
@@ -57,7 +57,7 @@ QByteArray PngOf(const Picture& picture) {
 
 QByteArray SvgOf(const Picture& picture) {
   SvgCanvas canvas(picture.Size, picture.Drawing.Meter());
-  picture.Drawing.MetaPlay(canvas, kArea);
+  picture.Drawing.Play(canvas, kArea);
   return QByteArray::fromStdString(canvas.Document(picture.Background, picture.Title));
 }
 
@@ -101,9 +101,9 @@ Outcome Save(const QByteArray& bytes, const std::filesystem::path& file) {
 
 }  // namespace
 
-Picture ShownPicture(const frmDocument& document) {
+Picture ShownPicture(const Document& document) {
   const PictureBox& box = document.CurrentTab == 0 ? document.Picture1 : document.Picture3;
-  return {document.board.MetaCanvas, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
+  return {document.board.Recorder, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
 }
 
 QByteArray PictureBytes(const Picture& picture, PictureFormat format) {
@@ -117,7 +117,7 @@ QByteArray PictureBytes(const Picture& picture, PictureFormat format) {
 
 void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip, double magnified) {
   PainterCanvas canvas(painter, picture.Size, picture.Drawing.Meter(), unitsPerTwip, magnified);
-  picture.Drawing.MetaPlay(canvas, kArea);
+  picture.Drawing.Play(canvas, kArea);
 }
 
 std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file) {

@@ -6,24 +6,24 @@
 #include <optional>
 #include <string>
 
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 
 class QPainter;
 
 namespace pitchcraft {
 
-class frmDocument;
+class Document;
 
 /// A finished drawing and the area that it is shown on.
 struct Picture {
-  const CMetaFile& Drawing;
+  const DrawingRecorder& Drawing;
   CanvasSize Size;  ///< of the area, in twips
   DrawColor Background = 0;
   std::string Title;
 };
 
 /// The drawing that the document shows, on the colour of its views.
-Picture ShownPicture(const frmDocument& document);
+Picture ShownPicture(const Document& document);
 
 /// Paints the picture, its proportions kept, with a narrow border of its ground about it. The ground itself
 /// is there already. `unitsPerTwip` and `magnified` are those of PainterCanvas.

@@ -29,35 +29,32 @@ class Menus {
   Menus(const Menus&) = delete;
   Menus& operator=(const Menus&) = delete;
 
-  MenuItem mnuFile, mnuFileNew, mnuFileOpen, mnuFileSave, mnufileSaveAs, mnuFileProjectName,
-      mnuFileExportMetafile, mnuFileExportDXF, mnuFileDXFSettings, mnuFilePageSetup, mnuFilePrint,
-      mnuFileExit;
-  MenuItem mnuSettings, mnuSettingsHeelLocked, mnuSettingsSeatLocked, mnuSettingsPlumbCut,
-      mnuSettingsSquareCut, mnuSettingsLevelCut, mnuSettingsRiseOverRun, mnuSettingsDegrees, mnuImperial,
-      mnuMetric, mnuViewOptions;
-  MenuItem mnuView, mnuViewToolbar, mnuViewStatusBar;
-  MenuItem mnuTools;
-  MenuItem mnuDutch;
-  MenuItem mnuHipLayout, mnuHipLayoutCenter, mnuHipLayoutCorners, mnuHipLayoutCornersFlush,
-      mnuHipLayoutJackMeasurement, mnuHipLayoutOverhangsEqual;
-  MenuItem mnuGambrel, mnuGambrelRegular, mnuGambrelCustom, mnuGambrelPurlins, mnuGambrelWallSupport,
-      mnuGambrelWallSupportRaised, mnuGambrelPlumb, mnuGambrelSquare, mnuGambrelLevel;
-  MenuItem mnuHelp, mnuHelpcontents, mnuHelpGlossary, mnuHelpSearch, mnuHelpTips, mnuHelpAbout;
-  MenuItem mnuPopUp1, mnuPopUp1PrintSetup, mnuPopUp1Print, mnuPopUp1DXFSettings, mnuPopUp1DXF,
-      mnuPopUp1PlumbCut, mnuPopUp1SquareCut, mnuPopUp1LayoutCenter, mnuPopUp1LayoutCorner,
-      mnuPopUp1LayoutCornerFlush, mnuPopUp1JackMeasurement, mnuPopUp1OverhangsEqual;
-  MenuItem mnuPopUp2, mnuPopUp2PrintSetup, mnuPopUp2Print, mnuPopUp2DXFSettings, mnuPopUp2DXF,
-      mnuPopUp2PlumbCut, mnuPopUp2SquareCut, mnuPopUp2LevelCut, mnuPopup2GambrelRegular,
-      mnuPopup2GambrelCustom, mnuPopup2GambrelPurlins, mnuPopup2GambrelWallSupport,
-      mnuPopup2GambrelWallSupportRaised;
-  MenuItem mnuSpin, mnuSpinIncrement, mnuSpinCancel;
-  std::array<MenuItem, 4> mnuFileMRU;
-  std::array<MenuItem, 2> mnuDutchLedger, mnuPopUp1Ledger;
-  std::array<MenuItem, 26> mnuSeparator;
+  MenuItem File, FileNew, FileOpen, FileSave, FileSaveAs, FileProjectName, FileExportMetafile, FileExportDXF,
+      FileDXFSettings, FilePageSetup, FilePrint, FileExit;
+  MenuItem Settings, SettingsHeelLocked, SettingsSeatLocked, SettingsPlumbCut, SettingsSquareCut,
+      SettingsLevelCut, SettingsRiseOverRun, SettingsDegrees, Imperial, Metric, ViewOptions;
+  MenuItem View, ViewToolbar, ViewStatusBar;
+  MenuItem Tools;
+  MenuItem Dutch;
+  MenuItem HipLayout, HipLayoutCenter, HipLayoutCorners, HipLayoutCornersFlush, HipLayoutJackMeasurement,
+      HipLayoutOverhangsEqual;
+  MenuItem Gambrel, GambrelRegular, GambrelCustom, GambrelPurlins, GambrelWallSupport,
+      GambrelWallSupportRaised, GambrelPlumb, GambrelSquare, GambrelLevel;
+  MenuItem Help, Helpcontents, HelpGlossary, HelpSearch, HelpTips, HelpAbout;
+  MenuItem PopUp1, PopUp1PrintSetup, PopUp1Print, PopUp1DXFSettings, PopUp1DXF, PopUp1PlumbCut,
+      PopUp1SquareCut, PopUp1LayoutCenter, PopUp1LayoutCorner, PopUp1LayoutCornerFlush, PopUp1JackMeasurement,
+      PopUp1OverhangsEqual;
+  MenuItem PopUp2, PopUp2PrintSetup, PopUp2Print, PopUp2DXFSettings, PopUp2DXF, PopUp2PlumbCut,
+      PopUp2SquareCut, PopUp2LevelCut, PopUp2GambrelRegular, PopUp2GambrelCustom, PopUp2GambrelPurlins,
+      PopUp2GambrelWallSupport, PopUp2GambrelWallSupportRaised;
+  MenuItem Spin, SpinIncrement, SpinCancel;
+  std::array<MenuItem, 4> FileMRU;
+  std::array<MenuItem, 2> DutchLedger, PopUp1Ledger;
+  std::array<MenuItem, 26> Separator;
 
   /// All items, each bar item followed by those of its menu.
   const std::vector<MenuItem*>& Items() const { return items_; }
-  /// The item of that name, written as `mnuMetric` or `mnuDutchLedger(1)`; null when there is none.
+  /// The item of that name, written as `Metric` or `DutchLedger(1)`; null when there is none.
   MenuItem* Find(std::string_view name) const;
   /// The items of the menu under a bar item or of a popup.
   std::vector<MenuItem*> ItemsUnder(const MenuItem& holder) const;

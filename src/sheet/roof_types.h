@@ -25,13 +25,13 @@ inline constexpr int kBastardHip = 12;  ///< only while a project is opened; it 
 inline constexpr int kGambrel = 13;
 }  // namespace roof
 
-/// One roof type. Rows stand in the order of the list cboType.
+/// One roof type. Rows stand in the order of the list RoofList.
 struct RoofTypeRow {
-  std::string_view Item;        ///< in cboType
+  std::string_view Item;        ///< in RoofList
   int Code;                     ///< RoofType
   std::string_view ToolButton;  ///< key of its tool button
   int HelpTopic;
-  std::string_view Pages;  ///< captions of VSTab(0)
+  std::string_view Pages;  ///< captions of Tabs(0)
 };
 
 inline constexpr std::string_view kBastardHipPages = "Design|Common|Hip End Common|Hip Rafter|Layout";
@@ -40,9 +40,9 @@ std::span<const RoofTypeRow> RoofTypes();
 
 /// The row of a code, or null: a bastard hip has none.
 const RoofTypeRow* RoofTypeByCode(int code);
-/// The row of an item of cboType, compared exactly, or null.
+/// The row of an item of RoofList, compared exactly, or null.
 const RoofTypeRow* RoofTypeByItem(std::string_view item);
-/// The position of a code in cboType; the bastard hip stands under "Hip"; -1 when there is none.
+/// The position of a code in RoofList; the bastard hip stands under "Hip"; -1 when there is none.
 int ListIndexOfRoof(int code);
 
 }  // namespace pitchcraft

@@ -126,21 +126,21 @@ bool HasHipOrValleyLumber(int roofType) {
 }
 
 void PutFields(Sheet& sheet, const RowLayout& rows, int roofType) {
-  sheet.LWSlope[2].Visible = sheet.cboDegrees[2].Visible = false;
-  sheet.LWSlope[2].Top = sheet.cboDegrees[2].Top = rows.slope2 == kHidden ? 860 : rows.slope2;
-  Put(sheet.FtSpan[0], rows.span0);
-  Put(sheet.FtSpan[2], rows.span2);
-  Put(sheet.FtRidge[0], rows.ridge0);
-  Put(sheet.FtRidge[1], rows.ridge1);
-  Put(sheet.FtOverhang[0], rows.overhang);
-  Put(sheet.FtHeel[0], rows.heel);
-  Put(sheet.chkHeel[0], rows.heel);
-  Put(sheet.FtSeat[0], rows.seat);
-  Put(sheet.chkSeat[0], rows.seat);
-  Put(sheet.LWFascia[0], rows.fascia);
-  Put(sheet.LWRidge, rows.ridge);
-  Put(sheet.LWRafter[0], rows.rafter);
-  Put(sheet.LWHipVal, HasHipOrValleyLumber(roofType) ? rows.hipVal : kHidden);
+  sheet.Slope[2].Visible = sheet.Degrees[2].Visible = false;
+  sheet.Slope[2].Top = sheet.Degrees[2].Top = rows.slope2 == kHidden ? 860 : rows.slope2;
+  Put(sheet.Span[0], rows.span0);
+  Put(sheet.Span[2], rows.span2);
+  Put(sheet.RidgeLength[0], rows.ridge0);
+  Put(sheet.RidgeLength[1], rows.ridge1);
+  Put(sheet.Overhang[0], rows.overhang);
+  Put(sheet.Heel[0], rows.heel);
+  Put(sheet.HeelLock[0], rows.heel);
+  Put(sheet.Seat[0], rows.seat);
+  Put(sheet.SeatLock[0], rows.seat);
+  Put(sheet.Fascia[0], rows.fascia);
+  Put(sheet.Ridge, rows.ridge);
+  Put(sheet.Common[0], rows.rafter);
+  Put(sheet.HipOrValley, HasHipOrValleyLumber(roofType) ? rows.hipVal : kHidden);
   const std::array<std::pair<std::size_t, int>, 6> spins{
       {{0, rows.spin0}, {1, rows.spin1}, {2, rows.spin2}, {3, rows.spin3}, {4, rows.spin4}, {7, rows.spin7}}};
   for (const auto& [index, top] : spins) Put(sheet.Spin[index], top);
@@ -183,10 +183,10 @@ void PutGambrelLabels(Sheet& sheet, bool hasPurlins) {
 void PutKneewallRows(Sheet& sheet, int roofType) {
   const bool rows[] = {HasKneewall(roofType), roofType == roof::kDualSlope};
   for (std::size_t i = 0; i < 2; ++i) {
-    sheet.FtKneewall[i].Visible = rows[i];
-    sheet.chkKneewall[i].Visible = rows[i];
+    sheet.Kneewall[i].Visible = rows[i];
+    sheet.HasKneewall[i].Visible = rows[i];
     sheet.Label[i].Visible = rows[i];
-    sheet.Label[i].Enabled = sheet.chkKneewall[i].Ticked();
+    sheet.Label[i].Enabled = sheet.HasKneewall[i].Ticked();
   }
   sheet.Label[0].Caption = "Kneewall:";
   sheet.Label[0].Top = 3570;
@@ -223,8 +223,8 @@ void LayOutRows(Sheet& sheet, int roofType, bool gambrelHasPurlins) {
     if (row.roofType == roofType) sheet.Label[row.label].Caption = row.caption;
   }
   const bool hip = roofType == roof::kHip;
-  sheet.FtLastCommon.Visible = hip;
-  sheet.chkLastCommon.Visible = hip;
+  sheet.LastCommon.Visible = hip;
+  sheet.HasLastCommon.Visible = hip;
   sheet.Label[23].Visible = hip;
 }
 

@@ -64,116 +64,116 @@ void Sheet::NameControls() {
   const auto indexed = [this](auto& array, std::size_t index, const char* name) {
     Register(&array[index], std::string(name) + "(" + std::to_string(index) + ")");
   };
-  Register(&cboType, "cboType");
+  Register(&RoofList, "cboType");
   const auto page = [&](std::size_t i) {
-    indexed(LWSlope, i, "LWSlope");
-    indexed(cboDegrees, i, "cboDegrees");
+    indexed(Slope, i, "LWSlope");
+    indexed(Degrees, i, "cboDegrees");
     if (i == 0) {
-      Register(&chkUpperSlope, "chkUpperSlope");
-      indexed(LWSlope, 2, "LWSlope");
-      indexed(cboDegrees, 2, "cboDegrees");
-      Register(&chkLowerSlope, "chkLowerSlope");
+      Register(&UpperSlopeLock, "chkUpperSlope");
+      indexed(Slope, 2, "LWSlope");
+      indexed(Degrees, 2, "cboDegrees");
+      Register(&LowerSlopeLock, "chkLowerSlope");
     }
-    indexed(FtSpan, i, "FtSpan");
+    indexed(Span, i, "FtSpan");
     indexed(Spin, i == 0 ? 0 : 5, "Spin");
     if (i == 0) {
-      indexed(FtSpan, 2, "FtSpan");
+      indexed(Span, 2, "FtSpan");
       indexed(Spin, 2, "Spin");
-      Register(&chkUpperSpan, "chkUpperSpan");
-      indexed(FtRidge, 0, "FtRidge");
+      Register(&UpperSpanLock, "chkUpperSpan");
+      indexed(RidgeLength, 0, "FtRidge");
       indexed(Spin, 3, "Spin");
-      Register(&chkUpperHeight, "chkUpperHeight");
-      indexed(FtRidge, 1, "FtRidge");
+      Register(&UpperHeightLock, "chkUpperHeight");
+      indexed(RidgeLength, 1, "FtRidge");
       indexed(Spin, 4, "Spin");
       indexed(Spin, 7, "Spin");
-      Register(&chkLowerHeight, "chkLowerHeight");
+      Register(&LowerHeightLock, "chkLowerHeight");
     }
-    indexed(FtOverhang, i, "FtOverhang");
+    indexed(Overhang, i, "FtOverhang");
     indexed(Spin, i == 0 ? 1 : 6, "Spin");
-    indexed(FtHeel, i, "FtHeel");
-    indexed(chkHeel, i, "chkHeel");
-    indexed(FtSeat, i, "FtSeat");
-    indexed(chkSeat, i, "chkSeat");
-    indexed(LWFascia, i, "LWFascia");
-    if (i == 0) Register(&LWRidge, "LWRidge");
-    indexed(LWRafter, i, "LWRafter");
-    if (i == 0) Register(&LWHipVal, "LWHipVal");
-    indexed(FtKneewall, i, "FtKneewall");
-    indexed(chkKneewall, i, "chkKneewall");
+    indexed(Heel, i, "FtHeel");
+    indexed(HeelLock, i, "chkHeel");
+    indexed(Seat, i, "FtSeat");
+    indexed(SeatLock, i, "chkSeat");
+    indexed(Fascia, i, "LWFascia");
+    if (i == 0) Register(&Ridge, "LWRidge");
+    indexed(Common, i, "LWRafter");
+    if (i == 0) Register(&HipOrValley, "LWHipVal");
+    indexed(Kneewall, i, "FtKneewall");
+    indexed(HasKneewall, i, "chkKneewall");
     if (i == 0) {
-      Register(&FtLastCommon, "FtLastCommon");
-      Register(&chkLastCommon, "chkLastCommon");
+      Register(&LastCommon, "FtLastCommon");
+      Register(&HasLastCommon, "chkLastCommon");
     }
   };
   page(0);
   page(1);
-  Register(&txtUpperFascia, "txtUpperFascia");
-  Register(&FTUpperFascia, "FTUpperFascia");
-  Register(&txtLedger, "txtLedger");
-  Register(&cboLedger, "cboLedger");
-  Register(&txtSpacing, "txtSpacing");
-  Register(&cboSpacing, "cboSpacing");
-  Register(&Toolbar1, "Toolbar1");
-  Register(&FtProjection, "FtProjection");
-  Register(&FtFace, "FtFace");
-  Register(&FtBack, "FtBack");
-  Register(&FtBayAngle, "FtBayAngle");
-  Register(&Command1, "Command1");
+  Register(&UpperFasciaLabel, "txtUpperFascia");
+  Register(&UpperFascia, "FTUpperFascia");
+  Register(&LedgerLabel, "txtLedger");
+  Register(&Ledger, "cboLedger");
+  Register(&SpacingLabel, "txtSpacing");
+  Register(&Spacing, "cboSpacing");
+  Register(&DimensionStrip, "Toolbar1");
+  Register(&Projection, "FtProjection");
+  Register(&Face, "FtFace");
+  Register(&Back, "FtBack");
+  Register(&BayAngle, "FtBayAngle");
+  Register(&ResetBay, "Command1");
   for (std::size_t i = 0; i < Label.size(); ++i) indexed(Label, i, "Label");
-  indexed(VSElastic, 1, "VSElastic");
-  indexed(VSElastic, 2, "VSElastic");
+  indexed(Frames, 1, "VSElastic");
+  indexed(Frames, 2, "VSElastic");
 }
 
 void Sheet::PlaceControls() {
   const auto rowOf = [this](std::size_t i, Host host) {
-    Place(LWSlope[i], host, kSlopeTop, kFieldLeft, kPairWidth);
-    Place(cboDegrees[i], host, kSlopeTop, kFieldLeft, kFieldWidth);
-    Place(FtSpan[i], host, kSpanTop, kFieldLeft, kFieldWidth);
+    Place(Slope[i], host, kSlopeTop, kFieldLeft, kPairWidth);
+    Place(Degrees[i], host, kSlopeTop, kFieldLeft, kFieldWidth);
+    Place(Span[i], host, kSpanTop, kFieldLeft, kFieldWidth);
     if (i == 2) return;
-    Place(FtOverhang[i], host, kOverhangTop, kFieldLeft, kFieldWidth);
-    Place(FtHeel[i], host, kHeelTop, kFieldLeft, kFieldWidth);
-    Place(chkHeel[i], host, kHeelTop, kLockLeft, kBoxSide);
-    Place(FtSeat[i], host, kSeatTop, kFieldLeft, kFieldWidth);
-    Place(chkSeat[i], host, kSeatTop, kLockLeft, kBoxSide);
-    Place(LWFascia[i], host, kFasciaTop, kFieldLeft, kPairWidth);
-    Place(LWRafter[i], host, kRafterTop, kFieldLeft, kPairWidth);
-    Place(FtKneewall[i], host, kKneewallTop, kFieldLeft, kFieldWidth);
-    Place(chkKneewall[i], host, kKneewallTop, kLockLeft, kBoxSide);
+    Place(Overhang[i], host, kOverhangTop, kFieldLeft, kFieldWidth);
+    Place(Heel[i], host, kHeelTop, kFieldLeft, kFieldWidth);
+    Place(HeelLock[i], host, kHeelTop, kLockLeft, kBoxSide);
+    Place(Seat[i], host, kSeatTop, kFieldLeft, kFieldWidth);
+    Place(SeatLock[i], host, kSeatTop, kLockLeft, kBoxSide);
+    Place(Fascia[i], host, kFasciaTop, kFieldLeft, kPairWidth);
+    Place(Common[i], host, kRafterTop, kFieldLeft, kPairWidth);
+    Place(Kneewall[i], host, kKneewallTop, kFieldLeft, kFieldWidth);
+    Place(HasKneewall[i], host, kKneewallTop, kLockLeft, kBoxSide);
   };
   rowOf(0, Host::kFrontPage);
   rowOf(1, Host::kRearPage);
   rowOf(2, Host::kFrontPage);
-  Place(cboType, Host::kSheet, 60, kFieldLeft, kPairWidth);
-  Place(LWRidge, Host::kFrontPage, kRidgeTop, kFieldLeft, kPairWidth);
-  Place(LWHipVal, Host::kFrontPage, kHipValTop, kFieldLeft, kPairWidth);
-  Place(FtRidge[0], Host::kFrontPage, kHeelTop, kFieldLeft, kFieldWidth);
-  Place(FtRidge[1], Host::kFrontPage, kSeatTop, kFieldLeft, kFieldWidth);
-  Place(FtLastCommon, Host::kFrontPage, kLastCommonTop, kFieldLeft, kFieldWidth);
-  Place(chkLastCommon, Host::kFrontPage, kLastCommonTop, kLockLeft, kBoxSide);
+  Place(RoofList, Host::kSheet, 60, kFieldLeft, kPairWidth);
+  Place(Ridge, Host::kFrontPage, kRidgeTop, kFieldLeft, kPairWidth);
+  Place(HipOrValley, Host::kFrontPage, kHipValTop, kFieldLeft, kPairWidth);
+  Place(RidgeLength[0], Host::kFrontPage, kHeelTop, kFieldLeft, kFieldWidth);
+  Place(RidgeLength[1], Host::kFrontPage, kSeatTop, kFieldLeft, kFieldWidth);
+  Place(LastCommon, Host::kFrontPage, kLastCommonTop, kFieldLeft, kFieldWidth);
+  Place(HasLastCommon, Host::kFrontPage, kLastCommonTop, kLockLeft, kBoxSide);
   for (SpinControl& spin : Spin) Place(spin, Host::kFrontPage, kSpanTop, kSpinLeft, kSpinWidth);
   Place(Spin[1], Host::kFrontPage, kOverhangTop, kSpinLeft, kSpinWidth);
   Place(Spin[5], Host::kRearPage, kSpanTop, kSpinLeft, kSpinWidth);
   Place(Spin[6], Host::kRearPage, kOverhangTop, kSpinLeft, kSpinWidth);
   // The lock boxes of a gambrel, each in the row of what it locks.
-  Place(chkUpperSlope, Host::kFrontPage, kSlopeTop, kPairLockLeft, kBoxSide);
-  Place(chkLowerSlope, Host::kFrontPage, 860, kPairLockLeft, kBoxSide);
-  Place(chkUpperSpan, Host::kFrontPage, 1200, kPairLockLeft, kBoxSide);
-  Place(chkUpperHeight, Host::kFrontPage, 1920, kPairLockLeft, kBoxSide);
-  Place(chkLowerHeight, Host::kFrontPage, 2280, kPairLockLeft, kBoxSide);
+  Place(UpperSlopeLock, Host::kFrontPage, kSlopeTop, kPairLockLeft, kBoxSide);
+  Place(LowerSlopeLock, Host::kFrontPage, 860, kPairLockLeft, kBoxSide);
+  Place(UpperSpanLock, Host::kFrontPage, 1200, kPairLockLeft, kBoxSide);
+  Place(UpperHeightLock, Host::kFrontPage, 1920, kPairLockLeft, kBoxSide);
+  Place(LowerHeightLock, Host::kFrontPage, 2280, kPairLockLeft, kBoxSide);
 
   const auto strip = [](auto& control, Host host, int width) { Place(control, host, 60, 0, width); };
-  strip(txtUpperFascia, Host::kTabStrip, 1200);
-  strip(FTUpperFascia, Host::kTabStrip, 1200);
-  strip(txtLedger, Host::kTabStrip, 900);
-  strip(cboLedger, Host::kTabStrip, 1600);
-  strip(txtSpacing, Host::kTabStrip, 1150);
-  strip(cboSpacing, Host::kTabStrip, 1100);
-  Place(Toolbar1, Host::kNone, 420, 0, 0);
-  strip(FtProjection, Host::kBayStrip, 1200);
-  strip(FtFace, Host::kBayStrip, 1200);
-  strip(FtBack, Host::kBayStrip, 1200);
-  strip(FtBayAngle, Host::kBayStrip, 900);
-  strip(Command1, Host::kBayStrip, 800);
+  strip(UpperFasciaLabel, Host::kTabStrip, 1200);
+  strip(UpperFascia, Host::kTabStrip, 1200);
+  strip(LedgerLabel, Host::kTabStrip, 900);
+  strip(Ledger, Host::kTabStrip, 1600);
+  strip(SpacingLabel, Host::kTabStrip, 1150);
+  strip(Spacing, Host::kTabStrip, 1100);
+  Place(DimensionStrip, Host::kNone, 420, 0, 0);
+  strip(Projection, Host::kBayStrip, 1200);
+  strip(Face, Host::kBayStrip, 1200);
+  strip(Back, Host::kBayStrip, 1200);
+  strip(BayAngle, Host::kBayStrip, 900);
+  strip(ResetBay, Host::kBayStrip, 800);
 
   for (LabelControl& label : Label) Place(label, Host::kFrontPage, 0, kLabelLeft, kLabelWidth);
   struct RearLabel {
@@ -192,45 +192,45 @@ void Sheet::PlaceControls() {
   Label[10].Top = kSlopeTop + kLabelDrop;
   Place(Label[19], Host::kSheet, 60 + kLabelDrop, kLabelLeft, kLabelWidth);
   Label[23].Top = kLastCommonTop + kLabelDrop;
-  Place(VSElastic[1], Host::kNone, 420, 0, 0);
-  Place(VSElastic[2], Host::kNone, 0, 0, 0);
-  for (ContainerControl* box : {&Toolbar1, &VSElastic[1], &VSElastic[2]}) box->Height = 0;
-  Toolbar1.Visible = false;
+  Place(Frames[1], Host::kNone, 420, 0, 0);
+  Place(Frames[2], Host::kNone, 0, 0, 0);
+  for (ContainerControl* box : {&DimensionStrip, &Frames[1], &Frames[2]}) box->Height = 0;
+  DimensionStrip.Visible = false;
 }
 
 void Sheet::FillConstants() {
   Label[15].Caption = "Fascia:";
   Label[19].Caption = "Roof:";
   Label[23].Caption = "Last Common:";
-  txtUpperFascia.Caption = "Upper Fascia:";
-  txtSpacing.Caption = "O.C. Spacing:";
-  txtLedger.Caption = "Dutch Hip:";
-  Command1.Caption = "&Reset";
-  VSTab[1].SetCaption("Front Roof|Rear Roof");
-  VSTab[1].OnePageOnly = true;
+  UpperFasciaLabel.Caption = "Upper Fascia:";
+  SpacingLabel.Caption = "O.C. Spacing:";
+  LedgerLabel.Caption = "Dutch Hip:";
+  ResetBay.Caption = "&Reset";
+  Tabs[1].SetCaption("Front Roof|Rear Roof");
+  Tabs[1].OnePageOnly = true;
 
-  cboType.DropDownList = true;
-  cboType.ToolTip = "Select a rafter or roof type";
-  cboLedger.DropDownList = true;
-  cboLedger.SetList({"Use Ledger", "Don't use Ledger"});
-  FTUpperFascia.ToolTip = "Enter the upper fascia height or select from the dropdown list.";
-  cboSpacing.ToolTip = "Enter the rafter spacing or select a value from the drop down list.";
-  for (CheckControl& box : chkHeel) box.ToolTip = "Lock or unlock the heel height dimension";
-  for (CheckControl& box : chkSeat) box.ToolTip = "Lock or unlock the seat cut dimension";
-  for (FtInText& field : FtKneewall) {
+  RoofList.DropDownList = true;
+  RoofList.ToolTip = "Select a rafter or roof type";
+  Ledger.DropDownList = true;
+  Ledger.SetList({"Use Ledger", "Don't use Ledger"});
+  UpperFascia.ToolTip = "Enter the upper fascia height or select from the dropdown list.";
+  Spacing.ToolTip = "Enter the rafter spacing or select a value from the drop down list.";
+  for (CheckControl& box : HeelLock) box.ToolTip = "Lock or unlock the heel height dimension";
+  for (CheckControl& box : SeatLock) box.ToolTip = "Lock or unlock the seat cut dimension";
+  for (MeasureControl& field : Kneewall) {
     field.ToolTip = "Enter the distance from the outside wall to the face of the knewall.";
   }
-  for (CheckControl& box : chkKneewall) box.ToolTip = "Check here to include kneewall calculations.";
-  FtLastCommon.ToolTip =
+  for (CheckControl& box : HasKneewall) box.ToolTip = "Check here to include kneewall calculations.";
+  LastCommon.ToolTip =
       "Enter the distance from the corner to the center of the last main roof common rafter.";
-  chkLastCommon.ToolTip =
+  HasLastCommon.ToolTip =
       "Check here to layout the main roof jack rafters from the center of the last common rafter.";
   for (SpinControl& spin : Spin) spin.ToolTip = "Right click on the field to change the increment";
-  for (LabelControl* box : {&txtUpperFascia, &txtSpacing, &txtLedger}) box->Visible = false;
-  for (ComboControl* box : {&FTUpperFascia, &cboSpacing, &cboLedger}) box->Visible = false;
+  for (LabelControl* box : {&UpperFasciaLabel, &SpacingLabel, &LedgerLabel}) box->Visible = false;
+  for (ComboControl* box : {&UpperFascia, &Spacing, &Ledger}) box->Visible = false;
   // A slope is a plain number in both boxes, never a length; so is an angle.
-  for (LWCombo& slope : LWSlope) slope.Format.Units = kPlainNumber;
-  FtBayAngle.Format.Units = kPlainNumber;
+  for (PairControl& slope : Slope) slope.Format.Units = kPlainNumber;
+  BayAngle.Format.Units = kPlainNumber;
 }
 
 const AnyControl* Sheet::Find(std::string_view name) const {
@@ -243,13 +243,13 @@ std::string Sheet::AccessibleNameOf(const Control& control) const {
     if (!caption.empty() && caption.back() == ':') caption.pop_back();
     return caption;
   };
-  if (&control == &FtProjection) return "Projection";
-  if (&control == &FtFace) return "Face";
-  if (&control == &FtBack) return "Back";
-  if (&control == &FtBayAngle) return "Angle";
-  if (&control == &cboSpacing) return withoutColon(txtSpacing.Caption);
-  if (&control == &cboLedger) return withoutColon(txtLedger.Caption);
-  if (&control == &FTUpperFascia) return withoutColon(txtUpperFascia.Caption);
+  if (&control == &Projection) return "Projection";
+  if (&control == &Face) return "Face";
+  if (&control == &Back) return "Back";
+  if (&control == &BayAngle) return "Angle";
+  if (&control == &Spacing) return withoutColon(SpacingLabel.Caption);
+  if (&control == &Ledger) return withoutColon(LedgerLabel.Caption);
+  if (&control == &UpperFascia) return withoutColon(UpperFasciaLabel.Caption);
   for (const LabelControl& label : Label) {
     const bool beside =
         label.Host == control.Host && std::abs(label.Top - kLabelDrop - control.Top) <= kLabelDrop;

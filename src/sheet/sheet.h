@@ -8,16 +8,16 @@
 #include <variant>
 #include <vector>
 
-#include "sheet/combo.h"
+#include "sheet/combo_control.h"
 #include "sheet/control.h"
-#include "sheet/ft_in_text.h"
-#include "sheet/lw_combo.h"
+#include "sheet/measure_control.h"
+#include "sheet/pair_control.h"
 #include "sheet/tabs.h"
 
 namespace pitchcraft {
 
 /// A control of the sheet whatever its kind.
-using AnyControl = std::variant<FtInText*, LWCombo*, ComboControl*, CheckControl*, LabelControl*,
+using AnyControl = std::variant<MeasureControl*, PairControl*, ComboControl*, CheckControl*, LabelControl*,
                                 ButtonControl*, SpinControl*, ContainerControl*>;
 
 /// The common part of any control.
@@ -31,54 +31,54 @@ class Sheet {
   Sheet(const Sheet&) = delete;
   Sheet& operator=(const Sheet&) = delete;
 
-  ComboControl cboType;
-  std::array<LWCombo, 3> LWSlope;
-  std::array<ComboControl, 3> cboDegrees;  ///< the same slopes as degrees; only one of the two shows in a row
-  std::array<FtInText, 3> FtSpan;
-  std::array<FtInText, 2> FtOverhang;
-  std::array<FtInText, 2> FtHeel;
-  std::array<CheckControl, 2> chkHeel;
-  std::array<FtInText, 2> FtSeat;
-  std::array<CheckControl, 2> chkSeat;
-  std::array<FtInText, 2> FtRidge;  ///< ridge lengths of a blind valley, heights of a gambrel
-  std::array<FtInText, 2> FtKneewall;
-  std::array<CheckControl, 2> chkKneewall;
-  FtInText FtLastCommon;
-  CheckControl chkLastCommon;
-  std::array<LWCombo, 2> LWFascia;
-  LWCombo LWRidge;
-  std::array<LWCombo, 2> LWRafter;
-  LWCombo LWHipVal;
+  ComboControl RoofList;
+  std::array<PairControl, 3> Slope;
+  std::array<ComboControl, 3> Degrees;  ///< the same slopes as degrees; only one of the two shows in a row
+  std::array<MeasureControl, 3> Span;
+  std::array<MeasureControl, 2> Overhang;
+  std::array<MeasureControl, 2> Heel;
+  std::array<CheckControl, 2> HeelLock;
+  std::array<MeasureControl, 2> Seat;
+  std::array<CheckControl, 2> SeatLock;
+  std::array<MeasureControl, 2> RidgeLength;  ///< ridge lengths of a blind valley, heights of a gambrel
+  std::array<MeasureControl, 2> Kneewall;
+  std::array<CheckControl, 2> HasKneewall;
+  MeasureControl LastCommon;
+  CheckControl HasLastCommon;
+  std::array<PairControl, 2> Fascia;
+  PairControl Ridge;
+  std::array<PairControl, 2> Common;
+  PairControl HipOrValley;
   std::array<SpinControl, 8> Spin;
-  ComboControl FTUpperFascia;
-  LabelControl txtUpperFascia;
-  ComboControl cboSpacing;
-  LabelControl txtSpacing;
-  ComboControl cboLedger;
-  LabelControl txtLedger;
+  ComboControl UpperFascia;
+  LabelControl UpperFasciaLabel;
+  ComboControl Spacing;
+  LabelControl SpacingLabel;
+  ComboControl Ledger;
+  LabelControl LedgerLabel;
   std::array<LabelControl, 24> Label;
-  CheckControl chkUpperSlope, chkLowerSlope, chkUpperSpan, chkUpperHeight, chkLowerHeight;
-  ContainerControl Toolbar1;  ///< the strip with the four dimensions of a bay
-  FtInText FtProjection, FtFace, FtBack, FtBayAngle;
-  ButtonControl Command1;
-  std::array<ContainerControl, 3> VSElastic;  ///< 1 lies under the two tool strips, 2 bounds Picture3
-  std::array<IndexTab, 2> VSTab;              ///< 0: the pages of the roof type; 1: front and rear roof
+  CheckControl UpperSlopeLock, LowerSlopeLock, UpperSpanLock, UpperHeightLock, LowerHeightLock;
+  ContainerControl DimensionStrip;  ///< the strip with the four dimensions of a bay
+  MeasureControl Projection, Face, Back, BayAngle;
+  ButtonControl ResetBay;
+  std::array<ContainerControl, 3> Frames;  ///< 1 lies under the two tool strips, 2 bounds Picture3
+  std::array<IndexTab, 2> Tabs;            ///< 0: the pages of the roof type; 1: front and rear roof
 
   /// Every control in the order of the eye: down the front page, down the rear page, then the strips. It is
   /// the order of Tab, too.
   const std::vector<AnyControl>& Controls() const { return controls_; }
-  /// The control of that name, written as `FtSpan(0)` or `LWRidge`; null when there is none.
+  /// The control of that name, written as `Span(0)` or `Ridge`; null when there is none.
   const AnyControl* Find(std::string_view name) const;
   /// The caption of the label that stands beside a field, without its colon; its tool tip where there is no
   /// label.
   std::string AccessibleNameOf(const Control& control) const;
 
-  /// Runs `action` on every FtInText of the sheet, then on every LWCombo.
+  /// Runs `action` on every MeasureControl of the sheet, then on every PairControl.
   template <typename Action>
   void ForEachMeasure(Action action) {
     for (const AnyControl& any : controls_) {
-      if (auto* const* field = std::get_if<FtInText*>(&any)) action(**field);
-      if (auto* const* pair = std::get_if<LWCombo*>(&any)) action(**pair);
+      if (auto* const* field = std::get_if<MeasureControl*>(&any)) action(**field);
+      if (auto* const* pair = std::get_if<PairControl*>(&any)) action(**pair);
     }
   }
 

@@ -11,7 +11,7 @@ struct ToolButton {
   std::string_view Key;
   std::string_view ToolTip;
   bool StartsGroup = false;  ///< a gap stands before it
-  int RoofListIndex = -1;    ///< position in cboType of the roof that it picks; -1 for the other buttons
+  int RoofListIndex = -1;    ///< position in RoofList of the roof that it picks; -1 for the other buttons
   bool Visible = true;
   bool Pressed = false;
 };

@@ -18,7 +18,7 @@ ChoiceField::ChoiceField(Session& session, ComboControl& combo, QWidget* host)
 
 void ChoiceField::ShowState() {
   const QSignalBlocker quiet(this);
-  const frmDocument& document = TheSession().Document();
+  const Document& document = TheSession().Document();
   const bool isField = combo_.Host != Host::kTabStrip;
   const std::uint32_t fore = isField ? document.CtlForeColor : kSystemWindowTextColor;
   const std::uint32_t back = isField ? document.CtlBackColor : kSystemWindowColor;

@@ -38,8 +38,10 @@ struct Maker {
   QWidget* host;
 
   using View = std::unique_ptr<ControlView>;
-  View operator()(FtInText* field) const { return std::make_unique<MeasureField>(session, *field, host); }
-  View operator()(LWCombo* pair) const { return std::make_unique<PairField>(session, *pair, host); }
+  View operator()(MeasureControl* field) const {
+    return std::make_unique<MeasureField>(session, *field, host);
+  }
+  View operator()(PairControl* pair) const { return std::make_unique<PairField>(session, *pair, host); }
   View operator()(ComboControl* combo) const {
     if (combo->DropDownList) return std::make_unique<ChoiceField>(session, *combo, host);
     return std::make_unique<ComboField>(session, *combo, host);

@@ -128,7 +128,7 @@ void ListField::FitTo(const QRect& place) {
 // --- Two values
 // -----------------------------------------------------------------------------------------------------
 
-PairField::PairField(Session& session, LWCombo& pair, QWidget* host)
+PairField::PairField(Session& session, PairControl& pair, QWidget* host)
     : ListField(session, pair, host, 2), pair_(pair), isSlope_(pair.Name.starts_with("LWSlope")) {}
 
 void PairField::ShowState() {
@@ -155,7 +155,7 @@ std::string PairField::Entry() const {
 
 QStringList PairField::Rows() const {
   QStringList rows;
-  for (const LWRow& row : pair_.List()) rows << QString::fromStdString(row.Caption);
+  for (const PairRow& row : pair_.List()) rows << QString::fromStdString(row.Caption);
   return rows;
 }
 
@@ -166,7 +166,7 @@ ComboField::ComboField(Session& session, ComboControl& combo, QWidget* host)
     : ListField(session, combo, host, 1), combo_(combo) {}
 
 void ComboField::ShowState() {
-  const frmDocument& document = TheSession().Document();
+  const Document& document = TheSession().Document();
   const bool isField = combo_.Host != Host::kTabStrip;
   Color(isField ? document.CtlForeColor : kSystemWindowTextColor,
         isField ? document.CtlBackColor : kSystemWindowColor);

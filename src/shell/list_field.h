@@ -3,8 +3,8 @@
 
 #include <QPointer>
 
-#include "sheet/combo.h"
-#include "sheet/lw_combo.h"
+#include "sheet/combo_control.h"
+#include "sheet/pair_control.h"
 #include "shell/control_view.h"
 #include "shell/entry_box.h"
 #include "shell/field_look.h"
@@ -66,7 +66,7 @@ class PairField : public ListField {
   Q_OBJECT
 
  public:
-  PairField(Session& session, LWCombo& pair, QWidget* host);
+  PairField(Session& session, PairControl& pair, QWidget* host);
 
  private:
   void ShowState() override;
@@ -78,8 +78,8 @@ class PairField : public ListField {
   void Restore() override { pair_ = before_; }
   bool TabEnters() const override { return isSlope_; }
 
-  LWCombo& pair_;
-  LWCombo before_;
+  PairControl& pair_;
+  PairControl before_;
   bool isSlope_;
 };
 

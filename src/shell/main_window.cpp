@@ -114,7 +114,7 @@ void MainWindow::ChainTabOrder() {
 }
 
 void MainWindow::Open() {
-  frmDocument& document = Document();
+  pitchcraft::Document& document = Document();
   QPoint place(ToPixels(document.Window.Left), ToPixels(document.Window.Top));
   // The screen of the last time may be gone.
   if (QGuiApplication::screenAt(place + QPoint(ToPixels(kReach), ToPixels(kReach))) == nullptr) {
@@ -213,7 +213,7 @@ void MainWindow::PlaceParts() {
     if (shown) part.setGeometry(ToRect(area));
     if (part.isHidden() == shown) part.setVisible(shown);
   };
-  const bool design = Document().sheet.VSTab[0].Page == 0;
+  const bool design = Document().sheet.Tabs[0].Page == 0;
   put(*menus_, layout.menuBar, true);
   menus_->move(0, std::max(0, (ToPixels(layout.menuBar.Height) - menus_->sizeHint().height()) / 2));
   put(*tools_, layout.toolBar, layout.toolBar.Height > 0);

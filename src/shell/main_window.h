@@ -21,7 +21,7 @@ class MainWindow : public QWidget {
  public:
   explicit MainWindow(const Surroundings& surroundings);
 
-  frmDocument& Document() { return session_.Document(); }
+  pitchcraft::Document& Document() { return session_.Document(); }
   /// Shows the window where and how it stood when it was last closed.
   void Open();
   /// Opens a project that came from outside: the command line, or dropped on the window.

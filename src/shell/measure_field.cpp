@@ -14,7 +14,7 @@ bool HasIncrement(const std::string& name) {
 
 }  // namespace
 
-MeasureField::MeasureField(Session& session, FtInText& field, QWidget* host)
+MeasureField::MeasureField(Session& session, MeasureControl& field, QWidget* host)
     : EntryBox(host), ControlView(session, field), field_(field) {
   connect(this, &EntryBox::Edited, this, [this] {
     if (!editing_) before_ = field_;
@@ -34,7 +34,7 @@ MeasureField::MeasureField(Session& session, FtInText& field, QWidget* host)
     EndEntry();
     // The entry is taken back, and then the number itself: its text is rounded.
     TheSession().Do([this](Actions& actions) {
-      const FtInText before = before_;
+      const MeasureControl before = before_;
       actions.Edit(Name(), before.Text());
       field_ = before;
     });
@@ -72,7 +72,7 @@ void MeasureField::FitTo(const QRect& place) {
 
 void MeasureField::contextMenuEvent(QContextMenuEvent* event) {
   if (!HasIncrement(Name())) return EntryBox::contextMenuEvent(event);
-  ShowPopup(TheSession(), TheSession().Document().menus.mnuSpin, event->globalPos());
+  ShowPopup(TheSession(), TheSession().Document().menus.Spin, event->globalPos());
 }
 
 }  // namespace pitchcraft

@@ -1,7 +1,7 @@
 // The measurement field as a text box.
 #pragma once
 
-#include "sheet/ft_in_text.h"
+#include "sheet/measure_control.h"
 #include "shell/control_view.h"
 #include "shell/entry_box.h"
 #include "shell/field_look.h"
@@ -12,7 +12,7 @@ class MeasureField : public EntryBox, public ControlView {
   Q_OBJECT
 
  public:
-  MeasureField(Session& session, FtInText& field, QWidget* host);
+  MeasureField(Session& session, MeasureControl& field, QWidget* host);
 
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {this}; }
@@ -26,8 +26,8 @@ class MeasureField : public EntryBox, public ControlView {
   void EndEntry();
   void Step(bool up);
 
-  FtInText& field_;
-  FtInText before_;  ///< as it was before the present entry, for Escape
+  MeasureControl& field_;
+  MeasureControl before_;  ///< as it was before the present entry, for Escape
   bool editing_ = false;
   FieldColors colors_;
 };

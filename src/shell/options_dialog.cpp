@@ -105,7 +105,7 @@ QWidget* OptionsDialog::MakeColorPage() {
   auto* column = new QVBoxLayout;
   column->addWidget(colors_);
   column->addWidget(MakeBox("chkSystemColors", "&Use System Colors",
-                            "Check here to use default Windows colors", form_.chkSystemColors));
+                            "Check here to use default Windows colors", form_.SystemColors));
   column->addStretch();
   auto* row = new QHBoxLayout(page);
   row->addLayout(column);
@@ -132,10 +132,10 @@ QWidget* OptionsDialog::MakePrintPage() {
   column->addWidget(MakeLabel("Label2", "Printer Line Weight", page));
   column->addLayout(weight);
   column->addWidget(MakeBox("chkPrintAllBlack", "&Print All As Black",
-                            "Check here to print all drawings in black on white", form_.chkPrintAllBlack));
+                            "Check here to print all drawings in black on white", form_.PrintAllBlack));
   column->addWidget(MakeBox("chkRotateFonts", "&Rotate TrueType Fonts",
                             "Check this box only if dimension text is printing incorrectly.",
-                            form_.chkRotateFonts));
+                            form_.RotateFonts));
   column->addStretch();
   return page;
 }
@@ -216,13 +216,13 @@ void OptionsDialog::ShowColors() {
 }
 
 void OptionsDialog::ShowTextsize() {
-  textsize_->setText(QString::fromStdString(form_.ftDXFTextsize.Text()));
+  textsize_->setText(QString::fromStdString(form_.DxfTextSize.Text()));
   textsize_->setModified(false);
 }
 
 // What was not typed over keeps the number behind its rounded text.
 void OptionsDialog::TakeTextsize() {
-  if (textsize_->isModified()) form_.ftDXFTextsize.SetText(textsize_->text().toStdString());
+  if (textsize_->isModified()) form_.DxfTextSize.SetText(textsize_->text().toStdString());
   ShowTextsize();
 }
 

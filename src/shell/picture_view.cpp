@@ -32,7 +32,7 @@ PictureView::PictureView(Session& session, int picture, QWidget* window)
 }
 
 void PictureView::Sync() {
-  const frmDocument& document = session_.Document();
+  const Document& document = session_.Document();
   const Subject now{document.RoofType, document.CurrentTab, HasDrawing()};
   if (now != subject_) {
     subject_ = now;
@@ -42,8 +42,8 @@ void PictureView::Sync() {
 }
 
 bool PictureView::HasDrawing() const {
-  const frmDocument& document = session_.Document();
-  return document.DrawingExists && document.board.MetaCanvas.IsClosed();
+  const Document& document = session_.Document();
+  return document.DrawingExists && document.board.Recorder.IsClosed();
 }
 
 // --- Painting
@@ -69,7 +69,7 @@ void PictureView::focusInEvent(QFocusEvent* event) {
 }
 
 void PictureView::PaintDrawing(QPainter& painter) {
-  const frmDocument& document = session_.Document();
+  const Document& document = session_.Document();
   if (!document.DrawingExists) {
     QColor dim = ColorOf(document.LineColor, palette());
     dim.setAlpha(130);
@@ -77,7 +77,7 @@ void PictureView::PaintDrawing(QPainter& painter) {
     painter.drawText(rect(), Qt::AlignCenter, tr("This drawing is not available yet."));
     return;
   }
-  if (!document.board.MetaCanvas.IsClosed()) return;
+  if (!document.board.Recorder.IsClosed()) return;
   Picture picture = ShownPicture(document);
   picture.Size = {static_cast<double>(width()) * kTwipsPerPixel,
                   static_cast<double>(height()) * kTwipsPerPixel, false};

@@ -18,8 +18,8 @@ constexpr Shortcut kShortcuts[] = {
 /// An option shows whether it is on; a command does not.
 bool IsOption(const Menus& menus, const MenuItem& item) {
   const MenuItem* holder = menus.HolderOf(item);
-  if (holder == nullptr || &item == &menus.mnuViewOptions) return false;
-  if (holder == &menus.mnuFile || holder == &menus.mnuHelp || holder == &menus.mnuSpin) return false;
+  if (holder == nullptr || &item == &menus.ViewOptions) return false;
+  if (holder == &menus.File || holder == &menus.Help || holder == &menus.Spin) return false;
   return item.Name.find("Print") == std::string::npos && item.Name.find("DXF") == std::string::npos;
 }
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 
@@ -16,7 +16,7 @@ class Session : public QObject {
  public:
   explicit Session(const Surroundings& surroundings) : document_(surroundings), actions_(document_) {}
 
-  frmDocument& Document() { return document_; }
+  pitchcraft::Document& Document() { return document_; }
 
   /// Runs `action` with the actions of the document; the widgets take the new state after it. While an action
   /// waits for its message to be read, no other one can begin: false then.
@@ -41,7 +41,7 @@ class Session : public QObject {
   void StatusChanged();
 
  private:
-  frmDocument document_;
+  pitchcraft::Document document_;
   Actions actions_;
   bool acting_ = false;
 };

@@ -31,7 +31,7 @@ SheetPanel::SheetPanel(Session& session, QWidget* window)
 }
 
 bool SheetPanel::IsShown(const Control& control) const {
-  const IndexTab& roofs = session_.Document().sheet.VSTab[1];
+  const IndexTab& roofs = session_.Document().sheet.Tabs[1];
   const int roof = roofs.OnePageOnly ? 0 : roofs.Page;
   if (control.Host == Host::kFrontPage && roof != 0) return false;
   if (control.Host == Host::kRearPage && roof != 1) return false;

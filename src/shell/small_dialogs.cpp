@@ -65,7 +65,7 @@ IncrementDialog::IncrementDialog(IncrementForm& form, QWidget* parent) : QDialog
   SetUp(*this, IncrementForm::kName, IncrementForm::kTitle);
   auto* label = new QLabel(IncrementForm::kLabel1, this);
   label->setObjectName("Label1");
-  auto* field = new QLineEdit(QString::fromStdString(form.FtIncrement.Text()), this);
+  auto* field = new QLineEdit(QString::fromStdString(form.Increment.Text()), this);
   field->setObjectName("FtIncrement");
   field->setAccessibleName(IncrementForm::kLabel1);
   field->selectAll();
@@ -75,7 +75,7 @@ IncrementDialog::IncrementDialog(IncrementForm& form, QWidget* parent) : QDialog
   QPushButton* cancel = MakeButton("Command1(1)", "Cancel", this);
   connect(ok, &QPushButton::clicked, this, [this, &form, field] {
     // What was not typed over keeps the number behind its rounded text.
-    if (field->isModified()) form.FtIncrement.SetText(field->text().toStdString());
+    if (field->isModified()) form.Increment.SetText(field->text().toStdString());
     form.Accepted = true;
     accept();
   });
@@ -107,7 +107,7 @@ AboutDialog::AboutDialog(const AboutForm& form, QWidget* parent) : QDialog(paren
   head->addWidget(MakeLogo(this));
   auto* names = new QVBoxLayout;
   names->addWidget(MakeHeading("lblTitle", "Pitchcraft", this));
-  names->addWidget(MakeText("lblVersion", form.lblVersion, this));
+  names->addWidget(MakeText("lblVersion", form.Version, this));
   head->addLayout(names, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(more);
@@ -115,8 +115,8 @@ AboutDialog::AboutDialog(const AboutForm& form, QWidget* parent) : QDialog(paren
   buttons->addWidget(ok);
   auto* column = new QVBoxLayout(this);
   column->addLayout(head);
-  column->addWidget(MakeText("lblDescription", form.lblDescription, this));
-  column->addWidget(MakeText("lblDisclaimer", form.lblDisclaimer, this));
+  column->addWidget(MakeText("lblDescription", form.Description, this));
+  column->addWidget(MakeText("lblDisclaimer", form.Disclaimer, this));
   column->addWidget(info);
   column->addLayout(buttons);
   ok->setFocus();
@@ -146,7 +146,7 @@ DisclaimerDialog::DisclaimerDialog(DisclaimerForm& form, QWidget* parent) : QDia
 
 TipDialog::TipDialog(TipForm& form, QWidget* parent) : QDialog(parent) {
   SetUp(*this, TipForm::kName, TipForm::kTitle);
-  QLabel* text = MakeText("lblTipText", form.lblTipText(), this);
+  QLabel* text = MakeText("lblTipText", form.TipText(), this);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   text->setMinimumHeight(6 * text->fontMetrics().lineSpacing());
   auto* box = new QCheckBox(TipForm::kBox, this);
@@ -155,8 +155,8 @@ TipDialog::TipDialog(TipForm& form, QWidget* parent) : QDialog(parent) {
   connect(box, &QCheckBox::clicked, this, [&form](bool ticked) { form.Click(ticked); });
   QPushButton* next = MakeButton("cmdNextTip", "&Next Tip", this);
   connect(next, &QPushButton::clicked, this, [&form, text] {
-    form.cmdNextTip_Click();
-    text->setText(QString::fromStdString(form.lblTipText()));
+    form.NextTip();
+    text->setText(QString::fromStdString(form.TipText()));
   });
   QPushButton* ok = MakeButton("cmdOK", "OK", this);
   ok->setDefault(true);

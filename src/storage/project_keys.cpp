@@ -19,22 +19,22 @@ struct Place {
   void (*putBack)(const Parts&, const std::string&);
 };
 
-template <Single CRafter::*Member>
+template <Single Rafter::*Member>
 constexpr Place Front() {
   return {[](const Parts& p) { return PlainText(p.Rafter1.*Member); },
           [](const Parts& p, const std::string& text) { p.Rafter1.*Member = LeadingNumber(text); }};
 }
 
-template <Single CRafter::*Member>
+template <Single Rafter::*Member>
 constexpr Place Rear() {
   return {[](const Parts& p) { return PlainText(p.Rafter2.*Member); },
           [](const Parts& p, const std::string& text) { p.Rafter2.*Member = LeadingNumber(text); }};
 }
 
 /// A bay is carried by the first rafter, the bay of a Dutch hip by the second.
-CRafter& BayRafter(const Parts& p) { return p.RoofType == roof::kDutchHip ? p.Rafter2 : p.Rafter1; }
+Rafter& BayRafter(const Parts& p) { return p.RoofType == roof::kDutchHip ? p.Rafter2 : p.Rafter1; }
 
-template <Single CRafter::*Member, FtInText Sheet::*Field>
+template <Single Rafter::*Member, MeasureControl Sheet::*Field>
 constexpr Place Bay() {
   return {[](const Parts& p) { return PlainText(BayRafter(p).*Member); },
           [](const Parts& p, const std::string& text) {
@@ -57,8 +57,8 @@ constexpr Place TextOf() {  // of a control in an array
 
 template <std::size_t Index>
 constexpr Place SlopeText() {
-  return {[](const Parts& p) { return p.sheet.LWSlope[Index].LeftText(); },
-          [](const Parts& p, const std::string& text) { p.sheet.LWSlope[Index].SetLeftText(text); }};
+  return {[](const Parts& p) { return p.sheet.Slope[Index].LeftText(); },
+          [](const Parts& p, const std::string& text) { p.sheet.Slope[Index].SetLeftText(text); }};
 }
 
 template <auto Boxes, std::size_t Index>
@@ -78,8 +78,8 @@ constexpr Place Check() {
 /// gives it.
 template <std::size_t Index>
 constexpr Place DegreesBox() {
-  return {TextOf<&Sheet::cboDegrees, Index>().write, [](const Parts& p, const std::string& text) {
-            p.sheet.cboDegrees[Index].SetText(Trimmed(text));
+  return {TextOf<&Sheet::Degrees, Index>().write, [](const Parts& p, const std::string& text) {
+            p.sheet.Degrees[Index].SetText(Trimmed(text));
             if (Index == 0 && p.RoofType != roof::kGambrel) p.Rafter1.degrees = LeadingNumber(text);
             if (Index == 1 && p.RoofType == roof::kDualSlope) p.Rafter2.degrees = LeadingNumber(text);
           }};
@@ -87,60 +87,58 @@ constexpr Place DegreesBox() {
 
 /// The solver of a gambrel takes the overhang from its field.
 constexpr Place MainOverhang() {
-  return {Front<&CRafter::Overhang>().write, [](const Parts& p, const std::string& text) {
+  return {Front<&Rafter::Overhang>().write, [](const Parts& p, const std::string& text) {
             p.Rafter1.Overhang = LeadingNumber(text);
-            if (p.RoofType == roof::kGambrel) p.sheet.FtOverhang[0].SetValue(p.Rafter1.Overhang);
+            if (p.RoofType == roof::kGambrel) p.sheet.Overhang[0].SetValue(p.Rafter1.Overhang);
           }};
 }
 
 constexpr Place HipEnd() {
-  return {Front<&CRafter::HipEndSlope>().write, [](const Parts& p, const std::string& text) {
+  return {Front<&Rafter::HipEndSlope>().write, [](const Parts& p, const std::string& text) {
             p.Rafter1.HipEndSlope = LeadingNumber(text);
-            p.Rafter1.HipEndDegrees = LeadingNumber(p.sheet.cboDegrees[2].Text());
+            p.Rafter1.HipEndDegrees = LeadingNumber(p.sheet.Degrees[2].Text());
           }};
 }
 
 constexpr Place RearSpan() {
-  return {Rear<&CRafter::Span>().write, [](const Parts& p, const std::string& text) {
+  return {Rear<&Rafter::Span>().write, [](const Parts& p, const std::string& text) {
             p.Rafter2.Span = LeadingNumber(text);
-            p.sheet.FtSpan[2].SetValue(p.Rafter2.Span);
+            p.sheet.Span[2].SetValue(p.Rafter2.Span);
           }};
 }
 
 /// The projection of a Dutch hip is also the run of its common.
 constexpr Place ProjectionPlace() {
-  constexpr Place kPlace = Bay<&CRafter::Projection, &Sheet::FtProjection>();
+  constexpr Place kPlace = Bay<&Rafter::Projection, &Sheet::Projection>();
   return {kPlace.write, [](const Parts& p, const std::string& text) {
-            Bay<&CRafter::Projection, &Sheet::FtProjection>().putBack(p, text);
+            Bay<&Rafter::Projection, &Sheet::Projection>().putBack(p, text);
             if (p.RoofType != roof::kDutchHip) return;
             p.Rafter2.Span = LeadingNumber(text);
-            p.sheet.FtSpan[2].SetText(text);
+            p.sheet.Span[2].SetText(text);
           }};
 }
 
 constexpr Place Choice(std::string (*write)(const Parts&)) { return {write, nullptr}; }
 
-std::string UnitsText(const Parts& p) { return p.menus.mnuMetric.Checked ? "1" : "0"; }
-std::string SlopeModeText(const Parts& p) { return p.menus.mnuSettingsDegrees.Checked ? "1" : "0"; }
+std::string UnitsText(const Parts& p) { return p.menus.Metric.Checked ? "1" : "0"; }
+std::string SlopeModeText(const Parts& p) { return p.menus.SettingsDegrees.Checked ? "1" : "0"; }
 std::string RoofText(const Parts& p) { return std::to_string(ProjectRoofCode(p)); }
 
 std::string FasciaHeightText(const Parts& p) {
-  const CRafter& rafter = p.RoofType == roof::kGambrel ? p.Rafter2 : p.Rafter1;
+  const Rafter& rafter = p.RoofType == roof::kGambrel ? p.Rafter2 : p.Rafter1;
   return PlainText(rafter.FasciaHeight);
 }
 
 std::string HipLayoutText(const Parts& p) {
-  if (p.menus.mnuHipLayoutCenter.Checked) return "Center";
-  return p.menus.mnuHipLayoutCornersFlush.Checked ? "Corner Flush" : "Corner";
+  if (p.menus.HipLayoutCenter.Checked) return "Center";
+  return p.menus.HipLayoutCornersFlush.Checked ? "Corner Flush" : "Corner";
 }
 
-std::string GambrelTypeText(const Parts& p) {
-  return p.menus.mnuGambrelRegular.Checked ? "Regular" : "Custom";
-}
+std::string GambrelTypeText(const Parts& p) { return p.menus.GambrelRegular.Checked ? "Regular" : "Custom"; }
 
 std::string SupportText(const Parts& p) {
-  if (p.menus.mnuGambrelPurlins.Checked) return "Purlins";
-  return p.menus.mnuGambrelWallSupportRaised.Checked ? "Wall Supported Raised" : "Wall Supported";
+  if (p.menus.GambrelPurlins.Checked) return "Purlins";
+  return p.menus.GambrelWallSupportRaised.Checked ? "Wall Supported Raised" : "Wall Supported";
 }
 
 constexpr ProjectKey Row(const char* key, const char* what, const char* missing, RoofSet written,
@@ -164,7 +162,7 @@ constexpr RoofSet kBlind{roof::kBlindValley};
 constexpr RoofSet kGambrel{roof::kGambrel};
 constexpr RoofSet kNone{};
 
-using R = CRafter;
+using R = Rafter;
 
 // clang-format off
 constexpr ProjectKey kKeys[] = {
@@ -188,18 +186,18 @@ constexpr ProjectKey kKeys[] = {
     Row("Depth", "Rafter1.Depth", "5.5", kAll, kAll, S::kPutBackTwice, Front<&R::Depth>()),
     Row("HipValThickness", "Rafter1.HipValThickness", "1.5", kAll, kAll, S::kPutBackTwice, Front<&R::HipValThickness>()),
     Row("HipValDepth", "Rafter1.HipValDepth", "5.5", kAll, kAll, S::kPutBackTwice, Front<&R::HipValDepth>()),
-    Row("HeelLocked", "chkHeel(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::chkHeel, 0>()),
-    Row("SeatLocked", "chkSeat(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::chkSeat, 0>()),
-    Row("SquareCutFascia", "check of mnuSettingsSquareCut, True or False", "False", kAll, kAll, S::kSquareCut, Check<&Menus::mnuSettingsSquareCut>()),
-    Row("PlumbCutFascia", "check of mnuSettingsPlumbCut, True or False", "False", kAll, kAll, S::kPlumbCut, Check<&Menus::mnuSettingsPlumbCut>()),
-    Row("LevelCutFascia", "check of mnuSettingsLevelCut, True or False", "False", kAll, kAll, S::kLevelCut, Check<&Menus::mnuSettingsLevelCut>()),
+    Row("HeelLocked", "chkHeel(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::HeelLock, 0>()),
+    Row("SeatLocked", "chkSeat(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::SeatLock, 0>()),
+    Row("SquareCutFascia", "check of mnuSettingsSquareCut, True or False", "False", kAll, kAll, S::kSquareCut, Check<&Menus::SettingsSquareCut>()),
+    Row("PlumbCutFascia", "check of mnuSettingsPlumbCut, True or False", "False", kAll, kAll, S::kPlumbCut, Check<&Menus::SettingsPlumbCut>()),
+    Row("LevelCutFascia", "check of mnuSettingsLevelCut, True or False", "False", kAll, kAll, S::kLevelCut, Check<&Menus::SettingsLevelCut>()),
     Row("Kneewall1", "Rafter1.Kneewall", "0", kAll, kKneewalls, S::kKneewall, Front<&R::Kneewall>()),
     Row("Kneewall2", "Rafter2.Kneewall", "0", kAll, kKneewalls, S::kRearKneewall, Rear<&R::Kneewall>()),
     Row("HipLayout", "Corner, Corner Flush or Center", "Corner", kHip, kAnyHip, S::kHipLayout, Choice(HipLayoutText)),
-    Row("OverhangsEqual", "True or False", "True", kHip, kAnyHip, S::kOverhangsEqual, Check<&Menus::mnuHipLayoutOverhangsEqual>()),
-    Row("JackMeasurement", "True or False", "True", kHip, kAnyHip, S::kJackMeasurement, Check<&Menus::mnuHipLayoutJackMeasurement>()),
+    Row("OverhangsEqual", "True or False", "True", kHip, kAnyHip, S::kOverhangsEqual, Check<&Menus::HipLayoutOverhangsEqual>()),
+    Row("JackMeasurement", "True or False", "True", kHip, kAnyHip, S::kJackMeasurement, Check<&Menus::HipLayoutJackMeasurement>()),
     Row("HipEndSlope", "Rafter1.HipEndSlope", "1", kHipEnds, kHipEndsRead, S::kPutBackTwice, HipEnd()),
-    Row("Spacing", "text of cboSpacing", "16\"", kHipEnds, kHipEndsRead, S::kSpacing, TextOf<&Sheet::cboSpacing>()),
+    Row("Spacing", "text of cboSpacing", "16\"", kHipEnds, kHipEndsRead, S::kSpacing, TextOf<&Sheet::Spacing>()),
     Row("Slope2", "Rafter2.Slope", "1", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Slope>()),
     Row("Span2", "Rafter2.Span", "144", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, RearSpan()),
     Row("Overhang2", "Rafter2.Overhang", "6", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Overhang>()),
@@ -209,24 +207,24 @@ constexpr ProjectKey kKeys[] = {
     Row("FasciaHeight2", "Rafter2.FasciaHeight", "5.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::FasciaHeight>()),
     Row("Thickness2", "Rafter2.Thickness", "1.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Thickness>()),
     Row("Depth2", "Rafter2.Depth", "5.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Depth>()),
-    Row("HeelLocked2", "chkHeel(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::chkHeel, 1>()),
-    Row("SeatLocked2", "chkSeat(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::chkSeat, 1>()),
+    Row("HeelLocked2", "chkHeel(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::HeelLock, 1>()),
+    Row("SeatLocked2", "chkSeat(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::SeatLock, 1>()),
     Row("Projection", "Projection of Rafter1, of a Dutch hip that of Rafter2", "24", kBays, kBays, S::kBay, ProjectionPlace()),
-    Row("Face", "Face, the same", "48", kBays, kBays, S::kBay, Bay<&R::Face, &Sheet::FtFace>()),
-    Row("Back", "Back, the same", "96", kBays, kBays, S::kBay, Bay<&R::Back, &Sheet::FtBack>()),
-    Row("BayAngle", "BayAngle, the same", "45", kBays, kBays, S::kBay, Bay<&R::BayAngle, &Sheet::FtBayAngle>()),
+    Row("Face", "Face, the same", "48", kBays, kBays, S::kBay, Bay<&R::Face, &Sheet::Face>()),
+    Row("Back", "Back, the same", "96", kBays, kBays, S::kBay, Bay<&R::Back, &Sheet::Back>()),
+    Row("BayAngle", "BayAngle, the same", "45", kBays, kBays, S::kBay, Bay<&R::BayAngle, &Sheet::BayAngle>()),
     Row("Span2", "Rafter2.Span", "", kDutch, kNone, S::kPutBack, Rear<&R::Span>()),
     Row("Slope2", "left text of LWSlope(2)", "45", kBlind, kBlind, S::kPutBack, SlopeText<2>()),
-    Row("Span2", "text of FtSpan(2)", "144", kBlind, kBlind, S::kPutBack, TextOf<&Sheet::FtSpan, 2>()),
+    Row("Span2", "text of FtSpan(2)", "144", kBlind, kBlind, S::kPutBack, TextOf<&Sheet::Span, 2>()),
     Row("GambrelType", "Regular or Custom", "Regular", kGambrel, kGambrel, S::kGambrelType, Choice(GambrelTypeText)),
     Row("Purlins", "Purlins, Wall Supported or Wall Supported Raised", "Purlins", kGambrel, kGambrel, S::kSupport, Choice(SupportText)),
     Row("UpperSlope", "left text of LWSlope(0)", "5", kGambrel, kGambrel, S::kPutBack, SlopeText<0>()),
     Row("LowerSlope", "left text of LWSlope(2)", "29", kGambrel, kGambrel, S::kPutBack, SlopeText<2>()),
-    Row("UpperSpan", "text of FtSpan(2)", "120", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::FtSpan, 2>()),
-    Row("LowerSpan", "text of FtSpan(0)", "144", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::FtSpan, 0>()),
-    Row("UpperHeight", "text of FtRidge(0)", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::FtRidge, 0>()),
-    Row("LowerHeight", "text of FtRidge(1)", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::FtRidge, 1>()),
-    Row("UpperFascia", "text of FTUpperFascia", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::FTUpperFascia>()),
+    Row("UpperSpan", "text of FtSpan(2)", "120", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::Span, 2>()),
+    Row("LowerSpan", "text of FtSpan(0)", "144", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::Span, 0>()),
+    Row("UpperHeight", "text of FtRidge(0)", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::RidgeLength, 0>()),
+    Row("LowerHeight", "text of FtRidge(1)", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::RidgeLength, 1>()),
+    Row("UpperFascia", "text of FTUpperFascia", "", kGambrel, kGambrel, S::kPutBack, TextOf<&Sheet::UpperFascia>()),
 };
 // clang-format on
 

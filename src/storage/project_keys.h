@@ -18,8 +18,8 @@ inline constexpr const char* kProjectSection = "Settings";
 /// What a project is taken from and put back into.
 struct ProjectParts {
   int RoofType;
-  CRafter& Rafter1;
-  CRafter& Rafter2;
+  Rafter& Rafter1;
+  Rafter& Rafter2;
   Sheet& sheet;
   Menus& menus;
 };

@@ -43,34 +43,34 @@ char WithCase(char c, bool capital, bool western) {
 
 }  // namespace
 
-void MRU::SetMenuLength(int length) {
+void RecentFileList::SetMenuLength(int length) {
   if (length > 0) menuLength_ = length;
 }
 
-MRU::Entry MRU::Read(std::size_t place) const {
+RecentFileList::Entry RecentFileList::Read(std::size_t place) const {
   const std::string caption = store_.Get(AppName, Section, CaptionKey(place)).value_or("");
   return {caption.size() > kPrefixLength ? caption.substr(kPrefixLength) : "",
           store_.Get(AppName, Section, PathKey(place)).value_or("")};
 }
 
-void MRU::Write(std::size_t place, const Entry& entry) {
+void RecentFileList::Write(std::size_t place, const Entry& entry) {
   store_.Set(AppName, Section, CaptionKey(place), entry.name.empty() ? "" : PrefixOf(place) + entry.name);
   store_.Set(AppName, Section, PathKey(place), entry.path);
 }
 
-void MRU::LoadMRU() {
+void RecentFileList::Load() {
   for (std::size_t place = 0; place < kPlaces; ++place) {
-    MenuItem* item = MenuArray[place];
+    MenuItem* item = Items[place];
     if (item == nullptr) continue;
     item->Caption = store_.Get(AppName, Section, CaptionKey(place)).value_or("");
     item->Visible = !item->Caption.empty();
   }
 }
 
-void MRU::AddNewFile(const std::string& path) {
+void RecentFileList::AddNewFile(const std::string& path) {
   std::error_code error;
   const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-  const Entry added{ProperCaseTitle(LongDirFix(path, menuLength_)), error ? path : absolute.string()};
+  const Entry added{InProperCase(ShortenedPath(path, menuLength_)), error ? path : absolute.string()};
   std::array<Entry, kPlaces> entries;
   for (std::size_t place = 0; place < kPlaces; ++place) entries[place] = Read(place);
   if (entries[0].name == added.name) {
@@ -87,15 +87,15 @@ void MRU::AddNewFile(const std::string& path) {
     }
   }
   for (std::size_t place = 0; place < kPlaces; ++place) Write(place, entries[place]);
-  LoadMRU();
+  Load();
 }
 
-std::string MRU::MRUSelected(int index) const {
+std::string RecentFileList::Selected(int index) const {
   if (index < 0 || index >= static_cast<int>(kPlaces)) return "";
   return Read(static_cast<std::size_t>(index)).path;
 }
 
-std::string MRU::LongDirFix(const std::string& path, int length) {
+std::string RecentFileList::ShortenedPath(const std::string& path, int length) {
   const std::vector<std::size_t> starts = LetterStarts(path);
   const int letters = static_cast<int>(starts.size()) - 1;
   if (letters <= length) return path;
@@ -107,7 +107,7 @@ std::string MRU::LongDirFix(const std::string& path, int length) {
   return path.substr(0, head) + "..." + path.substr(separator == std::string::npos ? from : separator);
 }
 
-std::string MRU::ProperCaseTitle(const std::string& text) const {
+std::string RecentFileList::InProperCase(const std::string& text) const {
   if (!ProperCase) return text;
   std::string proper = text;
   bool startsWord = true;

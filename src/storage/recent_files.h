@@ -14,13 +14,13 @@ namespace pitchcraft {
 /// Keeps captions ("&1 " and the shortened path) and full paths in the store, under AppName and Section. The
 /// caption shows the path in proper case; what is opened is the path as it is, since case counts on some
 /// disks. "/" separates folders like "\".
-class MRU {
+class RecentFileList {
  public:
   static constexpr std::size_t kPlaces = 4;
 
-  explicit MRU(KeyedStore& store) : store_(store) {}
+  explicit RecentFileList(KeyedStore& store) : store_(store) {}
 
-  std::array<MenuItem*, kPlaces> MenuArray{};  ///< the menu items; none of them may be null while in use
+  std::array<MenuItem*, kPlaces> Items{};  ///< the menu items; none of them may be null while in use
   std::string AppName = "Rafter";
   std::string Section = "MRU";
   bool ProperCase = true;
@@ -30,18 +30,18 @@ class MRU {
   void SetMenuLength(int length);
 
   /// Shows what is stored in the menu items; an item without a file is hidden.
-  void LoadMRU();
+  void Load();
   /// Puts a file on the first place, the others move down; no file stands twice.
   void AddNewFile(const std::string& path);
   /// The full path behind the item of that index, counted from 0; empty when there is none.
-  std::string MRUSelected(int index) const;
+  std::string Selected(int index) const;
 
   /// Shortens a path to about `length` letters: its first three, "...", and the last folders and the name.
-  static std::string LongDirFix(const std::string& path, int length);
+  static std::string ShortenedPath(const std::string& path, int length);
   /// Each word's first letter capital, the others small. A word begins behind a blank or a separator.
-  std::string ProperCaseTitle(const std::string& text) const;
+  std::string InProperCase(const std::string& text) const;
   /// Lets go of the menu items.
-  void Destroy() { MenuArray = {}; }
+  void Destroy() { Items = {}; }
 
  private:
   struct Entry {

@@ -34,13 +34,13 @@ struct Preferences {
   std::uint32_t DimColor = 255;
   std::uint32_t TextColor = 65535;
 
-  std::uint32_t DXFBackcolor = 0;
-  int DXFTextcolor = 14;
-  int DXFLinecolor = 15;
-  int DXFDimcolor = 12;
-  Single DXFTextsize = 2;
-  Single DXFMetricTextsize = 2;
-  Single DXFDimTextsize = 2;
+  std::uint32_t DxfBackColor = 0;
+  int DxfTextColor = 14;
+  int DxfLineColor = 15;
+  int DxfDimColor = 12;
+  Single DxfTextSize = 2;
+  Single DxfMetricTextSize = 2;
+  Single DxfDimTextSize = 2;
 };
 
 /// All that is stored: with the preferences what a session turns into something else. Places and sizes are

@@ -18,7 +18,7 @@ TEST(Dump, HoldsEveryMember) {
                              "Rafter2", "drawing"}) {
     EXPECT_TRUE(dump.contains(member)) << member;
   }
-  const CRafter rafter;
+  const Rafter rafter;
   EXPECT_EQ(dump["Rafter1"].size(), RafterMembers().size());
   for (const char* name :
        {"RoofType",        "UnitRun",         "UnitHipRun",  "UnitHipRatio",  "DrawScale",

@@ -20,9 +20,9 @@ inline ScriptRun RunScript(const std::string& text) {
   std::ostringstream output;
   MemoryStore store;
   ScriptDialogs dialogs(output);
-  frmDocument document({dialogs, store, {}});
+  Document document({dialogs, store, {}});
   document.Form_Load();
-  Script script(document, dialogs, output, [&run](frmDocument&, const std::string& file) {
+  Script script(document, dialogs, output, [&run](Document&, const std::string& file) {
     run.pictures.push_back(file);
     return file == "fails.png" ? std::optional<std::string>("no such folder") : std::nullopt;
   });

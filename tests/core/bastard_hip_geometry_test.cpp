@@ -10,7 +10,7 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 
 // The corner over which the hip passes is the origin; the ridge runs along x at y = Span.
 struct BastardCorner {
-  explicit BastardCorner(const CRafter& rafter)
+  explicit BastardCorner(const Rafter& rafter)
       : EndSteepness(rafter.HipEndSlope / rafter.SlopeBase),
         Main(RoofFace({}, {0, 1, 0}, Steepness(rafter))),
         End(RoofFace({}, {1, 0, 0}, EndSteepness)),
@@ -31,7 +31,7 @@ struct BastardCorner {
   Line MainEave;
 };
 
-void DrawBastardHip(CRafter& rafter) {
+void DrawBastardHip(Rafter& rafter) {
   const RandomRoof roof(rafter);
   rafter.RafterType = RafterType::kBastardHip;
   rafter.Slope = roof.Slope(3, 18);
@@ -39,7 +39,7 @@ void DrawBastardHip(CRafter& rafter) {
 }
 
 RC_GTEST_PROP(BastardHipGeometry, HipLiesInBothFaces, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   rafter.CalculateBastardHip();
   const BastardCorner corner(rafter);
@@ -55,7 +55,7 @@ RC_GTEST_PROP(BastardHipGeometry, HipLiesInBothFaces, ()) {
 }
 
 RC_GTEST_PROP(BastardHipGeometry, CommonsEndAtOneHeight, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   rafter.CalculateBastardHip();
   const BastardCorner corner(rafter);
@@ -76,7 +76,7 @@ RC_GTEST_PROP(BastardHipGeometry, CommonsEndAtOneHeight, ()) {
 // As on a hip of equal slopes: the run ends at the cheek of the end common, the rise is the one at the ridge
 // board.
 RC_GTEST_PROP(BastardHipGeometry, HipRunsToTheCheekOfTheEndCommon, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   rafter.CalculateBastardHip();
   const BastardCorner corner(rafter);
@@ -95,7 +95,7 @@ RC_GTEST_PROP(BastardHipGeometry, HipRunsToTheCheekOfTheEndCommon, ()) {
 // face by it times the square of the cosine: at 45 degrees the product's drop is twice the one that brings
 // the edges into the faces.
 RC_GTEST_PROP(BastardHipGeometry, DropGoesByTheLengthAlongTheMainWall, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   rafter.CalculateBastardHip();
   const BastardCorner corner(rafter);
@@ -108,7 +108,7 @@ RC_GTEST_PROP(BastardHipGeometry, DropGoesByTheLengthAlongTheMainWall, ()) {
 }
 
 RC_GTEST_PROP(BastardHipGeometry, SeatsEndWhereTheUndersidesMeetThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   rafter.CalculateBastardHip();
   const BastardCorner corner(rafter);
@@ -127,7 +127,7 @@ RC_GTEST_PROP(BastardHipGeometry, SeatsEndWhereTheUndersidesMeetThePlate, ()) {
 }
 
 RC_GTEST_PROP(BastardHipGeometry, JacksOfEachFaceGrowByTheirDifference, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBastardHip(rafter);
   if (*rc::gen::arbitrary<bool>()) {
     rafter.CalculateBastardHip();
@@ -155,18 +155,18 @@ RC_GTEST_PROP(BastardHipGeometry, JacksOfEachFaceGrowByTheirDifference, ()) {
 
 // One overhang all round: the faces stay, the end wall moves along x until its overhang is that of the sides.
 
-void CalculateEqualOverhangs(CRafter& rafter) {
+void CalculateEqualOverhangs(Rafter& rafter) {
   DrawBastardHip(rafter);
   rafter.OverhangsEqual = true;
   rafter.CalculateBastardHip();
 }
 
-double EndWall(const CRafter& rafter, const BastardCorner& corner) {
+double EndWall(const Rafter& rafter, const BastardCorner& corner) {
   return rafter.Overhang - corner.NaturalEndOverhang();
 }
 
 RC_GTEST_PROP(EqualOverhangGeometry, EndWallMovesUnderItsFace, ()) {
-  CRafter rafter;
+  Rafter rafter;
   CalculateEqualOverhangs(rafter);
   const BastardCorner corner(rafter);
   const double wall = EndWall(rafter, corner);
@@ -184,7 +184,7 @@ RC_GTEST_PROP(EqualOverhangGeometry, EndWallMovesUnderItsFace, ()) {
 }
 
 RC_GTEST_PROP(EqualOverhangGeometry, EndCommonRunsFromTheMovedWall, ()) {
-  CRafter rafter;
+  Rafter rafter;
   CalculateEqualOverhangs(rafter);
   const BastardCorner corner(rafter);
   const double wall = EndWall(rafter, corner);
@@ -206,7 +206,7 @@ RC_GTEST_PROP(EqualOverhangGeometry, EndCommonRunsFromTheMovedWall, ()) {
 // equal overhangs, of the end common). Its rise is that of the commons at the ridge board, which departs from
 // the height at that cheek by the main slope over the difference of the two distances from the ridge line.
 RC_GTEST_PROP(EqualOverhangGeometry, HipRunsToTheCheekOfTheMainCommon, ()) {
-  CRafter rafter;
+  Rafter rafter;
   CalculateEqualOverhangs(rafter);
   RC_PRE(rafter.AdjHipSpan > 0);  // a wide eave on a narrow house can move the end wall past the ridge
   const BastardCorner corner(rafter);

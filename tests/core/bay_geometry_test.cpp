@@ -10,7 +10,7 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 // The main wall runs along x at y = 0, the bay stands out to y = Projection; x = 0 is the corner of the
 // angled side at the main wall, the bay lies towards x > 0.
 struct BayRoof {
-  explicit BayRoof(const CRafter& rafter)
+  explicit BayRoof(const Rafter& rafter)
       : Angle(Radians(rafter.BayAngle)),
         FaceCorner{rafter.Projection * std::cos(Angle) / std::sin(Angle), rafter.Projection, 0},
         SideDirection(Unit(FaceCorner)),
@@ -30,7 +30,7 @@ struct BayRoof {
   Vector Apex;  ///< where hip and ledger rafter meet at the main wall
 };
 
-void DrawBay(CRafter& rafter) {
+void DrawBay(Rafter& rafter) {
   const RandomRoof roof(rafter);
   rafter.RafterType = RafterType::kBayCommon;
   const int degrees = *rc::gen::inRange(15, 91);
@@ -44,12 +44,12 @@ void DrawBay(CRafter& rafter) {
   rafter.CalculateBay();
 }
 
-double Scale(const CRafter& rafter) {
+double Scale(const Rafter& rafter) {
   return rafter.LedgerSpan + rafter.LedgerOverhang + rafter.LedgerRise + rafter.RidgeThickness;
 }
 
 RC_GTEST_PROP(BayGeometry, CommonRunsFromTheFrontToTheLedger, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const Line edge = Intersect(bay.Front, AtX(bay.FaceCorner.x + 10));
@@ -61,7 +61,7 @@ RC_GTEST_PROP(BayGeometry, CommonRunsFromTheFrontToTheLedger, ()) {
 }
 
 RC_GTEST_PROP(BayGeometry, HipRunsFromTheCornerToTheLedger, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const Vector top = Intersect(bay.Hip, AtY(rafter.RidgeThickness));
@@ -78,7 +78,7 @@ RC_GTEST_PROP(BayGeometry, HipRunsFromTheCornerToTheLedger, ()) {
 // The ledger rafter's near face stands one board before the main wall. On it the rafter starts over the line
 // of the corner, lower than the plate's roof point by its drop, and ends on the hip.
 RC_GTEST_PROP(BayGeometry, LedgerRafterRunsAlongTheMainWallToTheHip, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const Line edge = Intersect(bay.Side, AtY(rafter.RidgeThickness));
@@ -102,7 +102,7 @@ RC_GTEST_PROP(BayGeometry, LedgerRafterRunsAlongTheMainWallToTheHip, ()) {
 // The center ledger is reckoned over the whole back of the bay. Between the hips, at its near face, there is
 // less: by the run of a ledger rafter on either side.
 RC_GTEST_PROP(BayGeometry, CenterLedgerCountsTheWholeBack, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const double betweenHips = rafter.Back - 2 * Intersect(bay.Hip, AtY(rafter.RidgeThickness)).x;
@@ -111,7 +111,7 @@ RC_GTEST_PROP(BayGeometry, CenterLedgerCountsTheWholeBack, ()) {
 }
 
 RC_GTEST_PROP(BayGeometry, HipDropsUntilItsEdgesLieInTheFaces, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const double cheek = rafter.HipValThickness / 2;
@@ -120,7 +120,7 @@ RC_GTEST_PROP(BayGeometry, HipDropsUntilItsEdgesLieInTheFaces, ()) {
 }
 
 RC_GTEST_PROP(BayGeometry, SeatsEndWhereTheUndersidesMeetThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const auto seatOf = [](double heel, double slope, double depth) {
@@ -138,7 +138,7 @@ RC_GTEST_PROP(BayGeometry, SeatsEndWhereTheUndersidesMeetThePlate, ()) {
 // In inches the differences are those of the jacks. In millimetres they go by 144 where the square of the
 // base run would stand: too short by the factor sqrt(Slope^2 + 144) / sqrt(Slope^2 + 1000^2).
 RC_GTEST_PROP(BayGeometry, JacksGrowByTheDifference, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawBay(rafter);
   const BayRoof bay(rafter);
   const double factor = std::hypot(rafter.Slope, 12) / std::hypot(rafter.Slope, rafter.SlopeBase);

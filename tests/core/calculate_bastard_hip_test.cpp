@@ -6,25 +6,25 @@
 namespace pitchcraft {
 namespace {
 
-constexpr auto kBastardHip = &CRafter::CalculateBastardHip;
-constexpr auto kAdjusted = &CRafter::CalculateAdjustedBastardHip;
+constexpr auto kBastardHip = &Rafter::CalculateBastardHip;
+constexpr auto kAdjusted = &Rafter::CalculateAdjustedBastardHip;
 
 class BastardHipTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(BastardHipTable, Gives) { CheckRow(GetParam()); }
 
-void Slopes(CRafter& r, double main, double end) {
+void Slopes(Rafter& r, double main, double end) {
   r.RafterType = RafterType::kBastardHip;
   r.Slope = main;
   r.HipEndSlope = end;
 }
 
 // Main roof 10 in 12, end 8 1/2 in 12.
-void FlatterEnd(CRafter& r) { Slopes(r, 10, 8.5); }
+void FlatterEnd(Rafter& r) { Slopes(r, 10, 8.5); }
 
-void SteeperEnd(CRafter& r) { Slopes(r, 8.5, 10); }
+void SteeperEnd(Rafter& r) { Slopes(r, 8.5, 10); }
 
-void EqualOverhangs(CRafter& r) { r.OverhangsEqual = true; }
+void EqualOverhangs(Rafter& r) { r.OverhangsEqual = true; }
 
 const CalculationRow kNatural[] = {
     {"FlatterEnd",
@@ -87,21 +87,21 @@ const CalculationRow kNatural[] = {
       {"HipPitch", " 6.47/12"},
       {"HipEndPitch", " 8.5/12"}}},
     {"MainCommonOfTheSameRoof",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.RafterType = RafterType::kCommon;
      },
      kBastardHip,
      {{"Length1", 186.46971101}, {"Length2", 200.13764795}}},
     {"EndCommonOfTheSameRoof",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.RafterType = RafterType::kHipEndCommon;
      },
      kBastardHip,
      {{"Length1", 206.52494584}, {"Length2", 221.66289999}}},
     {"OtherMembersKeepTheirLengths",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.RafterType = RafterType::kHip;
        r.Length1 = 5;
@@ -109,7 +109,7 @@ const CalculationRow kNatural[] = {
      kBastardHip,
      {{"Length1", 5.0}, {"Length2", 0.0}, {"CommonLength1", 186.46971101}}},
     {"EqualSlopesMakeAPlainHip",
-     [](CRafter& r) { Slopes(r, 6, 6); },
+     [](Rafter& r) { Slopes(r, 6, 6); },
      kBastardHip,
      {{"HipEndSpan", 144.0},
       {"HipAngle1", 45.0},
@@ -121,7 +121,7 @@ const CalculationRow kNatural[] = {
       {"HipEndCommonDifference24", 26.83281573}}},
     // The drop of the end that was there before stays: only the excess and the shift are cleared.
     {"LeavesTheDropOfTheEnd",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.HipEndDrop = 7;
        r.HipEndOverhangExcess = 7;
@@ -130,14 +130,14 @@ const CalculationRow kNatural[] = {
      kBastardHip,
      {{"HipEndDrop", 7.0}, {"HipEndOverhangExcess", 0.0}, {"HipShift", 0.0}}},
     {"AFlagMakesItTheAdjustedCalculation",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
      },
      kBastardHip,
      {{"HipEndOverhang", 10.5}, {"HipShift", -1.85294118}}},
     {"TheSecondRunIsTheAdjustedOne",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.CalculateBastardHip();
      },
@@ -145,17 +145,17 @@ const CalculationRow kNatural[] = {
      {{"HipEndOverhang", 10.5}, {"HipShift", -1.85294118}, {"OverhangsEqual", -1.0}}},
     {"CalculateHandsOver",
      FlatterEnd,
-     &CRafter::Calculate,
+     &Rafter::Calculate,
      {{"HipEndSpan", 169.41176471}, {"Length1", 251.34262622}, {"HipEndPitch", " 8.5/12"}}},
     {"CalculateKeepsTheEndCommonToItself",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.RafterType = RafterType::kHipEndCommon;
      },
-     &CRafter::Calculate,
+     &Rafter::Calculate,
      {{"HipEndSpan", 144.0}, {"HipEndSlope", 10.0}}},
     {"ZeroHeelTakesTheDefaultAndLeavesTheOverhang",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.HeelLocked = true;
        r.Heel = 0;
@@ -163,7 +163,7 @@ const CalculationRow kNatural[] = {
      kBastardHip,
      {{"Heel", 6.29159033}, {"Seat", 3.77495363}, {"Overhang", 10.5}}},
     {"NegativeHeelTakesTheDefault",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.SeatLocked = true;
        r.Seat = 50;
@@ -171,7 +171,7 @@ const CalculationRow kNatural[] = {
      kBastardHip,
      {{"Heel", 6.29159033}, {"Seat", 3.77495363}}},
     {"HeelAboveThePlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.HeelLocked = true;
        r.Heel = 50;
@@ -179,7 +179,7 @@ const CalculationRow kNatural[] = {
      kBastardHip,
      {{"Heel", 9.43738503}, {"Seat", 0.0}, {"HipEndHeel", 9.43738503}}},
     {"FasciaTallerThanBothPlumbCuts",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.FasciaHeight = 20;
        r.HipValDepth = 5.5;
@@ -188,28 +188,28 @@ const CalculationRow kNatural[] = {
      {{"AdjFasciaHeight", 9.43738503}, {"HipEndFasciaCut", 6.24990647}, {"HipFasciaCut", 8.61710973}}},
     // The cut of the end is taken before the missing overhang limits the fascia to the heel.
     {"NoOverhangLimitsTheFasciaButNotTheEndCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.Overhang = 0;
      },
      kBastardHip,
      {{"AdjFasciaHeight", 6.29159033}, {"HipEndFasciaCut", 7.25}, {"HipFasciaCut", 5.47131503}}},
     {"MetricTexts",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SetUnits(1);
        Slopes(r, 833.3, 708.5);
      },
      kBastardHip,
      {{"Pitch", " 833/1000"}, {"HipPitch", " 540/1000"}, {"HipEndPitch", " 708/1000"}}},
     {"MetricDifferenceAt24IsThatOfTwoBaseRuns",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SetUnits(1);
        Slopes(r, 500, 500);
      },
      kBastardHip,
      {{"CommonDifference16", 17.88854382}, {"CommonDifference24", 2236.06797750}}},
     {"EndWithoutSlopeIsEndless",
-     [](CRafter& r) { Slopes(r, 10, 0); },
+     [](Rafter& r) { Slopes(r, 10, 0); },
      kBastardHip,
      {{"HipEndSpan", std::numeric_limits<double>::infinity()}, {"HipAngle1", 0.0}, {"HipValSlope", 0.0}}},
 };
@@ -217,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(Natural, BastardHipTable, testing::ValuesIn(kNatural), 
 
 const CalculationRow kEqualOverhangs[] = {
     {"FlatterEndLiesLowerAndFartherOut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
      },
@@ -254,7 +254,7 @@ const CalculationRow kEqualOverhangs[] = {
       {"CommonDifference", 1.10645204},
       {"CommonDifference24", 26.55484890}}},
     {"SteeperEndLiesHigherAndFartherIn",
-     [](CRafter& r) {
+     [](Rafter& r) {
        SteeperEnd(r);
        EqualOverhangs(r);
      },
@@ -273,7 +273,7 @@ const CalculationRow kEqualOverhangs[] = {
       {"CommonDifference16", 23.06735870},
       {"HipEndCommonDifference16", 17.70323260}}},
     {"EndCommonOfTheSameRoof",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
        r.RafterType = RafterType::kHipEndCommon;
@@ -281,7 +281,7 @@ const CalculationRow kEqualOverhangs[] = {
      kAdjusted,
      {{"Length1", 208.79563896}, {"Length2", 221.66289999}}},
     {"MainCommonOfTheSameRoof",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
        r.RafterType = RafterType::kCommon;
@@ -289,7 +289,7 @@ const CalculationRow kEqualOverhangs[] = {
      kAdjusted,
      {{"Length1", 186.46971101}, {"Length2", 200.13764795}}},
     {"EqualSlopesShiftNothing",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Slopes(r, 6, 6);
        EqualOverhangs(r);
        r.HipShift = 7;
@@ -299,14 +299,14 @@ const CalculationRow kEqualOverhangs[] = {
     // Asked for directly, without the flag: the lengths are the adjusted ones, the hip line stays in its
     // place.
     {"WithoutTheFlagNothingShiftsOnAFlatterEnd",
-     [](CRafter& r) {
+     [](Rafter& r) {
        FlatterEnd(r);
        r.HipShift = 7;
      },
      kAdjusted,
      {{"HipShift", 0.0}, {"HipEndOverhang", 10.5}, {"HipEndSpan", 171.26470588}, {"OverhangsEqual", 0.0}}},
     {"WithoutTheFlagNothingShiftsOnASteeperEnd",
-     [](CRafter& r) {
+     [](Rafter& r) {
        SteeperEnd(r);
        r.HipShift = 7;
      },
@@ -316,7 +316,7 @@ const CalculationRow kEqualOverhangs[] = {
 INSTANTIATE_TEST_SUITE_P(EqualOverhangs, BastardHipTable, testing::ValuesIn(kEqualOverhangs), RowName);
 
 TEST(BastardHip, SeatAndHeelMakeUpEachPlumbCut) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   FlatterEnd(rafter);
   rafter.CalculateBastardHip();

@@ -7,13 +7,13 @@
 namespace pitchcraft {
 namespace {
 
-constexpr auto kBay = &CRafter::CalculateBay;
+constexpr auto kBay = &Rafter::CalculateBay;
 
 class BayTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(BayTable, Gives) { CheckRow(GetParam()); }
 
-void Corner(CRafter& r, double angle) {
+void Corner(Rafter& r, double angle) {
   const double radians = angle * std::numbers::pi / 180;
   r.BayAngle = angle;
   r.HipRunFactor = r.SlopeBase / std::cos(radians / 2);
@@ -21,7 +21,7 @@ void Corner(CRafter& r, double angle) {
 }
 
 // Corners of 135 degrees, 4 feet out, 70 inches wide in front.
-void Bay(CRafter& r) {
+void Bay(Rafter& r) {
   r.RafterType = RafterType::kBayCommon;
   Corner(r, 45);
   r.Face = 70;
@@ -30,7 +30,7 @@ void Bay(CRafter& r) {
   r.Projection = 48;
 }
 
-void DutchHip(CRafter& r) {
+void DutchHip(Rafter& r) {
   r.RafterType = RafterType::kBayCommon;
   Corner(r, 90);
   r.Face = 288;
@@ -115,7 +115,7 @@ const CalculationRow kMembers[] = {
       {"LedgerCommonDifference16", 0.0},
       {"LedgerCommonDifference24", 0.0}}},
     {"SquareCornerClearsWhatAnAngledOneLeft",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.CalculateBay();
        DutchHip(r);
@@ -123,7 +123,7 @@ const CalculationRow kMembers[] = {
      kBay,
      {{"LedgerCommonDifference16", 0.0}, {"LedgerCommonDifference24", 0.0}}},
     {"DutchHipWithoutALedger",
-     [](CRafter& r) {
+     [](Rafter& r) {
        DutchHip(r);
        r.RidgeThickness = 0;
      },
@@ -135,7 +135,7 @@ const CalculationRow kMembers[] = {
       {"CenterLedgerLength", 288.0},
       {"AdjSpan", 96.0}}},
     {"CenterLedgerHasTheLengthsToo",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.RafterType = RafterType::kCenterLedger;
      },
@@ -143,7 +143,7 @@ const CalculationRow kMembers[] = {
      {{"Length1", 51.98858048}, {"Pitch", ""}, {"HipPitch", ""}, {"LedgerPitch", ""}}},
     // Factors of 12 where a metric corner would have 1000: jack differences reckon in inches in both units.
     {"MetricJackDifferencesUseTheSquareOfTwelve",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SetUnits(1);
        Bay(r);
        r.Slope = 500;
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(Members, BayTable, testing::ValuesIn(kMembers), RowName
 
 const CalculationRow kHeelsAndFascias[] = {
     {"NoOverhangBringsTheFasciaToTheHeels",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.Overhang = 0;
        r.FasciaHeight = 1;
@@ -169,7 +169,7 @@ const CalculationRow kHeelsAndFascias[] = {
       {"LedgerFasciaHeight", 4.87350113},
       {"Length2", 51.98858048}}},
     {"TallFasciaStopsAtEachPlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.FasciaHeight = 30;
        r.HipValDepth = 5.5;
@@ -182,7 +182,7 @@ const CalculationRow kHeelsAndFascias[] = {
       {"LedgerPlumbCut", 5.83363095},
       {"LedgerFasciaHeight", 5.83363095}}},
     {"AnyLockButZeroCounts",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.HeelLocked = Flag::FromInteger(1);
        r.Heel = 4;
@@ -190,7 +190,7 @@ const CalculationRow kHeelsAndFascias[] = {
      kBay,
      {{"Heel", 4.0}, {"Seat", 8.21149284}}},
     {"AnySeatLockButZeroCounts",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.SeatLocked = Flag::FromInteger(2);
        r.Seat = 3.5;
@@ -198,7 +198,7 @@ const CalculationRow kHeelsAndFascias[] = {
      kBay,
      {{"Heel", 6.35574642}, {"Seat", 3.5}}},
     {"ZeroHeelTakesTheDefaultAndLeavesTheOverhang",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.HeelLocked = true;
        r.Heel = 0;
@@ -206,7 +206,7 @@ const CalculationRow kHeelsAndFascias[] = {
      kBay,
      {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
     {"HeelAboveThePlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bay(r);
        r.HeelLocked = true;
        r.Heel = 50;
@@ -216,7 +216,7 @@ const CalculationRow kHeelsAndFascias[] = {
 };
 INSTANTIATE_TEST_SUITE_P(HeelsAndFascias, BayTable, testing::ValuesIn(kHeelsAndFascias), RowName);
 
-void Texts(CRafter& r, RafterType type, int units, double slope) {
+void Texts(Rafter& r, RafterType type, int units, double slope) {
   r.SetUnits(units);
   Bay(r);
   r.RafterType = type;
@@ -226,35 +226,35 @@ void Texts(CRafter& r, RafterType type, int units, double slope) {
 // Slope 11.3: hip 10.43984, ledger 7.990307. Slope 333.7 in metric: hip 308.2985, ledger 235.9615.
 const CalculationRow kTexts[] = {
     {"Common",
-     [](CRafter& r) { Texts(r, RafterType::kBayCommon, 0, 11.3); },
+     [](Rafter& r) { Texts(r, RafterType::kBayCommon, 0, 11.3); },
      kBay,
      {{"HipPitch", "10.43/12"}, {"Pitch", " 11.3/12"}, {"LedgerPitch", ""}}},
     {"CommonMetricKeepsTheDecimalsOfItsOwnSlope",
-     [](CRafter& r) { Texts(r, RafterType::kBayCommon, 1, 333.7); },
+     [](Rafter& r) { Texts(r, RafterType::kBayCommon, 1, 333.7); },
      kBay,
      {{"HipPitch", "308/1000"}, {"Pitch", " 333.7/1000"}}},
     {"HipCutsBothByItsSlope",
-     [](CRafter& r) { Texts(r, RafterType::kBayHip, 0, 10.123); },
+     [](Rafter& r) { Texts(r, RafterType::kBayHip, 0, 10.123); },
      kBay,
      {{"HipPitch", "9.35/12"}, {"Pitch", "10.1/12"}, {"LedgerPitch", ""}}},
     {"HipOfTenKeepsFiveCharacters",
-     [](CRafter& r) { Texts(r, RafterType::kBayHip, 0, 11.31234); },
+     [](Rafter& r) { Texts(r, RafterType::kBayHip, 0, 11.31234); },
      kBay,
      {{"HipPitch", "10.45/12"}, {"Pitch", "11.31/12"}}},
     {"HipMetric",
-     [](CRafter& r) { Texts(r, RafterType::kBayHip, 1, 333.7); },
+     [](Rafter& r) { Texts(r, RafterType::kBayHip, 1, 333.7); },
      kBay,
      {{"HipPitch", "308/1000"}, {"Pitch", "334/1000"}}},
     {"LedgerCutsBothByItsSlope",
-     [](CRafter& r) { Texts(r, RafterType::kBayLedger, 0, 11.31234); },
+     [](Rafter& r) { Texts(r, RafterType::kBayLedger, 0, 11.31234); },
      kBay,
      {{"LedgerPitch", "7.99/12"}, {"Pitch", "11.3/12"}, {"HipPitch", ""}}},
     {"LedgerMetricIsCutNotRounded",
-     [](CRafter& r) { Texts(r, RafterType::kBayLedger, 1, 333.7); },
+     [](Rafter& r) { Texts(r, RafterType::kBayLedger, 1, 333.7); },
      kBay,
      {{"LedgerPitch", "235.9/1000"}, {"Pitch", "334/1000"}}},
     {"LedgerMetricOfLowSlopeLeavesTheCommonUncut",
-     [](CRafter& r) { Texts(r, RafterType::kBayLedger, 1, 12.6); },
+     [](Rafter& r) { Texts(r, RafterType::kBayLedger, 1, 12.6); },
      kBay,
      {{"LedgerPitch", "8.90/1000"}, {"Pitch", "13/1000"}}},
 };
@@ -262,13 +262,13 @@ INSTANTIATE_TEST_SUITE_P(Texts, BayTable, testing::ValuesIn(kTexts), RowName);
 
 struct MissingDimension {
   const char* Name;
-  Single CRafter::*Member;
+  Single Rafter::*Member;
 };
 
 class IncompleteBay : public testing::TestWithParam<MissingDimension> {};
 
 TEST_P(IncompleteBay, IsLeftAloneWithoutAnEvent) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   Bay(rafter);
   rafter.*GetParam().Member = 0;
@@ -284,10 +284,10 @@ TEST_P(IncompleteBay, IsLeftAloneWithoutAnEvent) {
 }
 
 INSTANTIATE_TEST_SUITE_P(CalculateBay, IncompleteBay,
-                         testing::Values(MissingDimension{"Projection", &CRafter::Projection},
-                                         MissingDimension{"Face", &CRafter::Face},
-                                         MissingDimension{"Back", &CRafter::Back},
-                                         MissingDimension{"BayAngle", &CRafter::BayAngle}),
+                         testing::Values(MissingDimension{"Projection", &Rafter::Projection},
+                                         MissingDimension{"Face", &Rafter::Face},
+                                         MissingDimension{"Back", &Rafter::Back},
+                                         MissingDimension{"BayAngle", &Rafter::BayAngle}),
                          [](const auto& missing) { return std::string(missing.param.Name); });
 
 }  // namespace

@@ -6,7 +6,7 @@
 namespace pitchcraft {
 namespace {
 
-constexpr auto kGambrel = &CRafter::CalculateGambrel;
+constexpr auto kGambrel = &Rafter::CalculateGambrel;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // The slopes of 67.5 and 22.5 degrees that fit a gambrel to a circle.
@@ -17,14 +17,14 @@ class GambrelTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(GambrelTable, Gives) { CheckRow(GetParam()); }
 
-void Bottom(CRafter& r) {
+void Bottom(Rafter& r) {
   r.RafterType = RafterType::kGambrelBottom;
   r.Slope = kSteep;
   r.HipValSlope = kFlat;
   r.Span = 35;
 }
 
-void Top(CRafter& r, double heel) {
+void Top(Rafter& r, double heel) {
   r.RafterType = RafterType::kGambrelTop;
   r.Slope = kFlat;
   r.HipValSlope = kSteep;
@@ -34,7 +34,7 @@ void Top(CRafter& r, double heel) {
 
 const CalculationRow kBottom[] = {
     {"OnAPurlin",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.Purlins = true;
      },
@@ -75,7 +75,7 @@ const CalculationRow kBottom[] = {
       {"Length1", 91.45941061},
       {"Length2", 118.89723380}}},
     {"WithoutAPurlinClearsWhatOneLeft",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.Purlins = true;
        r.CalculateGambrel();
@@ -85,7 +85,7 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"RidgeAllowance", 0.0}, {"JointOffset", 0.0}, {"AdjSpan", 35.0}}},
     {"WithoutAPurlinAtTwelve",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.Slope = 12;
      },
@@ -97,7 +97,7 @@ const CalculationRow kBottom[] = {
       {"Heel", 5.12652416},
       {"Seat", 5.12652416}}},
     {"OnAPurlinWithoutThickness",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.Purlins = true;
        r.RidgeThickness = 0;
@@ -105,7 +105,7 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"RidgeAllowance", 0.0}, {"JointOffset", 0.0}, {"JointCutAngle", 67.5}, {"JointCut", 7.84734345}}},
     {"LockedHeel",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.HeelLocked = true;
        r.Heel = 4;
@@ -113,7 +113,7 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"Heel", 4.0}, {"Seat", 6.19048922}}},
     {"LockedSeat",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.SeatLocked = true;
        r.Seat = 3.5;
@@ -121,7 +121,7 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"Heel", 10.49541583}, {"Seat", 3.5}}},
     {"LockedZeroHeelClearsTheOverhang",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.HeelLocked = true;
        r.Heel = 0;
@@ -133,7 +133,7 @@ const CalculationRow kBottom[] = {
       {"AdjFasciaHeight", 0.0},
       {"Length2", 91.45941061}}},
     {"HeelAboveThePlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.HeelLocked = true;
        r.Heel = 50;
@@ -141,7 +141,7 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"Heel", 18.94516363}, {"Seat", 0.0}}},
     {"NegativeHeelTakesHalf",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.SeatLocked = true;
        r.Seat = 50;
@@ -149,14 +149,14 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"Heel", 9.47258181}, {"Seat", 3.92367170}, {"Overhang", 10.5}}},
     {"TallFasciaStopsAtThePlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.FasciaHeight = 30;
      },
      kGambrel,
      {{"AdjFasciaHeight", 18.94516363}}},
     {"NoOverhangLimitsTheFasciaToTheHeel",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.FasciaHeight = 30;
        r.Overhang = 0;
@@ -164,15 +164,15 @@ const CalculationRow kBottom[] = {
      kGambrel,
      {{"AdjFasciaHeight", 9.47258181}}},
     {"WithoutSlope",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Bottom(r);
        r.Slope = 0;
      },
      kGambrel,
      {{"PlumbRun", kInfinity}, {"Seat", kInfinity}, {"JointCutAngle", 90.0}, {"Rise", 0.0}}},
-    {"CalculateHandsOver", Bottom, &CRafter::Calculate, {{"Heel", 9.47258181}, {"Length1", 91.45941061}}},
+    {"CalculateHandsOver", Bottom, &Rafter::Calculate, {{"Heel", 9.47258181}, {"Length1", 91.45941061}}},
     {"MetricPitch",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SetUnits(1);
        Bottom(r);
        r.Slope = 2414.21337890625;
@@ -184,7 +184,7 @@ INSTANTIATE_TEST_SUITE_P(Bottom, GambrelTable, testing::ValuesIn(kBottom), RowNa
 
 const CalculationRow kTop[] = {
     {"OnAPurlin",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 0);
        r.Purlins = true;
      },
@@ -202,7 +202,7 @@ const CalculationRow kTop[] = {
       {"RiseToSpan", 35.20815412},
       {"Pitch", " 4.970563/12"}}},
     {"ZeroHeelRestsFlatAndClearsTheOverhang",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 0);
        r.JointOffset = 7;
      },
@@ -218,7 +218,7 @@ const CalculationRow kTop[] = {
       {"AdjSpan", 84.25},
       {"Length1", 91.19154338}}},
     {"RaisedHeelIsCutSquare",
-     [](CRafter& r) { Top(r, 3); },
+     [](Rafter& r) { Top(r, 3); },
      kGambrel,
      {{"JointOffset", 0.0},
       {"TopCutAngle", 90.0},
@@ -229,24 +229,24 @@ const CalculationRow kTop[] = {
       {"Length2", 102.55666154},
       {"RiseToSpanWithOverhang", 39.55739669}}},
     {"ALittleHeelIsARaisedOne",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 0.5);
        r.JointOffset = 7;
      },
      kGambrel,
      {{"JointOffset", 0.0}, {"TopCutAngle", 90.0}, {"Heel", 0.5}}},
     {"LocksAreNotLookedAt",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 3);
        r.SeatLocked = true;
        r.Seat = 1;
      },
      kGambrel,
      {{"Heel", 3.0}, {"Seat", 11.70252197}}},
-    {"HeelAboveThePlumbCut", [](CRafter& r) { Top(r, 50); }, kGambrel, {{"Heel", 7.84734350}, {"Seat", 0.0}}},
+    {"HeelAboveThePlumbCut", [](Rafter& r) { Top(r, 50); }, kGambrel, {{"Heel", 7.84734350}, {"Seat", 0.0}}},
     // A heel below 0 is none of the supports: the joint keeps its figures and the locks count again.
     {"NegativeHeelTakesHalf",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, -1);
        r.JointOffset = 7;
        r.TopCutAngle = 8;
@@ -260,7 +260,7 @@ const CalculationRow kTop[] = {
       {"JointCut", 9.0},
       {"AdjSpan", 77.25}}},
     {"NegativeHeelWithALockedSeat",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, -1);
        r.SeatLocked = true;
        r.Seat = 2;
@@ -268,7 +268,7 @@ const CalculationRow kTop[] = {
      kGambrel,
      {{"Heel", 7.01891634}, {"Seat", 2.0}}},
     {"OnAPurlinWithoutThickness",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 0);
        r.Purlins = true;
        r.RidgeThickness = 0;
@@ -277,7 +277,7 @@ const CalculationRow kTop[] = {
      {{"RidgeAllowance", 0.0}, {"JointOffset", 0.0}, {"JointCut", 7.84734345}, {"Length1", 92.00333753}}},
     // Only the bottom rafter carries a fascia that could be taller than its plumb cut.
     {"TallFasciaStays",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Top(r, 3);
        r.FasciaHeight = 30;
      },

@@ -7,19 +7,19 @@ namespace pitchcraft {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr auto kCalculate = &CRafter::Calculate;
+constexpr auto kCalculate = &Rafter::Calculate;
 
 class HeelTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(HeelTable, Gives) { CheckRow(GetParam()); }
 
-void LockHeel(CRafter& r, double heel) {
+void LockHeel(Rafter& r, double heel) {
   r.HeelLocked = true;
   r.Heel = heel;
 }
 
 // A seat so long that the heel above it comes out exactly 0: at slope 12 the seat is the plumb cut.
-void LockSeatToNoHeel(CRafter& r) {
+void LockSeatToNoHeel(Rafter& r) {
   r.Slope = 12;
   r.Calculate();
   r.SeatLocked = true;
@@ -29,22 +29,22 @@ void LockSeatToNoHeel(CRafter& r) {
 
 const CalculationRow kHeels[] = {
     {"TwoThirdsOfThePlumbCutWhenUnlocked",
-     [](CRafter& r) { r.Depth = 5.5; },
+     [](Rafter& r) { r.Depth = 5.5; },
      kCalculate,
      {{"PlumbCut", 6.14918694}, {"Heel", 4.09945817}, {"Seat", 4.09945755}}},
     {"LockedHeelGivesSeat",
-     [](CRafter& r) { LockHeel(r, 4); },
+     [](Rafter& r) { LockHeel(r, 4); },
      kCalculate,
      {{"Heel", 4.0}, {"Seat", 8.21149284}, {"CommonHeel", 4.0}, {"CommonSeat", 8.21149284}}},
     {"LockedSeatGivesHeel",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SeatLocked = true;
        r.Seat = 3.5;
      },
      kCalculate,
      {{"Heel", 6.35574642}, {"Seat", 3.5}, {"CommonHeel", 6.35574642}, {"CommonSeat", 3.5}}},
     {"HeelLockGoesBeforeSeatLock",
-     [](CRafter& r) {
+     [](Rafter& r) {
        LockHeel(r, 4);
        r.SeatLocked = true;
        r.Seat = 1;
@@ -52,36 +52,36 @@ const CalculationRow kHeels[] = {
      kCalculate,
      {{"Heel", 4.0}, {"Seat", 8.21149284}}},
     {"ALockOfOneIsNoLock",
-     [](CRafter& r) {
+     [](Rafter& r) {
        LockHeel(r, 4);
        r.HeelLocked = Flag::FromInteger(1);
      },
      kCalculate,
      {{"Heel", 5.40383122}, {"Seat", 5.40383041}}},
     {"HeelAboveThePlumbCutIsThePlumbCut",
-     [](CRafter& r) { LockHeel(r, 20); },
+     [](Rafter& r) { LockHeel(r, 20); },
      kCalculate,
      {{"Heel", 8.10574642}, {"Seat", 0.0}, {"CommonHeel", 8.10574642}, {"CommonSeat", 0.0}}},
     {"HeelEqualToThePlumbCutStays",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.Calculate();
        LockHeel(r, r.PlumbCut);
      },
      kCalculate,
      {{"Heel", 8.10574642}, {"Seat", 0.0}, {"Overhang", 10.5}}},
     {"HeelEqualToThePlumbCutOfALevelRafterHasNoSeat",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.Slope = 0;
        LockHeel(r, r.Depth);
      },
      kCalculate,
      {{"Heel", 7.25}, {"Seat", std::numeric_limits<double>::quiet_NaN()}}},
     {"ASmallHeelStays",
-     [](CRafter& r) { LockHeel(r, 0.125); },
+     [](Rafter& r) { LockHeel(r, 0.125); },
      kCalculate,
      {{"Heel", 0.125}, {"Seat", 15.96149284}, {"Overhang", 10.5}}},
     {"LockedZeroHeelClearsTheOverhang",
-     [](CRafter& r) { LockHeel(r, 0); },
+     [](Rafter& r) { LockHeel(r, 0); },
      kCalculate,
      {{"Heel", 0.0},
       {"Overhang", 0.0},
@@ -94,20 +94,20 @@ const CalculationRow kHeels[] = {
      kCalculate,
      {{"Heel", 0.0}, {"Overhang", 0.0}, {"Seat", 10.25304833}, {"AdjFasciaHeight", 0.0}}},
     {"SeatLockedTooLongIsOverruled",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SeatLocked = true;
        r.Seat = 20;
      },
      kCalculate,
      {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
     {"LockedNegativeHeelIsOverruled",
-     [](CRafter& r) { LockHeel(r, -1); },
+     [](Rafter& r) { LockHeel(r, -1); },
      kCalculate,
      {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
     // The runs of hip and hip end were taken before the heel cleared the overhang; they follow at the next
     // run.
     {"ZeroHeelLeavesTheOverhangsOfTheHipThisOnce",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kHip;
        LockHeel(r, 0);
      },
@@ -117,7 +117,7 @@ const CalculationRow kHeels[] = {
       {"HipValOverhang", 14.84924175},
       {"AdjHipSpanWithOverhang", 217.43532558}}},
     {"SlopeZeroHasAnEndlessSeat",
-     [](CRafter& r) { r.Slope = 0; },
+     [](Rafter& r) { r.Slope = 0; },
      kCalculate,
      {{"PlumbCut", 7.25},
       {"Heel", 4.83333358},
@@ -128,7 +128,7 @@ const CalculationRow kHeels[] = {
       {"Pitch", " 0/12"},
       {"HipPitch", " 0/12"}}},
     {"SlopeSixAfterSlopeZeroIsPlainAgain",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.Slope = 0;
        r.Calculate();
        r.Slope = 6;
@@ -140,18 +140,18 @@ INSTANTIATE_TEST_SUITE_P(Heels, HeelTable, testing::ValuesIn(kHeels), RowName);
 
 const CalculationRow kFascias[] = {
     {"TallerThanThePlumbCut",
-     [](CRafter& r) { r.FasciaHeight = 12; },
+     [](Rafter& r) { r.FasciaHeight = 12; },
      kCalculate,
      {{"AdjFasciaHeight", 8.10574642}, {"FasciaHeight", 12.0}}},
     {"NoOverhangLimitsItToTheHeel",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.FasciaHeight = 12;
        r.Overhang = 0;
      },
      kCalculate,
      {{"AdjFasciaHeight", 5.40383122}}},
     {"NoOverhangLeavesALowFascia",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.FasciaHeight = 3.5;
        r.Overhang = 0;
      },
@@ -159,14 +159,14 @@ const CalculationRow kFascias[] = {
      {{"AdjFasciaHeight", 3.5}}},
     // Lower than the plumb cut of the common but taller than that of the hip: it goes up to the common's.
     {"TallerThanAShallowHip",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kHip;
        r.HipValDepth = 5.5;
      },
      kCalculate,
      {{"HipValPlumbCut", 5.83363089}, {"AdjFasciaHeight", 7.84058137}}},
     {"AsTallAsAShallowHipStays",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kHip;
        r.HipValDepth = 5.5;
        r.Calculate();
@@ -175,18 +175,18 @@ const CalculationRow kFascias[] = {
      kCalculate,
      {{"AdjFasciaHeight", 5.56846584}}},
     {"TallerThanAShallowValley",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kValley;
        r.HipValDepth = 5.5;
      },
      kCalculate,
      {{"AdjFasciaHeight", 8.10574642}}},
     {"AShallowHipDoesNotMoveTheCommonsFascia",
-     [](CRafter& r) { r.HipValDepth = 5.5; },
+     [](Rafter& r) { r.HipValDepth = 5.5; },
      kCalculate,
      {{"AdjFasciaHeight", 7.25}}},
     {"TheDropOfTheHipLowersIt",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kHip;
        r.Slope = 12;
      },

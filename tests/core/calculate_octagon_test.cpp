@@ -6,15 +6,15 @@
 namespace pitchcraft {
 namespace {
 
-constexpr auto kOctagon = &CRafter::CalculateOctagon;
+constexpr auto kOctagon = &Rafter::CalculateOctagon;
 
 class OctagonTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(OctagonTable, Gives) { CheckRow(GetParam()); }
 
-void Hip(CRafter& r) { r.RafterType = RafterType::kOctagonHip; }
+void Hip(Rafter& r) { r.RafterType = RafterType::kOctagonHip; }
 
-void Jack(CRafter& r) { r.RafterType = RafterType::kOctagonJack; }
+void Jack(Rafter& r) { r.RafterType = RafterType::kOctagonJack; }
 
 const CalculationRow kOctagons[] = {
     {"Hip",
@@ -55,7 +55,7 @@ const CalculationRow kOctagons[] = {
       {"HipPitch", " 5.54/12"},
       {"HipEndPitch", ""}}},
     {"ClearsTheAllowancesOfAHipRoof",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.Calculate();
        r.HipValSpan = 0;
        Hip(r);
@@ -72,14 +72,14 @@ const CalculationRow kOctagons[] = {
       {"Length1", 137.21233912},
       {"Length2", 148.95169601}}},
     {"RunToTheCornerFromTheRunToTheSide",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.Span = 100;
      },
      kOctagon,
      {{"Span", 100.0}, {"HipValSpan", 108.23922003}}},
     {"RunToTheSideFromTheRunToTheCorner",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.Span = 0;
        r.HipValSpan = 100;
@@ -88,7 +88,7 @@ const CalculationRow kOctagons[] = {
      {{"Span", 92.38795325}, {"HipValSpan", 100.0}}},
     // Two runs that do not belong together stand as they are, and the hip goes by their ratio.
     {"BothRunsStay",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.Span = 100;
        r.HipValSpan = 150;
@@ -96,14 +96,14 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Span", 100.0}, {"HipValSpan", 150.0}, {"HipValSlope", 4.0}, {"HipValOverhang", 15.75}}},
     {"NoRunIsNoNumber",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.Span = 0;
      },
      kOctagon,
      {{"Span", 0.0}, {"HipValSpan", std::nan("")}, {"HipValSlope", std::nan("")}}},
     {"SpacingZero",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Jack(r);
        r.spacing = 0;
      },
@@ -113,7 +113,7 @@ const CalculationRow kOctagons[] = {
       {"CommonDifference16", 0.0},
       {"CommonDifference24", 0.0}}},
     {"OtherMembersKeepRiseAndLength",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kCommon;
        r.Rise = 5;
        r.Length1 = 6;
@@ -121,7 +121,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Rise", 5.0}, {"Length1", 6.0}, {"HipValSpan", 155.86447684}}},
     {"ALockOfOneIsNoLock",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.HeelLocked = Flag::FromInteger(1);
        r.Heel = 4;
@@ -129,7 +129,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Heel", 5.40383122}}},
     {"LockedSeat",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.SeatLocked = true;
        r.Seat = 3.5;
@@ -137,7 +137,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Heel", 6.35574642}, {"Seat", 3.5}}},
     {"ZeroHeelTakesTheDefaultAndLeavesTheOverhang",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.HeelLocked = true;
        r.Heel = 0;
@@ -145,7 +145,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Heel", 5.40383122}, {"Seat", 5.40383041}, {"Overhang", 10.5}}},
     {"HeelAboveThePlumbCut",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.HeelLocked = true;
        r.Heel = 50;
@@ -153,7 +153,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"Heel", 8.10574642}, {"Seat", 0.0}}},
     {"NoOverhangLimitsTheFasciaToTheHeel",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Hip(r);
        r.Overhang = 0;
        r.FasciaHeight = 30;
@@ -162,7 +162,7 @@ const CalculationRow kOctagons[] = {
      kOctagon,
      {{"AdjFasciaHeight", 5.40383122}, {"HipEndFasciaCut", 6.05846495}, {"HipFasciaCut", 5.24850113}}},
     {"MetricTexts",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.SetUnits(1);
        Hip(r);
        r.Slope = 333.7;
@@ -173,7 +173,7 @@ const CalculationRow kOctagons[] = {
 INSTANTIATE_TEST_SUITE_P(Octagons, OctagonTable, testing::ValuesIn(kOctagons), RowName);
 
 TEST(Octagon, ASecondRunKeepsBothRuns) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   Hip(rafter);
   rafter.CalculateOctagon();
@@ -184,7 +184,7 @@ TEST(Octagon, ASecondRunKeepsBothRuns) {
 }
 
 TEST(Octagon, JackAndHipRiseDifferently) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   Hip(rafter);
   rafter.CalculateOctagon();

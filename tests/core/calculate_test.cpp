@@ -4,7 +4,7 @@
 namespace pitchcraft {
 namespace {
 
-constexpr auto kCalculate = &CRafter::Calculate;
+constexpr auto kCalculate = &Rafter::Calculate;
 
 class CalculateTable : public testing::TestWithParam<CalculationRow> {};
 
@@ -13,7 +13,7 @@ TEST_P(CalculateTable, Gives) { CheckRow(GetParam()); }
 // The small house: slope 6, run 144, overhang 10 1/2, 2 x 8 rafters, 2 x 10 hip, 1 1/2 ridge.
 const CalculationRow kMembers[] = {
     {"Common",
-     [](CRafter& r) { r.RafterType = RafterType::kCommon; },
+     [](Rafter& r) { r.RafterType = RafterType::kCommon; },
      kCalculate,
      {{"Rise", 71.625},
       {"RiseWithOverhang", 76.875},
@@ -53,7 +53,7 @@ const CalculationRow kMembers[] = {
       {"HipEndPitch", " 6/12"},
       {"HipPitch", " 4.24/12"}}},
     {"Hip",
-     [](CRafter& r) { r.RafterType = RafterType::kHip; },
+     [](Rafter& r) { r.RafterType = RafterType::kHip; },
      kCalculate,
      {{"HipValSpan", 203.646744},
       {"HipValOverhang", 14.84924175},
@@ -75,7 +75,7 @@ const CalculationRow kMembers[] = {
       {"BottomBevelAngle", 45.0},
       {"TopBevelAngle", 45.0}}},
     {"Valley",
-     [](CRafter& r) { r.RafterType = RafterType::kValley; },
+     [](Rafter& r) { r.RafterType = RafterType::kValley; },
      kCalculate,
      {{"ValRidgeAllowance", 1.06066017},
       {"AdjValSpan", 202.58608383},
@@ -89,7 +89,7 @@ const CalculationRow kMembers[] = {
       {"BottomBevelAngle", 45.0},
       {"TopBevelAngle", 45.0}}},
     {"LongValley",
-     [](CRafter& r) { r.RafterType = RafterType::kLongValley; },
+     [](Rafter& r) { r.RafterType = RafterType::kLongValley; },
      kCalculate,
      {{"ValRidgeAllowance", 1.06066017},
       {"Length1", 214.87499153},
@@ -97,7 +97,7 @@ const CalculationRow kMembers[] = {
       {"BottomBevelAngle", 45.0},
       {"TopBevelAngle", 45.0}}},
     {"ShortValleyButtsTheLongOne",
-     [](CRafter& r) { r.RafterType = RafterType::kShortValley; },
+     [](Rafter& r) { r.RafterType = RafterType::kShortValley; },
      kCalculate,
      {{"ValRidgeAllowance", 0.75},
       {"AdjValSpan", 202.896744},
@@ -107,7 +107,7 @@ const CalculationRow kMembers[] = {
       {"BottomBevelAngle", 45.0},
       {"TopBevelAngle", 0.0}}},
     {"ShedButtsTheWholeRidge",
-     [](CRafter& r) { r.RafterType = RafterType::kShed; },
+     [](Rafter& r) { r.RafterType = RafterType::kShed; },
      kCalculate,
      {{"RidgeAllowance", 1.5},
       {"AdjSpan", 142.5},
@@ -119,55 +119,52 @@ const CalculationRow kMembers[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Members, CalculateTable, testing::ValuesIn(kMembers), RowName);
 
-void Metric(CRafter& r, double slope) {
+void Metric(Rafter& r, double slope) {
   r.SetUnits(1);
   r.Slope = slope;
 }
 
 const CalculationRow kTexts[] = {
     {"BelowOne",
-     [](CRafter& r) { r.Slope = 0.5; },
+     [](Rafter& r) { r.Slope = 0.5; },
      kCalculate,
      {{"Pitch", " .5/12"}, {"HipEndPitch", " .5/12"}, {"HipPitch", " 0.35/12"}}},
-    {"HipIsCutNotRounded", [](CRafter& r) { r.Slope = 12; }, kCalculate, {{"HipPitch", " 8.48/12"}}},
+    {"HipIsCutNotRounded", [](Rafter& r) { r.Slope = 12; }, kCalculate, {{"HipPitch", " 8.48/12"}}},
     {"HipOfTenKeepsTwoDecimals",
-     [](CRafter& r) { r.Slope = 15; },
+     [](Rafter& r) { r.Slope = 15; },
      kCalculate,
      {{"Pitch", " 15/12"}, {"HipPitch", " 10.60/12"}}},
-    {"Negative",
-     [](CRafter& r) { r.Slope = -6; },
-     kCalculate,
-     {{"Pitch", "-6/12"}, {"HipPitch", " -4.2/12"}}},
+    {"Negative", [](Rafter& r) { r.Slope = -6; }, kCalculate, {{"Pitch", "-6/12"}, {"HipPitch", " -4.2/12"}}},
     {"MetricIsWhole",
-     [](CRafter& r) { Metric(r, 333.3); },
+     [](Rafter& r) { Metric(r, 333.3); },
      kCalculate,
      {{"Pitch", " 333/1000"}, {"HipPitch", " 236/1000"}}},
     {"MetricHalfGoesToTheEvenNumberUp",
-     [](CRafter& r) { Metric(r, 499.5); },
+     [](Rafter& r) { Metric(r, 499.5); },
      kCalculate,
      {{"Pitch", " 500/1000"}}},
     {"MetricHalfGoesToTheEvenNumberDown",
-     [](CRafter& r) { Metric(r, 500.5); },
+     [](Rafter& r) { Metric(r, 500.5); },
      kCalculate,
      {{"Pitch", " 500/1000"}}},
     {"HugeIsCutInTheMiddleOfItsDigits",
-     [](CRafter& r) { r.Slope = 1e30; },
+     [](Rafter& r) { r.Slope = 1e30; },
      kCalculate,
      {{"Pitch", " 1E+30/12"}, {"HipPitch", " 7.071/12"}}},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, CalculateTable, testing::ValuesIn(kTexts), RowName);
 
 const CalculationRow kRest[] = {
-    {"KneewallRise", [](CRafter& r) { r.Kneewall = 60; }, kCalculate, {{"KneewallRise", 30.0}}},
+    {"KneewallRise", [](Rafter& r) { r.Kneewall = 60; }, kCalculate, {{"KneewallRise", 30.0}}},
     // 16 goes by the millimetre, 24 by two base runs: the two formulas part in metric.
     {"MetricJackDifferences",
-     [](CRafter& r) { Metric(r, 500); },
+     [](Rafter& r) { Metric(r, 500); },
      kCalculate,
      {{"CommonDifference", 1.11803399},
       {"CommonDifference16", 17.88854382},
       {"CommonDifference24", 2236.06797750}}},
     {"MetricHip",
-     [](CRafter& r) {
+     [](Rafter& r) {
        Metric(r, 1000);
        r.RafterType = RafterType::kHip;
        r.Span = 3600;
@@ -178,7 +175,7 @@ const CalculationRow kRest[] = {
       {"HipDegrees", 35.26},
       {"HipDrop", 0.53033012}}},
     {"ClearsWhatAValleyLeft",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.RafterType = RafterType::kValley;
        r.Calculate();
        r.RafterType = RafterType::kHip;
@@ -186,7 +183,7 @@ const CalculationRow kRest[] = {
      kCalculate,
      {{"ValRidgeAllowance", 0.0}, {"AdjValSpan", 203.646744}}},
     {"ClearsWhatABayLeft",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.BayAngle = r.Back = r.Face = r.Projection = r.HipRunFactor = r.LedgerRunFactor = 12;
        r.CalculateBay();
        ASSERT_EQ(r.LedgerSpan, 12);
@@ -194,7 +191,7 @@ const CalculationRow kRest[] = {
      kCalculate,
      {{"LedgerSpan", 0.0}}},
     {"ClearsWhatABastardHipLeft",
-     [](CRafter& r) {
+     [](Rafter& r) {
        r.HipEndOverhangExcess = 1;
        r.HipEndDrop = 2;
        r.HipShift = 3;
@@ -205,7 +202,7 @@ const CalculationRow kRest[] = {
 INSTANTIATE_TEST_SUITE_P(Rest, CalculateTable, testing::ValuesIn(kRest), RowName);
 
 TEST(Calculate, SeatAndHeelMakeUpThePlumbCut) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.Depth = 5.5;
   rafter.Calculate();
@@ -215,7 +212,7 @@ TEST(Calculate, SeatAndHeelMakeUpThePlumbCut) {
 class OtherMembers : public testing::TestWithParam<RafterType> {};
 
 TEST_P(OtherMembers, KeepLengthsBevelsHeelAndSeatOfTheHip) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.RafterType = RafterType::kHip;
   rafter.Calculate();
@@ -241,7 +238,7 @@ INSTANTIATE_TEST_SUITE_P(Calculate, OtherMembers,
                                          RafterType::kOctagonHip, RafterType::kBayCommon));
 
 TEST(Calculate, ResetsTheKindsOfBevel) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.TopBevelType = 3;
   rafter.BottomBevelType = 3;
@@ -251,7 +248,7 @@ TEST(Calculate, ResetsTheKindsOfBevel) {
 }
 
 TEST(Calculate, RaisesItsEventAfterTheLastStore) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   std::string pitch;
   rafter.Calculated = [&] { pitch = rafter.HipPitch; };

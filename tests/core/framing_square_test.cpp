@@ -53,7 +53,7 @@ class FramingSquare : public testing::TestWithParam<SquareColumn> {
     rafter_.Calculate();
   }
 
-  CRafter rafter_;
+  Rafter rafter_;
 };
 
 TEST_P(FramingSquare, CommonPerFootOfRun) {

@@ -52,8 +52,8 @@ struct GambrelPair {
 
   Break Joint() const { return {Steepness(Bottom), Steepness(Top), Bottom.Span}; }
 
-  CRafter Bottom;
-  CRafter Top;
+  Rafter Bottom;
+  Rafter Top;
 };
 
 RC_GTEST_PROP(GambrelGeometry, BottomRunsFromTheWallToTheFaceOfThePurlin, ()) {
@@ -133,7 +133,7 @@ RC_GTEST_PROP(GambrelGeometry, WithoutAPurlinTheCutsArePlumbAndLevel, ()) {
 RC_GTEST_PROP(GambrelGeometry, OnACircleTheBisectorMeetsTheCentre, ()) {
   const double chord = *rc::gen::inRange(30, 46);  // degrees of arc under each rafter
   const double radius = 200;
-  CRafter bottom;
+  Rafter bottom;
   bottom.RafterType = RafterType::kGambrelBottom;
   bottom.Depth = 7.25;
   bottom.Purlins = true;

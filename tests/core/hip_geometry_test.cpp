@@ -9,7 +9,7 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 
 // The corner of the walls is the origin: the main wall runs along x, the end wall along y.
 struct HipCorner {
-  explicit HipCorner(const CRafter& rafter)
+  explicit HipCorner(const Rafter& rafter)
       : Main(RoofFace({}, {0, 1, 0}, Steepness(rafter))),
         End(RoofFace({}, {1, 0, 0}, Steepness(rafter))),
         Hip(Intersect(Main, End)) {}
@@ -19,13 +19,13 @@ struct HipCorner {
   Line Hip;
 };
 
-void CalculateHip(CRafter& rafter) {
+void CalculateHip(Rafter& rafter) {
   rafter.RafterType = RafterType::kHip;
   rafter.Calculate();
 }
 
 RC_GTEST_PROP(HipGeometry, LiesInBothFaces, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateHip(rafter);
   const HipCorner corner(rafter);
@@ -42,7 +42,7 @@ RC_GTEST_PROP(HipGeometry, LiesInBothFaces, ()) {
 // With rafters and ridge of one thickness the hip is, to the last digit, the line from corner to the end
 // common's cheek.
 RC_GTEST_PROP(HipGeometry, RunsFromCornerToTheCheekOfTheEndCommon, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.RidgeThickness = rafter.Thickness;
   CalculateHip(rafter);
@@ -57,7 +57,7 @@ RC_GTEST_PROP(HipGeometry, RunsFromCornerToTheCheekOfTheEndCommon, ()) {
 // With a ridge of another thickness the run still ends at that cheek, but the rise is the one at the ridge
 // board: the rise is too great by the slope over half the difference of the thicknesses.
 RC_GTEST_PROP(HipGeometry, TakesItsRiseFromTheRidgeBoard, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateHip(rafter);
   const HipCorner corner(rafter);
@@ -69,7 +69,7 @@ RC_GTEST_PROP(HipGeometry, TakesItsRiseFromTheRidgeBoard, ()) {
 }
 
 RC_GTEST_PROP(HipGeometry, DropsUntilItsEdgesLieInTheFaces, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateHip(rafter);
   const HipCorner corner(rafter);
@@ -81,7 +81,7 @@ RC_GTEST_PROP(HipGeometry, DropsUntilItsEdgesLieInTheFaces, ()) {
 
 // The seat of the hip is level at the height of the common's, measured along the hip.
 RC_GTEST_PROP(HipGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateHip(rafter);
   const HipCorner corner(rafter);
@@ -99,7 +99,7 @@ RC_GTEST_PROP(HipGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
 
 // Jacks stand square to the wall and end on the hip; each is longer than its neighbour by the difference.
 RC_GTEST_PROP(HipGeometry, JacksGrowByTheDifference, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateHip(rafter);
   const HipCorner corner(rafter);

@@ -7,24 +7,24 @@
 namespace pitchcraft {
 namespace {
 
-using Procedure = void (CRafter::*)();
+using Procedure = void (Rafter::*)();
 
 constexpr Procedure kProcedures[] = {
-    &CRafter::Calculate,        &CRafter::CalculateBastardHip, &CRafter::CalculateAdjustedBastardHip,
-    &CRafter::CalculateGambrel, &CRafter::CalculateBay,        &CRafter::CalculateOctagon};
+    &Rafter::Calculate,        &Rafter::CalculateBastardHip, &Rafter::CalculateAdjustedBastardHip,
+    &Rafter::CalculateGambrel, &Rafter::CalculateBay,        &Rafter::CalculateOctagon};
 
-constexpr Single CRafter::*kInputs[] = {&CRafter::Slope,       &CRafter::Span,
-                                        &CRafter::Overhang,    &CRafter::Thickness,
-                                        &CRafter::Depth,       &CRafter::FasciaHeight,
-                                        &CRafter::Kneewall,    &CRafter::RidgeThickness,
-                                        &CRafter::RidgeDepth,  &CRafter::HipValThickness,
-                                        &CRafter::HipValDepth, &CRafter::spacing,
-                                        &CRafter::HipEndSlope, &CRafter::HipValSlope,
-                                        &CRafter::HipValSpan,  &CRafter::Heel,
-                                        &CRafter::Seat,        &CRafter::Back,
-                                        &CRafter::Face,        &CRafter::Projection,
-                                        &CRafter::BayAngle,    &CRafter::LedgerRunFactor,
-                                        &CRafter::HipRunFactor};
+constexpr Single Rafter::*kInputs[] = {&Rafter::Slope,       &Rafter::Span,
+                                       &Rafter::Overhang,    &Rafter::Thickness,
+                                       &Rafter::Depth,       &Rafter::FasciaHeight,
+                                       &Rafter::Kneewall,    &Rafter::RidgeThickness,
+                                       &Rafter::RidgeDepth,  &Rafter::HipValThickness,
+                                       &Rafter::HipValDepth, &Rafter::spacing,
+                                       &Rafter::HipEndSlope, &Rafter::HipValSlope,
+                                       &Rafter::HipValSpan,  &Rafter::Heel,
+                                       &Rafter::Seat,        &Rafter::Back,
+                                       &Rafter::Face,        &Rafter::Projection,
+                                       &Rafter::BayAngle,    &Rafter::LedgerRunFactor,
+                                       &Rafter::HipRunFactor};
 
 double HostileNumber() {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -32,7 +32,7 @@ double HostileNumber() {
                            -kInfinity, std::numeric_limits<double>::quiet_NaN());
 }
 
-void FillHostile(CRafter& rafter) {
+void FillHostile(Rafter& rafter) {
   rafter.SetUnits(*rc::gen::inRange(0, 2));
   for (const auto input : kInputs) rafter.*input = HostileNumber();
   rafter.RafterType = static_cast<RafterType>(*rc::gen::inRange(-1, 22));
@@ -43,11 +43,11 @@ void FillHostile(CRafter& rafter) {
 }
 
 RC_GTEST_PROP(HostileNumbers, EveryCalculationEndsWithItsEvent, ()) {
-  CRafter rafter;
+  Rafter rafter;
   FillHostile(rafter);
   const Procedure procedure =
       *rc::gen::elementOf(std::vector<Procedure>(std::begin(kProcedures), std::end(kProcedures)));
-  const bool leftAlone = procedure == &CRafter::CalculateBay &&
+  const bool leftAlone = procedure == &Rafter::CalculateBay &&
                          rafter.Projection * rafter.Face * rafter.Back * rafter.BayAngle == 0;
   int events = 0;
   rafter.Calculated = [&events] { ++events; };
@@ -58,11 +58,11 @@ RC_GTEST_PROP(HostileNumbers, EveryCalculationEndsWithItsEvent, ()) {
 // Nothing of a hopeless roof sticks: with sensible inputs again, the same record gives what a fresh one
 // gives.
 RC_GTEST_PROP(HostileNumbers, TheNextSensibleRoofIsPlainAgain, ()) {
-  CRafter worn;
+  Rafter worn;
   FillHostile(worn);
   worn.Calculate();
-  CRafter fresh;
-  for (CRafter* rafter : {&worn, &fresh}) {
+  Rafter fresh;
+  for (Rafter* rafter : {&worn, &fresh}) {
     rafter->SetUnits(0);
     for (const auto input : kInputs) rafter->*input = 8;
     rafter->Span = 144;

@@ -9,14 +9,14 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 
 // The peak stands over the origin. The first side's middle lies on the x axis, its wall runs along y.
 struct Octagon {
-  explicit Octagon(const CRafter& rafter)
+  explicit Octagon(const Rafter& rafter)
       : First(Side(rafter, 0)),
         Second(Side(rafter, 45)),
         Hip(Intersect(First, Second)),
         Corner(Intersect(Hip, AtHeight(0))),
         Peak(Intersect(Hip, Side(rafter, 90))) {}
 
-  static Plane Side(const CRafter& rafter, double degrees) {
+  static Plane Side(const Rafter& rafter, double degrees) {
     const Vector outward{std::cos(Radians(degrees)), std::sin(Radians(degrees)), 0};
     return RoofFace(rafter.Span * outward, -1 * outward, Steepness(rafter));
   }
@@ -28,14 +28,14 @@ struct Octagon {
   Vector Peak;
 };
 
-void DrawOctagon(CRafter& rafter, RafterType type) {
+void DrawOctagon(Rafter& rafter, RafterType type) {
   const RandomRoof roof(rafter);
   rafter.RafterType = type;
   rafter.CalculateOctagon();
 }
 
 RC_GTEST_PROP(OctagonGeometry, HipRunsFromCornerToPeak, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonHip);
   const Octagon octagon(rafter);
   const Vector tail = Intersect(octagon.Hip, AtX(rafter.Span + rafter.Overhang));
@@ -54,7 +54,7 @@ RC_GTEST_PROP(OctagonGeometry, HipRunsFromCornerToPeak, ()) {
 
 // The run to a corner alone gives the same octagon.
 RC_GTEST_PROP(OctagonGeometry, EitherRunGivesTheOther, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonHip);
   const double span = rafter.Span;
   rafter.Span = 0;
@@ -64,7 +64,7 @@ RC_GTEST_PROP(OctagonGeometry, EitherRunGivesTheOther, ()) {
 
 // The longest jack stands half a spacing beside the middle of its side and ends at the cheek of the hip.
 RC_GTEST_PROP(OctagonGeometry, LongestJackEndsAtTheCheekOfTheHip, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonJack);
   const Octagon octagon(rafter);
   const Line edge = Intersect(octagon.First, AtY(rafter.spacing / 2));
@@ -85,7 +85,7 @@ RC_GTEST_PROP(OctagonGeometry, LongestJackEndsAtTheCheekOfTheHip, ()) {
 // for the step of one unit of run times the base, so they come out spacing / SlopeBase times the step at 16
 // or 24.
 RC_GTEST_PROP(OctagonGeometry, JacksGrowByTheDifference, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonJack);
   const Octagon octagon(rafter);
   const auto jackAt = [&](double fromMiddle) {
@@ -103,7 +103,7 @@ RC_GTEST_PROP(OctagonGeometry, JacksGrowByTheDifference, ()) {
 // The drop goes by the slope of the sides where the hip's own would bring its edges into the faces: it is too
 // great by the factor 1 / cos(22.5 degrees), about 8 in 100.
 RC_GTEST_PROP(OctagonGeometry, DropIsALittleGreaterThanTheFacesNeed, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonHip);
   const Octagon octagon(rafter);
   const double needed = DropBeside(octagon.Hip, octagon.First, rafter.HipValThickness / 2, {1, -1, 0});
@@ -111,7 +111,7 @@ RC_GTEST_PROP(OctagonGeometry, DropIsALittleGreaterThanTheFacesNeed, ()) {
 }
 
 RC_GTEST_PROP(OctagonGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   DrawOctagon(rafter, RafterType::kOctagonHip);
   const Octagon octagon(rafter);
   const Vector inward = Unit(-1 * octagon.Corner);

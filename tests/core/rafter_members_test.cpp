@@ -29,7 +29,7 @@ TEST(RafterMembers, AreInTheOrderOfTheRecord) {
 
 // A bay makes nearly every length a different number, so a name that led to its neighbour would show.
 TEST(RafterMembers, ReadTheirOwnMember) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.RafterType = RafterType::kBayLedger;
   rafter.Name = "Bay";

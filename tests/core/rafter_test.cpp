@@ -11,7 +11,7 @@ namespace pitchcraft {
 namespace {
 
 TEST(Rafter, StartsImperialAndEmpty) {
-  const CRafter rafter;
+  const Rafter rafter;
   EXPECT_EQ(rafter.Units(), 0);
   EXPECT_EQ(rafter.SlopeBase, 12);
   EXPECT_EQ(rafter.HipRun, 16.970562);
@@ -32,7 +32,7 @@ TEST(Rafter, StartsImperialAndEmpty) {
 
 TEST(Rafter, AnyUnitsButZeroAreMetric) {
   for (const int units : {1, 2, -1}) {
-    CRafter rafter;
+    Rafter rafter;
     rafter.SetUnits(units);
     EXPECT_EQ(rafter.Units(), units);
     EXPECT_EQ(rafter.SlopeBase, 1000);
@@ -45,7 +45,7 @@ TEST(Rafter, AnyUnitsButZeroAreMetric) {
 }
 
 TEST(Rafter, UnitsConvertNothingAndCalculateNothing) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.Calculate();
   rafter.Calculated = [] { FAIL() << "calculated"; };
@@ -57,7 +57,7 @@ TEST(Rafter, UnitsConvertNothingAndCalculateNothing) {
 }
 
 TEST(Rafter, DerivedMembersIgnoreAWrite) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.Calculate();
   rafter.RidgeAllowance = 9;
@@ -102,23 +102,23 @@ template <typename M>
 constexpr bool kTakesWrite = std::is_assignable_v<M&, double>;
 
 TEST(Rafter, InternalMembersTakeNoWriteAtAll) {
-  static_assert(kTakesWrite<decltype(CRafter::RidgeAllowance)>);
-  static_assert(!kTakesWrite<decltype(CRafter::PlumbCut)>);
-  static_assert(!kTakesWrite<decltype(CRafter::PlumbRun)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipEndPlumbCut)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipEndSeat)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipEndHeel)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipValPlumbCut)>);
-  static_assert(!kTakesWrite<decltype(CRafter::LedgerPlumbCut)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipValSeat)>);
-  static_assert(!kTakesWrite<decltype(CRafter::LedgerSeat)>);
-  static_assert(!kTakesWrite<decltype(CRafter::HipDrop)>);
-  static_assert(!kTakesWrite<decltype(CRafter::LedgerDrop)>);
-  static_assert(!std::is_assignable_v<decltype(CRafter::SlopeBase)&, int>);
+  static_assert(kTakesWrite<decltype(Rafter::RidgeAllowance)>);
+  static_assert(!kTakesWrite<decltype(Rafter::PlumbCut)>);
+  static_assert(!kTakesWrite<decltype(Rafter::PlumbRun)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipEndPlumbCut)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipEndSeat)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipEndHeel)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipValPlumbCut)>);
+  static_assert(!kTakesWrite<decltype(Rafter::LedgerPlumbCut)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipValSeat)>);
+  static_assert(!kTakesWrite<decltype(Rafter::LedgerSeat)>);
+  static_assert(!kTakesWrite<decltype(Rafter::HipDrop)>);
+  static_assert(!kTakesWrite<decltype(Rafter::LedgerDrop)>);
+  static_assert(!std::is_assignable_v<decltype(Rafter::SlopeBase)&, int>);
 }
 
 TEST(Rafter, StoredMembersTakeTheWrite) {
-  CRafter rafter;
+  Rafter rafter;
   rafter.Length1 = 9;
   rafter.HipEndRidgeAllowance = 9;
   rafter.LedgerHeel = 9;
@@ -132,7 +132,7 @@ TEST(Rafter, StoredMembersTakeTheWrite) {
 }
 
 TEST(Rafter, OverhangsEqualIsKeptAsMinusOne) {
-  CRafter rafter;
+  Rafter rafter;
   rafter.OverhangsEqual = true;
   EXPECT_TRUE(rafter.OverhangsEqual);
   EXPECT_EQ(rafter.OverhangsEqual.Stored(), -1);
@@ -150,7 +150,7 @@ TEST(Rafter, ALockIsTrueOnlyAtMinusOne) {
 }
 
 TEST(Rafter, IrregularDoesNothing) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.Calculated = [] { FAIL() << "calculated"; };
   rafter.CalculateIrregular();
@@ -159,7 +159,7 @@ TEST(Rafter, IrregularDoesNothing) {
 }
 
 TEST(Rafter, CalculatesWithNobodyListening) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   rafter.Calculate();
   EXPECT_EQ(rafter.Rise, 71.625);

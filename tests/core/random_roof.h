@@ -16,7 +16,7 @@ namespace pitchcraft {
 /// so that the record holds them without rounding.
 class RandomRoof {
  public:
-  explicit RandomRoof(CRafter& rafter) : rafter_(rafter) {
+  explicit RandomRoof(Rafter& rafter) : rafter_(rafter) {
     rafter.SetUnits(*rc::gen::element(0, 0, 1));
     DrawLumber();
     rafter.Slope = Slope(1, 24);
@@ -51,7 +51,7 @@ class RandomRoof {
     rafter_.HipValDepth = Length(4, 16);
   }
 
-  CRafter& rafter_;
+  Rafter& rafter_;
 };
 
 /// Both figures are the same but for the few roundings to 32 bits of numbers as large as `scale`.
@@ -71,6 +71,6 @@ inline void AgreeRounded(const std::string& what, double calculated, double meas
 }
 
 /// Rise for one unit of run.
-inline double Steepness(const CRafter& rafter) { return rafter.Slope / rafter.SlopeBase; }
+inline double Steepness(const Rafter& rafter) { return rafter.Slope / rafter.SlopeBase; }
 
 }  // namespace pitchcraft

@@ -15,7 +15,7 @@
 namespace pitchcraft {
 
 /// A member of a record by the name that a dump gives it.
-inline MemberValue Member(const CRafter& rafter, const std::string& name) {
+inline MemberValue Member(const Rafter& rafter, const std::string& name) {
   for (const RafterMember& member : RafterMembers()) {
     if (member.Name == name) return member.Read(rafter);
   }
@@ -23,7 +23,7 @@ inline MemberValue Member(const CRafter& rafter, const std::string& name) {
   return 0.0;
 }
 
-inline double Number(const CRafter& rafter, const std::string& name) {
+inline double Number(const Rafter& rafter, const std::string& name) {
   const MemberValue value = Member(rafter, name);
   if (const auto* single = std::get_if<Single>(&value)) return *single;
   if (const auto* number = std::get_if<double>(&value)) return *number;
@@ -34,7 +34,7 @@ inline double Number(const CRafter& rafter, const std::string& name) {
 }
 
 /// The lumber and the runs of a small house: slope 6, 24 feet wide, 2 x 8 rafters.
-inline void SmallHouse(CRafter& rafter) {
+inline void SmallHouse(Rafter& rafter) {
   rafter.Slope = 6;
   rafter.Span = 144;
   rafter.Overhang = 10.5;
@@ -57,14 +57,14 @@ struct ExpectedMember {
 
 struct CalculationRow {
   const char* Name;
-  void (*Given)(CRafter&);
-  void (CRafter::*Run)();
+  void (*Given)(Rafter&);
+  void (Rafter::*Run)();
   std::vector<ExpectedMember> Expected;
 };
 
 inline void PrintTo(const CalculationRow& row, std::ostream* out) { *out << row.Name; }
 
-inline void ExpectMember(const CRafter& rafter, const ExpectedMember& expected) {
+inline void ExpectMember(const Rafter& rafter, const ExpectedMember& expected) {
   if (const auto* text = std::get_if<const char*>(&expected.Value)) {
     EXPECT_EQ(std::get<std::string>(Member(rafter, expected.Name)), *text) << expected.Name;
     return;
@@ -83,7 +83,7 @@ inline void ExpectMember(const CRafter& rafter, const ExpectedMember& expected) 
 
 /// Sets up, runs and compares one row; the event must have come exactly once in the run.
 inline void CheckRow(const CalculationRow& row) {
-  CRafter rafter;
+  Rafter rafter;
   SmallHouse(rafter);
   row.Given(rafter);
   int events = 0;

@@ -10,9 +10,9 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 // The middle of a common rafter's top edge: the front face in a vertical plane across the house.
 Line TopEdge(const Plane& face) { return Intersect(face, AtX(40)); }
 
-Plane FrontFace(const CRafter& rafter) { return RoofFace({0, 0, 0}, {0, 1, 0}, Steepness(rafter)); }
+Plane FrontFace(const Rafter& rafter) { return RoofFace({0, 0, 0}, {0, 1, 0}, Steepness(rafter)); }
 
-void MeasureCommon(const CRafter& rafter, double ridgeFace) {
+void MeasureCommon(const Rafter& rafter, double ridgeFace) {
   const Line edge = TopEdge(FrontFace(rafter));
   const Vector wall = Intersect(edge, AtY(0));
   const Vector top = Intersect(edge, AtY(ridgeFace));
@@ -26,7 +26,7 @@ void MeasureCommon(const CRafter& rafter, double ridgeFace) {
 }
 
 RC_GTEST_PROP(CommonGeometry, RunsFromWallToTheFaceOfTheRidge, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.Calculate();
   // The rear face starts at the rear wall; the ridge line is where the two faces meet.
@@ -39,7 +39,7 @@ RC_GTEST_PROP(CommonGeometry, RunsFromWallToTheFaceOfTheRidge, ()) {
 }
 
 RC_GTEST_PROP(CommonGeometry, ShedRunsToTheNearFaceOfABoardWithinTheSpan, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.RafterType = RafterType::kShed;
   rafter.Calculate();
@@ -47,7 +47,7 @@ RC_GTEST_PROP(CommonGeometry, ShedRunsToTheNearFaceOfABoardWithinTheSpan, ()) {
 }
 
 RC_GTEST_PROP(SeatGeometry, UndersideMeetsThePlateAtTheEndOfTheSeat, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.HeelLocked = true;
   rafter.Heel = roof.Length(1, 4);
@@ -61,7 +61,7 @@ RC_GTEST_PROP(SeatGeometry, UndersideMeetsThePlateAtTheEndOfTheSeat, ()) {
 }
 
 RC_GTEST_PROP(SeatGeometry, ALockedSeatEndsWhereTheUndersideMeetsThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.SeatLocked = true;
   rafter.Seat = roof.Length(1, 4);
@@ -76,7 +76,7 @@ RC_GTEST_PROP(SeatGeometry, ALockedSeatEndsWhereTheUndersideMeetsThePlate, ()) {
 }
 
 RC_GTEST_PROP(SeatGeometry, DefaultHeelLeavesAThirdOfThePlumbCutBelow, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   rafter.Calculate();
   const Plane top = RoofFace({0, 0, rafter.Heel}, {0, 1, 0}, Steepness(rafter));

@@ -9,17 +9,17 @@ using namespace geometry;  // NOLINT(google-build-using-namespace)
 
 // The inside corner is the origin. One wing's ridge runs along x at y = Span, the other's along y at x =
 // Span.
-Line ValleyLine(const CRafter& rafter) {
+Line ValleyLine(const Rafter& rafter) {
   return Intersect(RoofFace({}, {0, 1, 0}, Steepness(rafter)), RoofFace({}, {1, 0, 0}, Steepness(rafter)));
 }
 
-void CalculateAs(CRafter& rafter, RafterType type) {
+void CalculateAs(Rafter& rafter, RafterType type) {
   rafter.RafterType = type;
   rafter.Calculate();
 }
 
 RC_GTEST_PROP(ValleyGeometry, RunsFromCornerToTheFaceOfTheRidge, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateAs(rafter, *rc::gen::element(RafterType::kValley, RafterType::kLongValley));
   const Line valley = ValleyLine(rafter);
@@ -36,7 +36,7 @@ RC_GTEST_PROP(ValleyGeometry, RunsFromCornerToTheFaceOfTheRidge, ()) {
 // common at the ridge board, so it departs from the height at that cheek by the slope over the difference of
 // the two runs.
 RC_GTEST_PROP(ValleyGeometry, ShortValleyButtsTheCheekOfTheLongOne, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateAs(rafter, RafterType::kShortValley);
   const Line valley = ValleyLine(rafter);
@@ -53,7 +53,7 @@ RC_GTEST_PROP(ValleyGeometry, ShortValleyButtsTheCheekOfTheLongOne, ()) {
 
 // A valley bears on its middle line, so nothing is dropped: its seat starts from the common's heel.
 RC_GTEST_PROP(ValleyGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
-  CRafter rafter;
+  Rafter rafter;
   RandomRoof roof(rafter);
   CalculateAs(rafter, RafterType::kValley);
   const double slope = SlopeOf(ValleyLine(rafter));

@@ -34,28 +34,28 @@ TEST_F(ActionsTest, ABoxThatIsSoAlreadyIsNotClicked) {
 
 TEST_F(ActionsTest, EditingStaysInTheField) {
   Edit("FtSpan(0)", "15'");
-  EXPECT_EQ(sheet.FtSpan[0].Text(), "15'");
+  EXPECT_EQ(sheet.Span[0].Text(), "15'");
   EXPECT_EQ(rafter.Span, 144);
 }
 
 TEST_F(ActionsTest, ItemsOfAPopupGoByTheirOwnFlag) {
-  EXPECT_FALSE(menus.mnuPopUp1.Visible);
+  EXPECT_FALSE(menus.PopUp1.Visible);
   Click("mnuPopUp1SquareCut");
-  EXPECT_TRUE(menus.mnuSettingsSquareCut.Checked);
+  EXPECT_TRUE(menus.SettingsSquareCut.Checked);
 }
 
 TEST_F(ActionsTest, ALockedSlopeAndADerivedBayFieldKeepTheirText) {
   Pick("cboType", "Gambrel Roof");
   Type("LWSlope(0)", "9 | 12");
-  EXPECT_EQ(sheet.LWSlope[0].LeftValue(), 5);
+  EXPECT_EQ(sheet.Slope[0].LeftValue(), 5);
   Pick("cboType", "Bay Roof");
   Type("FtFace", "4'");
   Type("FtBack", "8'");
   Type("FtBayAngle", "45");
-  ASSERT_TRUE(sheet.FtProjection.Calculated);
-  const std::string text = sheet.FtProjection.Text();
+  ASSERT_TRUE(sheet.Projection.Calculated);
+  const std::string text = sheet.Projection.Text();
   Type("FtProjection", "9'");
-  EXPECT_EQ(sheet.FtProjection.Text(), text);
+  EXPECT_EQ(sheet.Projection.Text(), text);
 }
 
 }  // namespace

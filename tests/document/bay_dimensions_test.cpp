@@ -36,7 +36,7 @@ TEST_F(BayDimensionsTest, AnyThreeGiveTheFourth) {
     EXPECT_NEAR(rafter.Back, 120, 1e-4) << solved;
     EXPECT_NEAR(rafter.BayAngle, 45, 1e-4) << solved;
     EXPECT_NEAR(rafter.BaySide, 30 * std::sqrt(2.0), 1e-4) << solved;
-    const auto* field = std::get<FtInText*>(*sheet.Find(rows[solved].field));
+    const auto* field = std::get<MeasureControl*>(*sheet.Find(rows[solved].field));
     EXPECT_TRUE(field->Calculated && field->ReadOnly) << solved;
     EXPECT_EQ(field->ForeColor, document.CtlCalcColor);
   }
@@ -58,14 +58,14 @@ TEST_F(BayDimensionsTest, ASquareCornerNeedsItsProjection) {
   EXPECT_EQ(LastMessage().first, "Pitchcraft");
   EXPECT_EQ(LastMessage().second, "Projection must be entered if bay angle = 90\u00BA");
   EXPECT_EQ(document.FocusRequest, "Command1");
-  EXPECT_EQ(sheet.FtProjection.Value(), 0);
+  EXPECT_EQ(sheet.Projection.Value(), 0);
 }
 
 TEST_F(BayDimensionsTest, EqualBackAndFaceHaveASquareCorner) {
   Type("FtProjection", "36");
   Type("FtFace", "96");
   Type("FtBack", "96");
-  EXPECT_EQ(sheet.FtBayAngle.Value(), 90);
+  EXPECT_EQ(sheet.BayAngle.Value(), 90);
   EXPECT_EQ(rafter.BaySide, 36);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
@@ -89,7 +89,7 @@ TEST_F(BayDimensionsTest, HipsThatWouldCrossResetTheBay) {
   Type("FtBack", "120");
   EXPECT_EQ(LastMessage().first, "Bay Dimensions");
   EXPECT_EQ(LastMessage().second, "Not possible... Hip rafters will cross!");
-  for (const FtInText* field : {&sheet.FtProjection, &sheet.FtFace, &sheet.FtBack, &sheet.FtBayAngle}) {
+  for (const MeasureControl* field : {&sheet.Projection, &sheet.Face, &sheet.Back, &sheet.BayAngle}) {
     EXPECT_EQ(field->Text(), "");
     EXPECT_FALSE(field->Calculated || field->ReadOnly);
     EXPECT_EQ(field->ForeColor, document.CtlForeColor);
@@ -100,13 +100,13 @@ TEST_F(BayDimensionsTest, ADutchHipTooDeepGoesBackToTwoThirds) {
   Pick("cboType", "Dutch Hip");
   Type("FtSpan(2)", "13'");
   EXPECT_EQ(LastMessage().first, "Dutch Hip Dimensions");
-  EXPECT_EQ(sheet.FtSpan[2].Value(), 96);
-  EXPECT_EQ(sheet.FtProjection.Value(), 96);
+  EXPECT_EQ(sheet.Span[2].Value(), 96);
+  EXPECT_EQ(sheet.Projection.Value(), 96);
 }
 
 TEST_F(BayDimensionsTest, APageOfAnIncompleteBayStaysBlank) {
   Page(2);
-  EXPECT_TRUE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_TRUE(document.board.Recorder.Operations().empty());
   EXPECT_EQ(static_cast<int>(rafter.RafterType), 10);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }

@@ -41,7 +41,7 @@ TEST_F(CalculateRoofTest, EveryTypeHasItsRafterItsPagesAndItsHelp) {
     Pick("cboType", row.item);
     EXPECT_EQ(document.RoofType, row.code) << row.item;
     EXPECT_EQ(static_cast<int>(rafter.RafterType), row.rafter1) << row.item;
-    EXPECT_EQ(sheet.VSTab[0].Caption(), row.pages);
+    EXPECT_EQ(sheet.Tabs[0].Caption(), row.pages);
     EXPECT_EQ(document.HelpContext, row.help) << row.item;
   }
   EXPECT_TRUE(around.dialogs.messages.empty()) << around.dialogs.messages[0].second;
@@ -58,7 +58,7 @@ TEST_F(CalculateRoofTest, BeforeTheEndOfStartUpNothingHappens) {
   document.CalcEnabled = false;
   document.RoofType = roof::kHip;
   document.CalculateRoof(false);
-  EXPECT_EQ(sheet.VSTab[0].Caption(), "Design|Rafter");
+  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Rafter");
   EXPECT_EQ(rafter.RafterType, RafterType::kCommon);
 }
 
@@ -68,7 +68,7 @@ TEST_F(CalculateRoofTest, ABastardHipFromAProjectBecomesAHip) {
   document.CalculateRoof(true);
   EXPECT_EQ(document.RoofType, roof::kHip);
   EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip);
-  EXPECT_EQ(sheet.VSTab[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
+  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
 }
 
 TEST_F(CalculateRoofTest, AnUnknownCodeSaysSoAndKeepsTheTopic) {
@@ -86,8 +86,8 @@ TEST_F(CalculateRoofTest, ADualSlopePickedFromTheListCopiesTheFront) {
   Pick("cboType", "Dual Slope");
   EXPECT_EQ(document.Rafter2.Slope, 7);
   EXPECT_EQ(document.Rafter2.Span, 180);
-  EXPECT_EQ(sheet.FtSpan[1].Text(), "15' 0\"");
-  EXPECT_EQ(sheet.LWSlope[1].LeftValue(), 7);
+  EXPECT_EQ(sheet.Span[1].Text(), "15' 0\"");
+  EXPECT_EQ(sheet.Slope[1].LeftValue(), 7);
   document.Rafter2.Span = 100;
   document.CalculateRoof(true);
   EXPECT_EQ(document.Rafter2.Span, 100) << "from a project the rear roof keeps its own";
@@ -97,8 +97,8 @@ TEST_F(CalculateRoofTest, ResultsComeBackToTheSheetAfterTheirLimits) {
   Type("LWSlope(0)", "6 | 12");
   Check("chkHeel(0)", true);
   Type("FtHeel(0)", "20");
-  EXPECT_EQ(sheet.FtHeel[0].Value(), 8.105746) << "clamped to the plumb depth, seven digits of it";
-  EXPECT_EQ(sheet.FtSeat[0].Value(), 0);
+  EXPECT_EQ(sheet.Heel[0].Value(), 8.105746) << "clamped to the plumb depth, seven digits of it";
+  EXPECT_EQ(sheet.Seat[0].Value(), 0);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 
 namespace pitchcraft {
@@ -26,11 +26,11 @@ class DocumentTest : public testing::Test {
   static void Expect(const Refusal& refusal) { EXPECT_FALSE(refusal) << refusal.value_or(""); }
 
   NullSurroundings around;
-  frmDocument document{around.Get()};
+  Document document{around.Get()};
   Actions actions{document};
   Sheet& sheet = document.sheet;
   Menus& menus = document.menus;
-  CRafter& rafter = document.Rafter1;
+  Rafter& rafter = document.Rafter1;
 };
 
 }  // namespace pitchcraft

@@ -137,8 +137,8 @@ TEST_F(ExportTest, AHipCarriesItsBevelsAndCenterLines) {
 }
 
 TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {
-  document.DXFTextsize = 4;
-  document.DXFMetricTextsize = 60;
+  document.DxfTextSize = 4;
+  document.DxfMetricTextSize = 60;
   Roof6In12();
   for (const Entity& e : Export()) {
     if (e.Kind == "TEXT" && e.Text(1) == "63.4") {
@@ -160,13 +160,13 @@ TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {
 TEST_F(ExportTest, OtherDxfColorsChangeNothing) {
   Roof6In12();
   Export("a.dxf");
-  document.DXFLinecolor = 3;
-  document.DXFTextcolor = 4;
-  document.DXFBackcolor = 0x123456;
-  document.DXFDimTextsize = 40;
+  document.DxfLineColor = 3;
+  document.DxfTextColor = 4;
+  document.DxfBackColor = 0x123456;
+  document.DxfDimTextSize = 40;
   Export("b.dxf");
   EXPECT_EQ(pitchcraft::testing::ReadWhole(File("a.dxf")), pitchcraft::testing::ReadWhole(File("b.dxf")));
-  document.DXFDimcolor = 3;
+  document.DxfDimColor = 3;
   Export("c.dxf");
   EXPECT_NE(pitchcraft::testing::ReadWhole(File("a.dxf")), pitchcraft::testing::ReadWhole(File("c.dxf")));
 }

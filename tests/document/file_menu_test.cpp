@@ -16,14 +16,14 @@ class FileMenuTest : public ProjectTest {
 
   AnsweringDialogs dialogs;
   MemoryStore store;
-  frmDocument document{{dialogs, store, {}}};
+  Document document{{dialogs, store, {}}};
   Actions actions{document};
 };
 
 TEST_F(FileMenuTest, SaveAsksForANameOnce) {
   Click("mnuFileSave", PathOf("house.pcf"));
   EXPECT_EQ(document.ProjectFile, PathOf("house.pcf"));
-  EXPECT_EQ(document.Title, "Pitchcraft - [" + MRU::LongDirFix(PathOf("house.pcf"), 60) + "]");
+  EXPECT_EQ(document.Title, "Pitchcraft - [" + RecentFileList::ShortenedPath(PathOf("house.pcf"), 60) + "]");
   const std::string first = Read("house.pcf");
   EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
   Click("mnuFileSave");

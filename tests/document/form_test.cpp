@@ -9,13 +9,13 @@ TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
   EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]");
   EXPECT_EQ(document.RoofType, roof::kGable);
   EXPECT_EQ(rafter.Slope, 1);
-  EXPECT_EQ(sheet.LWSlope[0].LeftValue(), 1);
-  EXPECT_EQ(sheet.LWSlope[0].ListIndex(), 0);
+  EXPECT_EQ(sheet.Slope[0].LeftValue(), 1);
+  EXPECT_EQ(sheet.Slope[0].ListIndex(), 0);
   EXPECT_EQ(rafter.Span, 144);
-  EXPECT_EQ(sheet.FtSpan[0].Text(), "12' 0\"");
-  EXPECT_EQ(sheet.FtOverhang[0].Text(), "10 1/2\"");
-  EXPECT_EQ(sheet.LWRafter[0].RightText(), "7 1/4\"");
-  EXPECT_EQ(sheet.LWFascia[0].RightText(), "5 1/2\"");
+  EXPECT_EQ(sheet.Span[0].Text(), "12' 0\"");
+  EXPECT_EQ(sheet.Overhang[0].Text(), "10 1/2\"");
+  EXPECT_EQ(sheet.Common[0].RightText(), "7 1/4\"");
+  EXPECT_EQ(sheet.Fascia[0].RightText(), "5 1/2\"");
   EXPECT_TRUE(document.CalcEnabled);
   EXPECT_EQ(document.HelpContext, 60);
   EXPECT_TRUE(around.dialogs.messages.empty());
@@ -23,15 +23,15 @@ TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
 
 TEST_F(FormTest, StartsImperialWithPlumbCutAndBothBars) {
   EXPECT_EQ(document.UnitRun, 12);
-  EXPECT_TRUE(menus.mnuImperial.Checked);
-  EXPECT_FALSE(menus.mnuMetric.Checked);
-  EXPECT_TRUE(menus.mnuSettingsPlumbCut.Checked);
-  EXPECT_TRUE(document.tbToolBar["Plumb"].Pressed);
-  EXPECT_TRUE(document.tbToolBar["Gable"].Pressed);
-  EXPECT_FALSE(document.tbToolBar["Level"].Visible);
-  EXPECT_TRUE(menus.mnuViewToolbar.Checked);
-  EXPECT_TRUE(menus.mnuViewStatusBar.Checked);
-  EXPECT_TRUE(menus.mnuSettingsRiseOverRun.Checked);
+  EXPECT_TRUE(menus.Imperial.Checked);
+  EXPECT_FALSE(menus.Metric.Checked);
+  EXPECT_TRUE(menus.SettingsPlumbCut.Checked);
+  EXPECT_TRUE(document.toolBar["Plumb"].Pressed);
+  EXPECT_TRUE(document.toolBar["Gable"].Pressed);
+  EXPECT_FALSE(document.toolBar["Level"].Visible);
+  EXPECT_TRUE(menus.ViewToolbar.Checked);
+  EXPECT_TRUE(menus.ViewStatusBar.Checked);
+  EXPECT_TRUE(menus.SettingsRiseOverRun.Checked);
 }
 
 TEST_F(FormTest, HidesWhatBelongsToOtherRoofs) {
@@ -46,16 +46,16 @@ TEST_F(FormTest, HidesWhatBelongsToOtherRoofs) {
                            "LWFascia(0)", "LWRidge", "LWRafter(0)", "FtKneewall(0)", "chkKneewall(0)"}) {
     EXPECT_TRUE(ControlOf(*sheet.Find(name)).Visible) << name;
   }
-  EXPECT_FALSE(sheet.FtKneewall[0].Enabled);
-  EXPECT_EQ(sheet.FtKneewall[0].ForeColor, kSystemGrayTextColor);
+  EXPECT_FALSE(sheet.Kneewall[0].Enabled);
+  EXPECT_EQ(sheet.Kneewall[0].ForeColor, kSystemGrayTextColor);
 }
 
 TEST_F(FormTest, TheListOfTheSecondSlopeStaysEmpty) {
-  EXPECT_EQ(sheet.LWSlope[0].List().size(), 60U);
-  EXPECT_EQ(sheet.LWSlope[1].List().size(), 60U);
-  EXPECT_TRUE(sheet.LWSlope[2].List().empty());
-  EXPECT_EQ(sheet.cboDegrees[2].List().size(), 80U);
-  EXPECT_EQ(sheet.LWHipVal.List().size(), 15U);
+  EXPECT_EQ(sheet.Slope[0].List().size(), 60U);
+  EXPECT_EQ(sheet.Slope[1].List().size(), 60U);
+  EXPECT_TRUE(sheet.Slope[2].List().empty());
+  EXPECT_EQ(sheet.Degrees[2].List().size(), 80U);
+  EXPECT_EQ(sheet.HipOrValley.List().size(), 15U);
 }
 
 TEST_F(FormTest, AWindowIsHeldToItsLeastSize) {
@@ -75,8 +75,8 @@ TEST_F(FormTest, ALargerWindowHasALargerPictureAndDrawsAgain) {
   EXPECT_GT(document.Picture1.Place.Width, before);
   EXPECT_LT(document.board.PointFactor, factor)
       << "text keeps its size on the screen, so it shrinks in the drawing";
-  EXPECT_TRUE(document.board.MetaCanvas.IsClosed());
-  EXPECT_FALSE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_TRUE(document.board.Recorder.IsClosed());
+  EXPECT_FALSE(document.board.Recorder.Operations().empty());
 }
 
 TEST_F(FormTest, NoItemIsGreyAtTheStart) {
@@ -86,13 +86,13 @@ TEST_F(FormTest, NoItemIsGreyAtTheStart) {
       EXPECT_TRUE(item->Enabled) << item->Name;
     }
   }
-  EXPECT_TRUE(document.ToolButtonEnabled(document.tbToolBar["Print"]));
+  EXPECT_TRUE(document.ToolButtonEnabled(document.toolBar["Print"]));
 }
 
 TEST(FormUnload, KeepsWhatTheUserChose) {
   NullSurroundings around;
   {
-    frmDocument document(around.Get());
+    Document document(around.Get());
     document.Form_Load();
     document.mnuMetric_Click();
     document.mnuHipLayoutCornersFlush_Click();
@@ -100,13 +100,13 @@ TEST(FormUnload, KeepsWhatTheUserChose) {
     document.Window = {300, 400, 12000, 9000};
     document.Form_Unload();
   }
-  frmDocument again(around.Get());
+  Document again(around.Get());
   again.Form_Load();
   EXPECT_EQ(again.UnitRun, 1000);
-  EXPECT_TRUE(again.menus.mnuMetric.Checked);
-  EXPECT_TRUE(again.menus.mnuHipLayoutCornersFlush.Checked);
-  EXPECT_TRUE(again.sheet.cboDegrees[0].Visible);
-  EXPECT_FALSE(again.sheet.LWSlope[0].Visible);
+  EXPECT_TRUE(again.menus.Metric.Checked);
+  EXPECT_TRUE(again.menus.HipLayoutCornersFlush.Checked);
+  EXPECT_TRUE(again.sheet.Degrees[0].Visible);
+  EXPECT_FALSE(again.sheet.Slope[0].Visible);
   EXPECT_EQ(again.Window.Width, 12000);
   EXPECT_EQ(again.Window.Left, 300);
 }

@@ -18,8 +18,8 @@ class FormsTest : public ProjectTest {
   }
   void Increment(const char* text, bool ok = true) {
     dialogs.On<IncrementForm>([=, this](IncrementForm& form) {
-      offered = form.FtIncrement.Text();
-      form.FtIncrement.SetText(text);
+      offered = form.Increment.Text();
+      form.Increment.SetText(text);
       form.Accepted = ok;
     });
     Click("mnuSpinIncrement");
@@ -28,7 +28,7 @@ class FormsTest : public ProjectTest {
 
   FormDialogs dialogs;
   MemoryStore store;
-  frmDocument document{{dialogs, store, folder}};
+  Document document{{dialogs, store, folder}};
   Actions actions{document};
   std::string offered;
 };
@@ -38,9 +38,9 @@ TEST_F(FormsTest, IncrementTakesWhatIsAboveNothing) {
   EXPECT_EQ(offered, "1/4\"");
   EXPECT_EQ(double{document.Increment}, 0.5);
   EXPECT_EQ(double{document.MetricIncrement}, 0.25) << "the other unit system has its own";
-  const double before = document.sheet.FtSpan[0].Value();
+  const double before = document.sheet.Span[0].Value();
   EXPECT_FALSE(actions.Spin("Spin(0)", true));
-  EXPECT_EQ(document.sheet.FtSpan[0].Value(), before + 0.5);
+  EXPECT_EQ(document.sheet.Span[0].Value(), before + 0.5);
 }
 
 TEST_F(FormsTest, IncrementsThatStepNowhereAreNotTaken) {
@@ -103,41 +103,41 @@ TEST_F(FormsTest, EndOfTheSessionLeavesBothSettingsAlone) {
 TEST_F(FormsTest, TipsComeInTurnAndBeginAgain) {
   Tips("\xEF\xBB\xBFone\r\n\r\n  two  \nthree");
   std::set<std::string> first;
-  for (unsigned seed = 0; seed < 64; ++seed) first.insert(TipForm(store, {folder}, seed).lblTipText());
+  for (unsigned seed = 0; seed < 64; ++seed) first.insert(TipForm(store, {folder}, seed).TipText());
   EXPECT_EQ(first, (std::set<std::string>{"one", "two", "three"})) << "any of them comes first";
   TipForm form(store, {folder}, 5);
-  const std::string begin = form.lblTipText();
+  const std::string begin = form.TipText();
   std::set<std::string> seen;
   for (int i = 0; i < 3; ++i) {
-    form.cmdNextTip_Click();
-    seen.insert(form.lblTipText());
+    form.NextTip();
+    seen.insert(form.TipText());
   }
   EXPECT_EQ(seen.size(), 3U);
-  EXPECT_EQ(form.lblTipText(), begin);
+  EXPECT_EQ(form.TipText(), begin);
 }
 
 TEST_F(FormsTest, TipsThatAreNotThere) {
   TipForm missing(store, {folder}, 1);
-  missing.cmdNextTip_Click();
+  missing.NextTip();
   EXPECT_EQ(
-      missing.lblTipText(),
+      missing.TipText(),
       "That the TIPOFDAY.TXT file was not found?\n\nCreate a text file named TIPOFDAY.TXT using NotePad "
       "with 1 tip per line. Then place it in the same directory as the application. ");
   std::filesystem::create_directories(folder / "TIPOFDAY.TXT");
-  EXPECT_EQ(TipForm(store, {folder}, 1).lblTipText(), missing.lblTipText()) << "a folder is no file";
+  EXPECT_EQ(TipForm(store, {folder}, 1).TipText(), missing.TipText()) << "a folder is no file";
   std::filesystem::remove(folder / "TIPOFDAY.TXT");
   Tips("\n \n");
   TipForm empty(store, {folder}, 1);
-  empty.cmdNextTip_Click();
-  EXPECT_EQ(empty.lblTipText(), "");
+  empty.NextTip();
+  EXPECT_EQ(empty.TipText(), "");
 }
 
 TEST_F(FormsTest, TheProgramsFolderGoesBeforeTheDataThatCameWithIt) {
   std::filesystem::create_directories(folder / "data");
   pitchcraft::testing::WriteWhole(folder / "data" / "TIPOFDAY.TXT", "ours");
-  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).lblTipText(), "ours");
+  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).TipText(), "ours");
   Tips("own");
-  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).lblTipText(), "own");
+  EXPECT_EQ(TipForm(store, {folder, folder / "data"}, 1).TipText(), "own");
 }
 
 TEST_F(FormsTest, TipBoxIsWrittenWhenClickedAndWhenTheFormCloses) {
@@ -160,7 +160,7 @@ TEST_F(FormsTest, TheTipsOfTheProgramAreThere) {
 
 TEST_F(FormsTest, AboutTellsTheVersion) {
   std::string version;
-  dialogs.On<AboutForm>([&](AboutForm& form) { version = form.lblVersion; });
+  dialogs.On<AboutForm>([&](AboutForm& form) { version = form.Version; });
   Click("mnuHelpAbout");
   EXPECT_TRUE(version.starts_with("Version ")) << version;
 }

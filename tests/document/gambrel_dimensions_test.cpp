@@ -8,7 +8,7 @@ namespace {
 class GambrelDimensionsTest : public DocumentTest {
  protected:
   GambrelDimensionsTest() { Pick("cboType", "Gambrel Roof"); }
-  CRafter& top = document.Rafter2;
+  Rafter& top = document.Rafter2;
 };
 
 class CustomGambrelTest : public GambrelDimensionsTest {
@@ -31,23 +31,23 @@ TEST_F(GambrelDimensionsTest, ARegularGambrelFitsItsCircle) {
   EXPECT_NEAR(rafter.Span, (240 - 2 * q) / 2, 1e-4);
   EXPECT_NEAR(top.Slope / 12, std::tan(22.5 * M_PI / 180), 1e-6);
   EXPECT_NEAR(rafter.Slope / 12, std::tan(67.5 * M_PI / 180), 1e-6);
-  EXPECT_EQ(sheet.LWSlope[0].LeftValue(), 5);
-  EXPECT_EQ(sheet.LWSlope[2].LeftValue(), 29);
-  EXPECT_EQ(sheet.cboDegrees[2].Text(), "67.5");
+  EXPECT_EQ(sheet.Slope[0].LeftValue(), 5);
+  EXPECT_EQ(sheet.Slope[2].LeftValue(), 29);
+  EXPECT_EQ(sheet.Degrees[2].Text(), "67.5");
   EXPECT_EQ(rafter.degrees, 67.5);
 }
 
 TEST_F(GambrelDimensionsTest, MetricShowsItsOwnSlopes) {
   Click("mnuMetric");
   Pick("cboType", "Gambrel Roof");
-  EXPECT_EQ(sheet.LWSlope[0].LeftText(), "414");
-  EXPECT_EQ(sheet.LWSlope[2].LeftText(), "2414");
+  EXPECT_EQ(sheet.Slope[0].LeftText(), "414");
+  EXPECT_EQ(sheet.Slope[2].LeftText(), "2414");
   EXPECT_NEAR(top.Slope, 414.213562, 1e-4);
 }
 
 TEST_F(GambrelDimensionsTest, ANameOutsideTheTwelveLeavesTheUpperSpanZero) {
   document.CalculateGambrelDimensions("Chimney");
-  EXPECT_EQ(sheet.FtSpan[2].Value(), 0);
+  EXPECT_EQ(sheet.Span[2].Value(), 0);
   EXPECT_EQ(rafter.Span, 72);
   EXPECT_EQ(top.Span, 0);
 }
@@ -55,21 +55,21 @@ TEST_F(GambrelDimensionsTest, ANameOutsideTheTwelveLeavesTheUpperSpanZero) {
 TEST_F(GambrelDimensionsTest, RegularLocksWhatItDerives) {
   for (const std::size_t spin : {2, 4, 7}) EXPECT_FALSE(sheet.Spin[spin].Enabled) << spin;
   EXPECT_TRUE(sheet.Spin[3].Enabled);
-  EXPECT_TRUE(sheet.LWSlope[0].Locked && sheet.LWSlope[2].Locked);
-  EXPECT_FALSE(sheet.chkUpperSlope.Visible);
+  EXPECT_TRUE(sheet.Slope[0].Locked && sheet.Slope[2].Locked);
+  EXPECT_FALSE(sheet.UpperSlopeLock.Visible);
   Click("mnuGambrelCustom");
   for (const std::size_t spin : {2, 3, 4, 7}) EXPECT_TRUE(sheet.Spin[spin].Enabled) << spin;
-  EXPECT_FALSE(sheet.LWSlope[0].Locked || sheet.LWSlope[2].Locked);
-  EXPECT_TRUE(sheet.chkUpperSlope.Visible && sheet.chkLowerHeight.Visible);
-  EXPECT_TRUE(menus.mnuGambrelWallSupportRaised.Enabled);
-  EXPECT_TRUE(menus.mnuPopup2GambrelCustom.Checked);
+  EXPECT_FALSE(sheet.Slope[0].Locked || sheet.Slope[2].Locked);
+  EXPECT_TRUE(sheet.UpperSlopeLock.Visible && sheet.LowerHeightLock.Visible);
+  EXPECT_TRUE(menus.GambrelWallSupportRaised.Enabled);
+  EXPECT_TRUE(menus.PopUp2GambrelCustom.Checked);
 }
 
 TEST_F(GambrelDimensionsTest, NoHeelNoOverhang) {
   Check("chkHeel(0)", true);
   Type("FtHeel(0)", "0");
   EXPECT_EQ(rafter.Overhang, 0);
-  EXPECT_EQ(sheet.FtOverhang[0].Value(), 0);
+  EXPECT_EQ(sheet.Overhang[0].Value(), 0);
 }
 
 TEST_F(CustomGambrelTest, TheTwoRunsShareTheWidth) {
@@ -77,27 +77,27 @@ TEST_F(CustomGambrelTest, TheTwoRunsShareTheWidth) {
   EXPECT_EQ(rafter.Span, 48);
   EXPECT_EQ(rafter.HipValSlope, 6);
   EXPECT_EQ(top.HipValSlope, 24);
-  EXPECT_NEAR(sheet.FtRidge[0].Value(), 48, 1e-4);
-  EXPECT_NEAR(sheet.FtRidge[1].Value(), 96 + rafter.Heel, 1e-4);
+  EXPECT_NEAR(sheet.RidgeLength[0].Value(), 48, 1e-4);
+  EXPECT_NEAR(sheet.RidgeLength[1].Value(), 96 + rafter.Heel, 1e-4);
 }
 
 TEST_F(CustomGambrelTest, ALowerHeightMovesTheUpperSpan) {
   const double heel = rafter.Heel;
   Type("FtRidge(1)", "8'");
   EXPECT_NEAR(rafter.Span, (96 - heel) / 2, 1e-3);
-  EXPECT_NEAR(sheet.FtSpan[2].Value(), 288 - (96 - heel), 1e-3);
+  EXPECT_NEAR(sheet.Span[2].Value(), 288 - (96 - heel), 1e-3);
 }
 
 TEST_F(CustomGambrelTest, AnUpperHeightMovesTheUpperSlope) {
   Type("FtRidge(0)", "6'");
   EXPECT_NEAR(top.Slope, 9, 1e-5);
-  EXPECT_NEAR(sheet.LWSlope[0].LeftValue(), 9, 1e-5);
-  EXPECT_EQ(sheet.cboDegrees[0].Text().substr(0, 5), "36.86") << "unrounded";
+  EXPECT_NEAR(sheet.Slope[0].LeftValue(), 9, 1e-5);
+  EXPECT_EQ(sheet.Degrees[0].Text().substr(0, 5), "36.86") << "unrounded";
 }
 
 TEST_F(CustomGambrelTest, AnUpperSlopeMovesTheUpperHeight) {
   Type("LWSlope(0)", "8 | 12");
-  EXPECT_NEAR(sheet.FtRidge[0].Value(), 64, 1e-4);
+  EXPECT_NEAR(sheet.RidgeLength[0].Value(), 64, 1e-4);
 }
 
 TEST_F(CustomGambrelTest, NoUpperSpanGivesAnInfiniteSlopeAndGoesOn) {
@@ -106,7 +106,7 @@ TEST_F(CustomGambrelTest, NoUpperSpanGivesAnInfiniteSlopeAndGoesOn) {
   EXPECT_TRUE(std::isinf(top.Slope));
   Type("FtSpan(2)", "16'");
   Type("LWSlope(0)", "6 | 12");
-  EXPECT_NEAR(sheet.FtRidge[0].Value(), 48, 1e-4);
+  EXPECT_NEAR(sheet.RidgeLength[0].Value(), 48, 1e-4);
 }
 
 TEST_F(CustomGambrelTest, SupportsExcludeEachOther) {
@@ -115,13 +115,13 @@ TEST_F(CustomGambrelTest, SupportsExcludeEachOther) {
   EXPECT_EQ(sheet.Label[22].Caption, "Ridge:");
   EXPECT_EQ(top.Heel, 0);
   Click("mnuGambrelWallSupportRaised");
-  EXPECT_TRUE(sheet.FTUpperFascia.Visible);
-  EXPECT_EQ(sheet.FTUpperFascia.ListIndex(), 0);
+  EXPECT_TRUE(sheet.UpperFascia.Visible);
+  EXPECT_EQ(sheet.UpperFascia.ListIndex(), 0);
   EXPECT_NEAR(top.Heel, 3.5 * std::sqrt(1.25), 1e-5) << "the plumb height of the fascia on a slope of 6";
   EXPECT_NEAR(top.Overhang, 3.5 * std::sin(std::atan(0.5)), 1e-5);
   Click("mnuGambrelPurlins");
   EXPECT_TRUE(rafter.Purlins && top.Purlins);
-  EXPECT_FALSE(sheet.FTUpperFascia.Visible);
+  EXPECT_FALSE(sheet.UpperFascia.Visible);
   EXPECT_EQ(sheet.Label[22].Caption, "Purlins:");
   EXPECT_EQ(top.Overhang, 0);
 }
@@ -129,15 +129,15 @@ TEST_F(CustomGambrelTest, SupportsExcludeEachOther) {
 TEST_F(CustomGambrelTest, CustomWithRaisedClearedFallsBackToPurlins) {
   Click("mnuGambrelWallSupportRaised");
   Click("mnuGambrelRegular");
-  EXPECT_FALSE(menus.mnuGambrelWallSupportRaised.Checked);
-  EXPECT_TRUE(menus.mnuGambrelPurlins.Checked);
-  EXPECT_FALSE(sheet.FTUpperFascia.Visible);
+  EXPECT_FALSE(menus.GambrelWallSupportRaised.Checked);
+  EXPECT_TRUE(menus.GambrelPurlins.Checked);
+  EXPECT_FALSE(sheet.UpperFascia.Visible);
 }
 
 TEST_F(CustomGambrelTest, AnUpperFasciaTallerThanTheRafterIsCutBack) {
   Click("mnuGambrelWallSupportRaised");
   Type("FTUpperFascia", "20");
-  EXPECT_EQ(sheet.FTUpperFascia.Text(), "7 1/4\"");
+  EXPECT_EQ(sheet.UpperFascia.Text(), "7 1/4\"");
 }
 
 TEST_F(GambrelDimensionsTest, AMetricUpperFasciaKeepsItsText) {
@@ -146,20 +146,20 @@ TEST_F(GambrelDimensionsTest, AMetricUpperFasciaKeepsItsText) {
   Click("mnuGambrelCustom");
   Click("mnuGambrelWallSupportRaised");
   Pick("FTUpperFascia", "140");
-  EXPECT_EQ(sheet.FTUpperFascia.Text(), "140");
-  EXPECT_EQ(sheet.FTUpperFascia.ListIndex(), 4);
+  EXPECT_EQ(sheet.UpperFascia.Text(), "140");
+  EXPECT_EQ(sheet.UpperFascia.ListIndex(), 4);
   Type("FTUpperFascia", "500");
-  EXPECT_EQ(sheet.FTUpperFascia.Text(), "184");
+  EXPECT_EQ(sheet.UpperFascia.Text(), "184");
 }
 
 TEST_F(CustomGambrelTest, OneLockBoxAtATime) {
   Check("chkUpperSlope", true);
   Check("chkLowerHeight", true);
-  EXPECT_FALSE(sheet.chkUpperSlope.Ticked() || sheet.chkLowerSlope.Ticked() || sheet.chkUpperSpan.Ticked() ||
-               sheet.chkUpperHeight.Ticked());
+  EXPECT_FALSE(sheet.UpperSlopeLock.Ticked() || sheet.LowerSlopeLock.Ticked() ||
+               sheet.UpperSpanLock.Ticked() || sheet.UpperHeightLock.Ticked());
   Check("chkLowerHeight", false);
-  EXPECT_TRUE(sheet.chkUpperSlope.Ticked() && sheet.chkLowerSlope.Ticked() && sheet.chkUpperSpan.Ticked() &&
-              sheet.chkUpperHeight.Ticked());
+  EXPECT_TRUE(sheet.UpperSlopeLock.Ticked() && sheet.LowerSlopeLock.Ticked() &&
+              sheet.UpperSpanLock.Ticked() && sheet.UpperHeightLock.Ticked());
 }
 
 TEST_F(CustomGambrelTest, TheTickedQuantityFollows) {
@@ -167,13 +167,13 @@ TEST_F(CustomGambrelTest, TheTickedQuantityFollows) {
   Type("FtSpan(2)", "12'");
   EXPECT_NEAR(top.Slope, 12.0 * 48 / 72, 1e-4) << "the upper height stays at 48";
   Check("chkLowerSlope", true);
-  const double heel = rafter.Heel, height = sheet.FtRidge[1].Value();
+  const double heel = rafter.Heel, height = sheet.RidgeLength[1].Value();
   Type("FtSpan(2)", "18'");
   EXPECT_NEAR(rafter.Slope, 12 * (height - heel) / 36, 1e-3);
   Check("chkUpperSpan", true);
   Type("LWSlope(0)", "6 | 12");
   Type("FtRidge(0)", "4'");
-  EXPECT_NEAR(sheet.FtSpan[2].Value(), 192, 1e-3);
+  EXPECT_NEAR(sheet.Span[2].Value(), 192, 1e-3);
   EXPECT_EQ(top.Slope, 6);
 }
 

@@ -9,7 +9,7 @@ class ListsOfFieldsTest : public ProjectTest {
   void Start() { document.Form_Load(); }
 
   NullSurroundings around;
-  frmDocument document{{around.dialogs, around.store, folder}};
+  Document document{{around.dialogs, around.store, folder}};
   Sheet& sheet = document.sheet;
 };
 
@@ -17,9 +17,9 @@ TEST_F(ListsOfFieldsTest, AFirstStartMakesTheDegreesAlone) {
   Start();
   EXPECT_TRUE(std::filesystem::exists(folder / "Degrees.dat"));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
-  EXPECT_EQ(sheet.LWRafter[0].List().size(), 15U);
-  EXPECT_EQ(sheet.LWSlope[0].List().size(), 60U);
-  EXPECT_TRUE(sheet.LWSlope[2].List().empty());
+  EXPECT_EQ(sheet.Common[0].List().size(), 15U);
+  EXPECT_EQ(sheet.Slope[0].List().size(), 60U);
+  EXPECT_TRUE(sheet.Slope[2].List().empty());
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
 
@@ -28,13 +28,13 @@ TEST_F(ListsOfFieldsTest, FilesReplaceTheUsualRows) {
   Write("Slope.dat", "steep\\18/12|18|12\r\n");
   Write("Degrees.dat", "22.5\r\n45\r\n");
   Start();
-  for (const LWCombo* field : {&sheet.LWRafter[0], &sheet.LWRafter[1], &sheet.LWRidge, &sheet.LWFascia[0],
-                               &sheet.LWFascia[1], &sheet.LWHipVal}) {
+  for (const PairControl* field : {&sheet.Common[0], &sheet.Common[1], &sheet.Ridge, &sheet.Fascia[0],
+                                   &sheet.Fascia[1], &sheet.HipOrValley}) {
     ASSERT_EQ(field->List().size(), 2U) << field->Name;
     EXPECT_EQ(field->List()[1].Caption, "6x6");
   }
-  for (const LWCombo& field : sheet.LWSlope) EXPECT_EQ(field.List().size(), 1U);
-  EXPECT_EQ(sheet.cboDegrees[2].List(), (std::vector<std::string>{"22.5", "45"}));
+  for (const PairControl& field : sheet.Slope) EXPECT_EQ(field.List().size(), 1U);
+  EXPECT_EQ(sheet.Degrees[2].List(), (std::vector<std::string>{"22.5", "45"}));
   EXPECT_EQ(double{document.Rafter1.Depth}, 7.25) << "the list changes no size";
 }
 
@@ -44,18 +44,18 @@ TEST_F(ListsOfFieldsTest, MetricHasFilesOfItsOwn) {
   Write("SlopeM.dat", "500/1000|500|1000\r\n");
   Start();
   document.mnuMetric_Click();
-  ASSERT_EQ(sheet.LWRafter[0].List().size(), 1U);
-  EXPECT_EQ(sheet.LWRafter[0].List()[0].Right, 184);
-  EXPECT_EQ(sheet.LWRafter[0].ListIndex(), 0) << "the rafter has the size of that row";
-  EXPECT_EQ(sheet.LWSlope[1].List().size(), 1U);
+  ASSERT_EQ(sheet.Common[0].List().size(), 1U);
+  EXPECT_EQ(sheet.Common[0].List()[0].Right, 184);
+  EXPECT_EQ(sheet.Common[0].ListIndex(), 0) << "the rafter has the size of that row";
+  EXPECT_EQ(sheet.Slope[1].List().size(), 1U);
 }
 
 TEST_F(ListsOfFieldsTest, EmptyFilesLeaveTheListsEmpty) {
   for (const char* name : {"Lumber.dat", "Slope.dat", "Degrees.dat"}) Write(name, "");
   Start();
-  EXPECT_TRUE(sheet.LWRafter[0].List().empty());
-  EXPECT_TRUE(sheet.LWSlope[0].List().empty());
-  EXPECT_TRUE(sheet.cboDegrees[0].List().empty());
+  EXPECT_TRUE(sheet.Common[0].List().empty());
+  EXPECT_TRUE(sheet.Slope[0].List().empty());
+  EXPECT_TRUE(sheet.Degrees[0].List().empty());
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
 
@@ -65,7 +65,7 @@ TEST_F(ListsOfFieldsTest, AFolderInTheWayIsToldAndTheProgramStarts) {
   Start();
   ASSERT_FALSE(around.dialogs.messages.empty());
   EXPECT_EQ(around.dialogs.messages[0].second, "Path/File access error - 75");
-  EXPECT_EQ(sheet.cboDegrees[0].List().size(), 80U);
+  EXPECT_EQ(sheet.Degrees[0].List().size(), 80U);
   EXPECT_GT(double{document.Rafter1.Length1}, 0);
 }
 
@@ -74,8 +74,8 @@ TEST_F(ListsOfFieldsTest, AHundredThousandRows) {
   for (int i = 1; i <= 100'000; ++i) rows += std::to_string(i) + "x|1.5|" + std::to_string(i) + "\r\n";
   Write("Lumber.dat", rows);
   Start();
-  ASSERT_EQ(sheet.LWRafter[0].List().size(), 100'000U);
-  sheet.LWRafter[0].SetListIndex(11);
+  ASSERT_EQ(sheet.Common[0].List().size(), 100'000U);
+  sheet.Common[0].SetListIndex(11);
   document.LWRafter_Commit(0);
   EXPECT_EQ(double{document.Rafter1.Depth}, 12);
 }

@@ -12,13 +12,13 @@ TEST_F(MeasureFieldsTest, ACommittedRunCalculatesAtOnce) {
   Type("FtSpan(0)", "14'");
   EXPECT_EQ(rafter.Span, 168);
   EXPECT_EQ(rafter.Rise, 6 * (168 - 0.75) / 12);
-  EXPECT_EQ(sheet.FtSpan[0].Text(), "14' 0\"");
+  EXPECT_EQ(sheet.Span[0].Text(), "14' 0\"");
 }
 
 TEST_F(MeasureFieldsTest, ANegativeRunOrOverhangIsDropped) {
   Type("FtSpan(0)", "-5'");
   EXPECT_EQ(rafter.Span, 144);
-  EXPECT_EQ(sheet.FtSpan[0].Text(), "-5' 0\"") << "the entry stands until the next result";
+  EXPECT_EQ(sheet.Span[0].Text(), "-5' 0\"") << "the entry stands until the next result";
   Type("FtOverhang(0)", "-1");
   EXPECT_EQ(rafter.Overhang, 10.5);
 }
@@ -36,9 +36,9 @@ TEST_F(MeasureFieldsTest, AnUnlockedHeelIsOverwrittenByTheNextResult) {
   Type("LWSlope(0)", "6 | 12");
   Type("FtHeel(0)", "3");
   EXPECT_NEAR(rafter.Heel, 5.403831, 1e-6);
-  EXPECT_EQ(sheet.FtHeel[0].Value(), 3);
+  EXPECT_EQ(sheet.Heel[0].Value(), 3);
   Type("FtSpan(0)", "13'");
-  EXPECT_NEAR(sheet.FtHeel[0].Value(), 5.403831, 1e-6);
+  EXPECT_NEAR(sheet.Heel[0].Value(), 5.403831, 1e-6);
 }
 
 TEST_F(MeasureFieldsTest, ALockedHeelIsStoredWhileTypingAndCalculatedOnCommit) {
@@ -55,13 +55,13 @@ TEST_F(MeasureFieldsTest, ALockedHeelIsStoredWhileTypingAndCalculatedOnCommit) {
 TEST_F(MeasureFieldsTest, HeelAndSeatCannotBothBeLocked) {
   Check("chkHeel(0)", true);
   EXPECT_TRUE(rafter.HeelLocked);
-  EXPECT_TRUE(menus.mnuSettingsHeelLocked.Checked);
+  EXPECT_TRUE(menus.SettingsHeelLocked.Checked);
   Check("chkSeat(0)", true);
-  EXPECT_FALSE(sheet.chkHeel[0].Ticked());
+  EXPECT_FALSE(sheet.HeelLock[0].Ticked());
   EXPECT_FALSE(rafter.HeelLocked);
   EXPECT_TRUE(rafter.SeatLocked);
-  EXPECT_FALSE(menus.mnuSettingsHeelLocked.Checked);
-  EXPECT_TRUE(menus.mnuSettingsSeatLocked.Checked);
+  EXPECT_FALSE(menus.SettingsHeelLocked.Checked);
+  EXPECT_TRUE(menus.SettingsSeatLocked.Checked);
   EXPECT_EQ(document.FocusRequest, "FtSeat(0)");
 }
 
@@ -79,15 +79,15 @@ TEST_F(MeasureFieldsTest, AHeelOfZeroCarriesNoOverhang) {
   Check("chkHeel(0)", true);
   Type("FtHeel(0)", "0");
   EXPECT_EQ(rafter.Overhang, 0);
-  EXPECT_EQ(sheet.FtOverhang[0].Value(), 0);
+  EXPECT_EQ(sheet.Overhang[0].Value(), 0);
 }
 
 TEST_F(MeasureFieldsTest, AKneewallCountsWhileItsBoxIsTicked) {
   Type("LWSlope(0)", "6 | 12");
   Check("chkKneewall(0)", true);
-  EXPECT_EQ(sheet.chkKneewall[0].Caption, "a");
-  EXPECT_TRUE(sheet.FtKneewall[0].Enabled);
-  EXPECT_EQ(sheet.FtKneewall[0].ForeColor, document.CtlForeColor);
+  EXPECT_EQ(sheet.HasKneewall[0].Caption, "a");
+  EXPECT_TRUE(sheet.Kneewall[0].Enabled);
+  EXPECT_EQ(sheet.Kneewall[0].ForeColor, document.CtlForeColor);
   EXPECT_TRUE(sheet.Label[0].Enabled);
   Type("FtKneewall(0)", "4'");
   EXPECT_EQ(rafter.Kneewall, 48);
@@ -96,9 +96,9 @@ TEST_F(MeasureFieldsTest, AKneewallCountsWhileItsBoxIsTicked) {
   EXPECT_EQ(rafter.Kneewall, 48) << "a kneewall of 0 is dropped";
   Check("chkKneewall(0)", false);
   EXPECT_EQ(rafter.Kneewall, 0);
-  EXPECT_EQ(sheet.chkKneewall[0].Caption, "");
-  EXPECT_FALSE(sheet.FtKneewall[0].Enabled);
-  EXPECT_EQ(sheet.FtKneewall[0].ForeColor, kSystemGrayTextColor);
+  EXPECT_EQ(sheet.HasKneewall[0].Caption, "");
+  EXPECT_FALSE(sheet.Kneewall[0].Enabled);
+  EXPECT_EQ(sheet.Kneewall[0].ForeColor, kSystemGrayTextColor);
 }
 
 TEST_F(MeasureFieldsTest, SpinButtonsStepTheirFieldAndCommit) {
@@ -110,7 +110,7 @@ TEST_F(MeasureFieldsTest, SpinButtonsStepTheirFieldAndCommit) {
   Expect(actions.Spin("Spin(1)", false));
   EXPECT_EQ(rafter.Overhang, 0) << "a step down stops at 0";
   Expect(actions.Spin("Spin(1)", false));
-  EXPECT_EQ(sheet.FtOverhang[0].Value(), 0);
+  EXPECT_EQ(sheet.Overhang[0].Value(), 0);
 }
 
 TEST_F(MeasureFieldsTest, AMetricSpinStepsByItsOwnIncrement) {
@@ -134,11 +134,11 @@ TEST_F(MeasureFieldsTest, LastCommonStaysWithinOneSpacingOfTheHipEnd) {
   Pick("cboType", "Hip");
   Check("chkLastCommon", true);
   Type("FtLastCommon", "10'");
-  EXPECT_EQ(sheet.FtLastCommon.Value(), 144) << "raised to the run of the hip end";
+  EXPECT_EQ(sheet.LastCommon.Value(), 144) << "raised to the run of the hip end";
   Type("FtLastCommon", "12' 8\"");
-  EXPECT_EQ(sheet.FtLastCommon.Value(), 152);
+  EXPECT_EQ(sheet.LastCommon.Value(), 152);
   Type("FtLastCommon", "14'");
-  EXPECT_EQ(sheet.FtLastCommon.Value(), 144);
+  EXPECT_EQ(sheet.LastCommon.Value(), 144);
   ASSERT_EQ(around.dialogs.messages.size(), 1U);
   EXPECT_EQ(around.dialogs.messages[0].first, "Pitchcraft");
   EXPECT_EQ(around.dialogs.messages[0].second,

@@ -18,7 +18,7 @@ class OptionsTest : public ProjectTest {
 
   FormDialogs dialogs;
   MemoryStore store;
-  frmDocument document{{dialogs, store, folder}};
+  Document document{{dialogs, store, folder}};
   Actions actions{document};
   Sheet& sheet = document.sheet;
 };
@@ -29,7 +29,7 @@ TEST_F(OptionsTest, BeginWithWhatTheDocumentHolds) {
     EXPECT_EQ(form.Colors(), (std::array<std::uint32_t, 7>{0, 65535, 255, 0, 16777215, 255, 65535}));
     EXPECT_EQ(form.DxfColors(), (std::array<int, 4>{0, 14, 15, 12}));
     EXPECT_EQ(form.LineWidth(), 1);
-    EXPECT_EQ(form.ftDXFTextsize.Text(), "2\"");
+    EXPECT_EQ(form.DxfTextSize.Text(), "2\"");
     EXPECT_EQ(form.SlopeList.RowCount(), 60);
     EXPECT_EQ(form.LumberList.RowCount(), 15);
     EXPECT_EQ(form.LumberList.Cell(11, 0), "2x6");
@@ -48,66 +48,66 @@ TEST_F(OptionsTest, DxfSettingsOpenOnTheirPage) {
 TEST_F(OptionsTest, CancelLeavesEverything) {
   Options([](OptionsForm& form) {
     EXPECT_TRUE(form.SetColor(kBackground, 0xFFFFFF));
-    form.chkPrintAllBlack = form.chkSystemColors = form.chkRotateFonts = true;
+    form.PrintAllBlack = form.SystemColors = form.RotateFonts = true;
     form.SetLineWidth(5);
-    form.ftDXFTextsize.SetText("8");
+    form.DxfTextSize.SetText("8");
     form.LumberList.DeleteRow(0);
   });
   EXPECT_EQ(document.BackColor, 0U);
   EXPECT_FALSE(document.PrintAllBlack || document.UseSystemColors || document.RotateFonts);
   EXPECT_EQ(document.LineWidth, 1);
-  EXPECT_EQ(double{document.DXFTextsize}, 2);
+  EXPECT_EQ(double{document.DxfTextSize}, 2);
   EXPECT_FALSE(Exists("Lumber.dat"));
 }
 
 TEST_F(OptionsTest, ApplyTakesEffectWhileTheFormIsOpen) {
-  document.sheet.FtKneewall[0].SetValue(12);
+  document.sheet.Kneewall[0].SetValue(12);
   Options([this](OptionsForm& form) {
     EXPECT_TRUE(form.SetColor(kCtlBack, 0xC0FFFF));
     EXPECT_TRUE(form.SetColor(kCtlText, 0x800000));
     EXPECT_TRUE(form.SetColor(kLine, 0x00FF00));
     EXPECT_TRUE(form.SetDxfColor(kDxfDim, 3));
-    form.chkPrintAllBlack = form.chkRotateFonts = true;
+    form.PrintAllBlack = form.RotateFonts = true;
     form.SetLineWidth(4);
-    form.ftDXFTextsize.SetText("4");
+    form.DxfTextSize.SetText("4");
     form.Apply();
-    EXPECT_EQ(sheet.FtSpan[0].BackColor, 0xC0FFFFU);
-    EXPECT_EQ(sheet.LWSlope[0].ForeColor, 0x800000U);
-    EXPECT_EQ(sheet.FtKneewall[0].ForeColor, kSystemGrayTextColor) << "off and grey";
-    EXPECT_EQ(sheet.FtKneewall[0].BackColor, 0xC0FFFFU);
+    EXPECT_EQ(sheet.Span[0].BackColor, 0xC0FFFFU);
+    EXPECT_EQ(sheet.Slope[0].ForeColor, 0x800000U);
+    EXPECT_EQ(sheet.Kneewall[0].ForeColor, kSystemGrayTextColor) << "off and grey";
+    EXPECT_EQ(sheet.Kneewall[0].BackColor, 0xC0FFFFU);
     EXPECT_EQ(document.LineColor, 0x00FF00U);
     bool green = false;
-    for (const auto& drawn : document.board.MetaCanvas.Operations()) {
+    for (const auto& drawn : document.board.Recorder.Operations()) {
       const auto* line = std::get_if<LineOp>(&drawn);
       green = green || (line != nullptr && line->Pen.Color == 0x00FF00);
     }
     EXPECT_TRUE(green) << "drawn again";
   });
-  EXPECT_EQ(document.DXFDimcolor, 3);
+  EXPECT_EQ(document.DxfDimColor, 3);
   EXPECT_EQ(document.LineWidth, 4);
   EXPECT_TRUE(document.PrintAllBlack && document.RotateFonts);
-  EXPECT_EQ(double{document.DXFTextsize}, 4);
-  EXPECT_EQ(double{document.DXFMetricTextsize}, 2);
+  EXPECT_EQ(double{document.DxfTextSize}, 4);
+  EXPECT_EQ(double{document.DxfMetricTextSize}, 2);
   EXPECT_FALSE(store.Get("Colors", "LineColor", "")) << "stored at the end of the session";
   document.Form_Unload();
   EXPECT_EQ(store.Get("Pitchcraft", "Colors", "LineColor"), "65280");
 }
 
 TEST_F(OptionsTest, CalculatedFieldsKeepTheirOwnColor) {
-  document.sheet.cboType.SetListIndex(6);
+  document.sheet.RoofList.SetListIndex(6);
   document.cboType_Click();
-  sheet.FtProjection.Calculated = true;
+  sheet.Projection.Calculated = true;
   Options([](OptionsForm& form) {
     EXPECT_TRUE(form.SetColor(kCalcText, 0x00FF00));
     form.Apply();
   });
-  EXPECT_EQ(sheet.FtProjection.ForeColor, 0x00FF00U);
-  EXPECT_EQ(sheet.FtFace.ForeColor, document.CtlForeColor);
+  EXPECT_EQ(sheet.Projection.ForeColor, 0x00FF00U);
+  EXPECT_EQ(sheet.Face.ForeColor, document.CtlForeColor);
 }
 
 TEST_F(OptionsTest, SystemColorsAreThoseOfTheFieldsAlone) {
   Options([](OptionsForm& form) {
-    form.chkSystemColors = true;
+    form.SystemColors = true;
     EXPECT_TRUE(form.SetColor(kBackground, 0x404040));
     form.Apply();
   });
@@ -141,31 +141,31 @@ TEST_F(OptionsTest, ATextsizeThatNoDrawingHasIsToldAndNotTaken) {
   for (const char* text : {"0", "-2", "inf", "nan", "1e30", "1e300", "", "x"}) {
     dialogs.messages.clear();
     Options([&](OptionsForm& form) {
-      form.ftDXFTextsize.SetText(text);
+      form.DxfTextSize.SetText(text);
       form.Apply();
-      EXPECT_EQ(form.ftDXFTextsize.Value(), 2) << text;
+      EXPECT_EQ(form.DxfTextSize.Value(), 2) << text;
     });
     EXPECT_EQ(dialogs.messages.size(), 1U) << text;
-    EXPECT_EQ(double{document.DXFTextsize}, 2) << text;
+    EXPECT_EQ(double{document.DxfTextSize}, 2) << text;
   }
 }
 
 TEST_F(OptionsTest, ATextsizeThatIsNotTouchedIsNotRounded) {
-  document.DXFTextsize = 2.0301;
+  document.DxfTextSize = 2.0301;
   Options([](OptionsForm& form) { form.Apply(); });
-  EXPECT_EQ(double{document.DXFTextsize}, double{Single(2.0301)});
+  EXPECT_EQ(double{document.DxfTextSize}, double{Single(2.0301)});
 }
 
 TEST_F(OptionsTest, MetricHasItsOwnTextsizeAndLists) {
   document.mnuMetric_Click();
   Options([](OptionsForm& form) {
     EXPECT_EQ(form.SlopeList.RowCount(), 50);
-    form.ftDXFTextsize.SetText("60 mm");
+    form.DxfTextSize.SetText("60 mm");
     form.SlopeList.SetCell(0, 0, "flat");
     form.Apply();
   });
-  EXPECT_EQ(double{document.DXFMetricTextsize}, 60);
-  EXPECT_EQ(double{document.DXFTextsize}, 2);
+  EXPECT_EQ(double{document.DxfMetricTextSize}, 60);
+  EXPECT_EQ(double{document.DxfTextSize}, 2);
   EXPECT_TRUE(Exists("SlopeM.dat"));
   EXPECT_FALSE(Exists("Slope.dat"));
 }
@@ -189,7 +189,7 @@ TEST_F(OptionsTest, AnEditedListIsBackedUpWrittenAndShown) {
   });
   EXPECT_EQ(Read("Lumber.dat"), "4x6|3.5|5.5\r\n6x6|5.5|5.5\r\n");
   EXPECT_EQ(Read("Lumber.old"), "4x4|3.5|3.5\r\n4x6|3.5|5.5\r\n6x6|5.5|5.5\r\n");
-  for (const LWCombo* field : {&sheet.LWRafter[0], &sheet.LWHipVal, &sheet.LWFascia[1]}) {
+  for (const PairControl* field : {&sheet.Common[0], &sheet.HipOrValley, &sheet.Fascia[1]}) {
     ASSERT_EQ(field->List().size(), 2U) << field->Name;
     EXPECT_EQ(field->List()[0].Caption, "4x6");
   }
@@ -203,11 +203,11 @@ TEST_F(OptionsTest, TheBackupBringsTheListBack) {
     form.SlopeList.DeleteRow(0);
     form.Apply();
   });
-  EXPECT_TRUE(sheet.LWSlope[0].List().empty());
+  EXPECT_TRUE(sheet.Slope[0].List().empty());
   std::filesystem::rename(folder / "Slope.old", folder / "Slope.dat");
   document.DefaultSlopeList();
-  ASSERT_EQ(sheet.LWSlope[2].List().size(), 1U);
-  EXPECT_EQ(sheet.LWSlope[2].List()[0].Left, 6);
+  ASSERT_EQ(sheet.Slope[2].List().size(), 1U);
+  EXPECT_EQ(sheet.Slope[2].List()[0].Left, 6);
 }
 
 TEST_F(OptionsTest, AnInsertedSlopeBeginsWithItsRun) {
@@ -237,8 +237,8 @@ TEST_F(OptionsTest, TextsOfAListCannotBreakItsFile) {
     EXPECT_EQ(list.RowCount(), 15);
     form.Apply();
   });
-  EXPECT_EQ(sheet.LWRafter[0].List()[0].Left, 1.5);
-  EXPECT_EQ(sheet.LWRafter[0].List()[0].Right, 3.5);
+  EXPECT_EQ(sheet.Common[0].List()[0].Left, 1.5);
+  EXPECT_EQ(sheet.Common[0].List()[0].Right, 3.5);
 }
 
 TEST_F(OptionsTest, AListThatCannotBeWrittenIsToldAndStaysChanged) {
@@ -268,7 +268,7 @@ TEST_F(OptionsTest, AListThatCannotBeReadIsToldAndTheOtherShows) {
 TEST(OptionsWithoutAFolder, AChangedListIsToldAndWrittenNowhere) {
   FormDialogs dialogs;
   MemoryStore store;
-  frmDocument document({dialogs, store, {}});
+  Document document({dialogs, store, {}});
   document.Form_Load();
   dialogs.On<OptionsForm>([](OptionsForm& form) {
     form.LumberList.DeleteRow(0);
@@ -276,7 +276,7 @@ TEST(OptionsWithoutAFolder, AChangedListIsToldAndWrittenNowhere) {
   });
   document.mnuViewOptions_Click();
   EXPECT_EQ(dialogs.messages, std::vector<std::string>{"Path not found - 76"});
-  EXPECT_EQ(document.sheet.LWRafter[0].List().size(), 15U);
+  EXPECT_EQ(document.sheet.Common[0].List().size(), 15U);
 }
 
 TEST(OptionsColors, NumbersOfCadProgramsAsScreenColors) {
@@ -303,10 +303,10 @@ TEST(OptionsColors, EveryPageCanBeDrawnAgainByApply) {
   for (int roof = 0; roof <= 10; ++roof) {
     FormDialogs dialogs;
     MemoryStore store;
-    frmDocument document({dialogs, store, {}});
+    Document document({dialogs, store, {}});
     document.Form_Load();
     Actions actions(document);
-    document.sheet.cboType.SetListIndex(roof);
+    document.sheet.RoofList.SetListIndex(roof);
     document.cboType_Click();
     dialogs.On<OptionsForm>([](OptionsForm& form) { form.Apply(); });
     const double span = document.Rafter1.Span;

@@ -7,19 +7,19 @@ using PagesTest = DocumentTest;
 
 TEST_F(PagesTest, APageDrawsOnItsPicture) {
   EXPECT_EQ(document.CurrentTab, 0);
-  EXPECT_EQ(document.board.MetaCanvas.Target()->ScaleWidth, document.Picture1.Place.Width);
+  EXPECT_EQ(document.board.Recorder.Target()->ScaleWidth, document.Picture1.Place.Width);
   Page(1);
   EXPECT_EQ(document.CurrentTab, 1);
-  EXPECT_EQ(document.board.MetaCanvas.Target()->ScaleWidth, document.Picture3.Place.Width);
+  EXPECT_EQ(document.board.Recorder.Target()->ScaleWidth, document.Picture3.Place.Width);
   EXPECT_TRUE(document.DrawingExists);
-  EXPECT_FALSE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_FALSE(document.board.Recorder.Operations().empty());
 }
 
 TEST_F(PagesTest, ADrawingThatDoesNotExistIsAnEmptyRecording) {
   Pick("cboType", "Octagon");
   EXPECT_FALSE(document.DrawingExists);
-  EXPECT_TRUE(document.board.MetaCanvas.IsClosed());
-  EXPECT_TRUE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_TRUE(document.board.Recorder.IsClosed());
+  EXPECT_TRUE(document.board.Recorder.Operations().empty());
 }
 
 TEST_F(PagesTest, TheCommonPageOfAHipPutsTheHipBack) {
@@ -27,22 +27,22 @@ TEST_F(PagesTest, TheCommonPageOfAHipPutsTheHipBack) {
   Page(1);
   EXPECT_EQ(rafter.RafterType, RafterType::kHip);
   EXPECT_TRUE(document.DrawingExists);
-  EXPECT_TRUE(menus.mnuPopUp1LayoutCenter.Visible);
-  EXPECT_FALSE(menus.mnuHipLayoutOverhangsEqual.Visible);
+  EXPECT_TRUE(menus.PopUp1LayoutCenter.Visible);
+  EXPECT_FALSE(menus.HipLayoutOverhangsEqual.Visible);
 }
 
 TEST_F(PagesTest, SpacingShowsOnTheLayoutPageAlone) {
   Pick("cboType", "Hip");
   for (const int page : {0, 1, 2, 3, 0}) {
     Page(page);
-    EXPECT_EQ(sheet.cboSpacing.Visible, page == 3) << page;
-    EXPECT_EQ(sheet.txtSpacing.Visible, page == 3) << page;
+    EXPECT_EQ(sheet.Spacing.Visible, page == 3) << page;
+    EXPECT_EQ(sheet.SpacingLabel.Visible, page == 3) << page;
   }
 }
 
-std::string Shown(const frmDocument& document) {
+std::string Shown(const Document& document) {
   std::string words;
-  for (const DrawOp& operation : document.board.MetaCanvas.Finished()) {
+  for (const DrawOp& operation : document.board.Recorder.Finished()) {
     if (const auto* text = std::get_if<TextOp>(&operation)) words += text->Text + "\n";
   }
   return words;
@@ -52,14 +52,14 @@ TEST_F(PagesTest, AHipHasADrawingOnEveryPage) {
   Pick("cboType", "Hip");
   for (int page = 0; page < 4; ++page) {
     Page(page);
-    EXPECT_FALSE(document.board.MetaCanvas.Finished().empty()) << page;
+    EXPECT_FALSE(document.board.Recorder.Finished().empty()) << page;
   }
   Page(0);
   Type("LWSlope(0)", "6 | 12");
   Type("LWSlope(2)", "9 | 12");
   for (int page = 0; page < 5; ++page) {
     Page(page);
-    EXPECT_FALSE(document.board.MetaCanvas.Finished().empty()) << page;
+    EXPECT_FALSE(document.board.Recorder.Finished().empty()) << page;
     EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip) << page;
   }
   const char* const titles[] = {" 6/12\n", " 9/12\n", " 4.99/12\n"};
@@ -94,7 +94,7 @@ TEST_F(PagesTest, EachPageFollowsTheEqualOverhangs) {
   Pick("cboType", "Hip");
   Type("LWSlope(0)", "6 | 12");
   Type("LWSlope(2)", "9 | 12");
-  const bool equal = menus.mnuHipLayoutOverhangsEqual.Checked;
+  const bool equal = menus.HipLayoutOverhangsEqual.Checked;
   for (const int page : {0, 1, 2, 3, 4}) {
     Page(page);
     const std::string before = Shown(document);
@@ -106,7 +106,7 @@ TEST_F(PagesTest, EachPageFollowsTheEqualOverhangs) {
     Click("mnuPopUp1OverhangsEqual");
     EXPECT_EQ(Shown(document), before) << page;
   }
-  EXPECT_EQ(menus.mnuHipLayoutOverhangsEqual.Checked, equal);
+  EXPECT_EQ(menus.HipLayoutOverhangsEqual.Checked, equal);
 }
 
 TEST_F(PagesTest, TheLastCommonStandsOnPlanAndLayout) {
@@ -139,7 +139,7 @@ TEST_F(PagesTest, TooManyJacksAreOneMessageAndABlank) {
   around.dialogs.messages.clear();
   Page(3);
   EXPECT_EQ(around.dialogs.messages.size(), 1U);
-  EXPECT_TRUE(document.board.MetaCanvas.Finished().empty());
+  EXPECT_TRUE(document.board.Recorder.Finished().empty());
 }
 
 TEST_F(PagesTest, APageThatIsNotThereIsRefused) {
@@ -167,9 +167,9 @@ TEST_F(PagesTest, TheInnerTabBringsTheLockMenusInLine) {
   Pick("cboType", "Dual Slope");
   Check("chkHeel(0)", true);
   Expect(actions.Page("VSTab(1)", 1));
-  EXPECT_FALSE(menus.mnuSettingsHeelLocked.Checked);
+  EXPECT_FALSE(menus.SettingsHeelLocked.Checked);
   Expect(actions.Page("VSTab(1)", 0));
-  EXPECT_TRUE(menus.mnuSettingsHeelLocked.Checked);
+  EXPECT_TRUE(menus.SettingsHeelLocked.Checked);
 }
 
 TEST_F(PagesTest, AClickOnADualSlopeChoosesTheRoofUnderIt) {
@@ -178,24 +178,24 @@ TEST_F(PagesTest, AClickOnADualSlopeChoosesTheRoofUnderIt) {
   Type("FtSpan(1)", "30'");
   const int width = document.Picture1.Place.Width;
   EXPECT_EQ(document.Picture_MouseDown(1, kLeftButton, width / 2, 100), nullptr);
-  EXPECT_EQ(sheet.VSTab[1].Page, 1);
+  EXPECT_EQ(sheet.Tabs[1].Page, 1);
   document.Picture_MouseDown(1, kLeftButton, width / 8, 100);
-  EXPECT_EQ(sheet.VSTab[1].Page, 0);
+  EXPECT_EQ(sheet.Tabs[1].Page, 0);
 }
 
 TEST_F(PagesTest, TheRightButtonBringsThePopupOfTheRoof) {
-  EXPECT_EQ(document.Picture_MouseDown(1, kRightButton, 0, 0), &menus.mnuPopUp1);
-  EXPECT_TRUE(menus.mnuPopUp1PlumbCut.Visible);
-  EXPECT_FALSE(menus.mnuPopUp1Ledger[0].Visible);
-  EXPECT_FALSE(menus.mnuPopUp1LayoutCenter.Visible);
+  EXPECT_EQ(document.Picture_MouseDown(1, kRightButton, 0, 0), &menus.PopUp1);
+  EXPECT_TRUE(menus.PopUp1PlumbCut.Visible);
+  EXPECT_FALSE(menus.PopUp1Ledger[0].Visible);
+  EXPECT_FALSE(menus.PopUp1LayoutCenter.Visible);
   Pick("cboType", "Blind Valley");
   document.Picture_MouseDown(1, kRightButton, 0, 0);
-  EXPECT_FALSE(menus.mnuPopUp1SquareCut.Visible);
+  EXPECT_FALSE(menus.PopUp1SquareCut.Visible);
   Pick("cboType", "Dutch Hip");
   document.Picture_MouseDown(1, kRightButton, 0, 0);
-  EXPECT_TRUE(menus.mnuPopUp1Ledger[1].Visible);
+  EXPECT_TRUE(menus.PopUp1Ledger[1].Visible);
   Pick("cboType", "Gambrel Roof");
-  EXPECT_EQ(document.Picture_MouseDown(3, kRightButton, 0, 0), &menus.mnuPopUp2);
+  EXPECT_EQ(document.Picture_MouseDown(3, kRightButton, 0, 0), &menus.PopUp2);
 }
 
 TEST_F(PagesTest, AFigureTooLargeToDrawIsOneMessageAndABlank) {
@@ -205,9 +205,9 @@ TEST_F(PagesTest, AFigureTooLargeToDrawIsOneMessageAndABlank) {
   ASSERT_EQ(around.dialogs.messages.size(), 1U);
   EXPECT_EQ(around.dialogs.messages[0].first, "DrawRafter");
   EXPECT_EQ(around.dialogs.messages[0].second, "Overflow - 6");
-  EXPECT_TRUE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_TRUE(document.board.Recorder.Operations().empty());
   Type("FtSpan(0)", "12'");
-  EXPECT_FALSE(document.board.MetaCanvas.Operations().empty());
+  EXPECT_FALSE(document.board.Recorder.Operations().empty());
   EXPECT_EQ(around.dialogs.messages.size(), 1U);
 }
 

@@ -9,7 +9,7 @@
 
 #include "answering_dialogs.h"
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "support/scratch_folder.h"
 
 namespace pitchcraft {
@@ -92,7 +92,7 @@ class PaperTest : public ::testing::Test {
   AnsweringDialogs dialogs;
   MemoryStore store;
   RecordingPrinter printer;
-  frmDocument document{{dialogs, store, folder.Path(), &printer}};
+  Document document{{dialogs, store, folder.Path(), &printer}};
   Actions actions{document};
 };
 

@@ -141,7 +141,7 @@ TEST_F(PrintTest, ADualSlopesRearRafterStatesTheRearFields) {
   Page(2);
   const PrintedPage& sheet = Print();
   EXPECT_EQ(TitleOf(sheet), "Dual Slope Roof - Rear Rafter");
-  EXPECT_EQ(ColumnsOf(sheet).at(0).at(1), "Run = " + document.sheet.FtSpan[1].Text());
+  EXPECT_EQ(ColumnsOf(sheet).at(0).at(1), "Run = " + document.sheet.Span[1].Text());
 }
 
 TEST_F(PrintTest, AMetricSheetIsMetricOnItsPaper) {
@@ -192,7 +192,7 @@ TEST_F(PrintTest, LongNamesAndManyRowsStayOnThePage) {
   Click("mnuSettingsSquareCut");
   Type("FtSpan(0)", "123456789'");
   Page(2);
-  if (document.board.MetaCanvas.Operations().empty()) Type("FtSpan(0)", "1234'");
+  if (document.board.Recorder.Operations().empty()) Type("FtSpan(0)", "1234'");
   ExpectOnThePage(Print());
   document.ProjectName = "H\u00F6he \u201CS\u00FCd\u201D";
   const PrintedPage& sheet = Print();
@@ -271,10 +271,10 @@ TEST_F(PrintTest, TurnedFontsTurnTheDimensionsTheOtherWay) {
 TEST_F(PrintTest, TheScreenKeepsItsDrawing) {
   Expect6In12();
   Page(1);
-  const Recording before = document.board.MetaCanvas.Operations();
+  const Recording before = document.board.Recorder.Operations();
   const std::size_t dimensions = document.board.DimensionPoints.size();
   Print();
-  EXPECT_EQ(document.board.MetaCanvas.Operations(), before);
+  EXPECT_EQ(document.board.Recorder.Operations(), before);
   EXPECT_EQ(document.board.DimensionPoints.size(), dimensions);
   EXPECT_TRUE(document.Imperial());
 }
@@ -312,7 +312,7 @@ TEST_F(PrintTest, PageSetupAndPopupsReachThePrinter) {
 }
 
 TEST_F(PrintTest, WithoutAPrinterAMessageSaysSo) {
-  frmDocument lonely({dialogs, store, folder.Path()});
+  Document lonely({dialogs, store, folder.Path()});
   lonely.Form_Load();
   lonely.mnuFilePageSetup_Click();
   lonely.mnuFilePrint_Click();

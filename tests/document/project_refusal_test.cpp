@@ -26,7 +26,7 @@ class RefusalTest : public ProjectTest {
     EXPECT_EQ(around()[0].second, message);
     EXPECT_EQ(session.document.LoadingProject, 0);
     EXPECT_EQ(session.document.Title, "Pitchcraft - [Untitled]");
-    EXPECT_TRUE(session.document.menus.mnuFileMRU[0].Caption.empty());
+    EXPECT_TRUE(session.document.menus.FileMRU[0].Caption.empty());
   }
   std::vector<std::pair<std::string, std::string>>& around() { return session.around.dialogs.messages; }
 
@@ -67,7 +67,7 @@ TEST_F(RefusalTest, UnitsAreAppliedBeforeARoofIsRefused) {
 TEST_F(RefusalTest, OldCodeOfTheBayIsRead) {
   ASSERT_TRUE(session.document.LoadRafter(Write("bay.pcf", "[Settings]\r\nRafterType=6\r\n")));
   EXPECT_EQ(session.document.RoofType, roof::kBay);
-  EXPECT_EQ(session.document.sheet.FtFace.Value(), 48);
+  EXPECT_EQ(session.document.sheet.Face.Value(), 48);
 }
 
 TEST_F(RefusalTest, MissingKeysTakeTheirDefaults) {

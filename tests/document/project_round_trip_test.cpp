@@ -18,7 +18,7 @@ std::string TextOf(const MemberValue& value) {
   return text.str();
 }
 
-int CodeOf(frmDocument& document) {
+int CodeOf(Document& document) {
   return ProjectRoofCode(
       {document.RoofType, document.Rafter1, document.Rafter2, document.sheet, document.menus});
 }
@@ -31,7 +31,7 @@ bool IsListed(int roofCode, const char* member) {
 }
 
 /// The members in which two rafters differ.
-std::set<std::string> Differences(const CRafter& one, const CRafter& other) {
+std::set<std::string> Differences(const Rafter& one, const Rafter& other) {
   std::set<std::string> names;
   for (const RafterMember& member : RafterMembers()) {
     // Undefined numbers are equal as texts.
@@ -40,7 +40,7 @@ std::set<std::string> Differences(const CRafter& one, const CRafter& other) {
   return names;
 }
 
-void ExpectOnlyListed(const CRafter& before, const CRafter& after, int roofCode, const char* which) {
+void ExpectOnlyListed(const Rafter& before, const Rafter& after, int roofCode, const char* which) {
   for (const std::string& name : Differences(before, after)) {
     EXPECT_TRUE(IsListed(roofCode, name.c_str())) << which << "." << name << " came back different";
   }
@@ -58,12 +58,12 @@ void ExpectSameFields(Sheet& one, Sheet& other) {
     const AnyControl& any = one.Controls()[i];
     const Control& control = ControlOf(any);
     EXPECT_EQ(control.Visible, ControlOf(other.Controls()[i]).Visible) << control.Name;
-    if (!control.Visible || (control.Host == Host::kBayStrip && !one.Toolbar1.Visible)) continue;
-    if (auto* const* field = std::get_if<FtInText*>(&any)) {
-      EXPECT_EQ((*field)->Text(), std::get<FtInText*>(other.Controls()[i])->Text()) << control.Name;
+    if (!control.Visible || (control.Host == Host::kBayStrip && !one.DimensionStrip.Visible)) continue;
+    if (auto* const* field = std::get_if<MeasureControl*>(&any)) {
+      EXPECT_EQ((*field)->Text(), std::get<MeasureControl*>(other.Controls()[i])->Text()) << control.Name;
     }
-    if (auto* const* pair = std::get_if<LWCombo*>(&any)) {
-      const LWCombo& now = *std::get<LWCombo*>(other.Controls()[i]);
+    if (auto* const* pair = std::get_if<PairControl*>(&any)) {
+      const PairControl& now = *std::get<PairControl*>(other.Controls()[i]);
       EXPECT_EQ((*pair)->LeftText(), now.LeftText()) << control.Name;
       EXPECT_EQ((*pair)->RightText(), now.RightText()) << control.Name;
     }
@@ -136,10 +136,10 @@ TEST_F(LossTest, NumbersKeepSevenDigits) {
 
 TEST_F(LossTest, TextsComeBackAsShown) {
   Take({{"pick", "cboType", "Blind Valley"}, {"type", "LWSlope(2)", "8.12345 | 12"}});
-  EXPECT_DOUBLE_EQ(before.document.sheet.LWSlope[2].LeftValue(), 8.12345);
-  EXPECT_NEAR(after.document.sheet.LWSlope[2].LeftValue(), 8.12345, 0.0001);
-  EXPECT_NE(after.document.sheet.LWSlope[2].LeftValue(), 8.12345);
-  EXPECT_EQ(after.document.sheet.LWSlope[2].LeftText(), before.document.sheet.LWSlope[2].LeftText());
+  EXPECT_DOUBLE_EQ(before.document.sheet.Slope[2].LeftValue(), 8.12345);
+  EXPECT_NEAR(after.document.sheet.Slope[2].LeftValue(), 8.12345, 0.0001);
+  EXPECT_NE(after.document.sheet.Slope[2].LeftValue(), 8.12345);
+  EXPECT_EQ(after.document.sheet.Slope[2].LeftText(), before.document.sheet.Slope[2].LeftText());
 }
 
 TEST_F(LossTest, HipOpensWithThePlainLayout) {
@@ -154,18 +154,18 @@ TEST_F(LossTest, HipOpensWithThePlainLayout) {
   EXPECT_LT(double{after.document.Rafter1.HipEndOverhang}, double{after.document.Rafter1.Overhang});
   const Menus& menus = after.document.menus;
   for (const MenuItem* item :
-       {&menus.mnuHipLayoutCorners, &menus.mnuPopUp1LayoutCorner, &menus.mnuHipLayoutCornersFlush,
-        &menus.mnuHipLayoutOverhangsEqual, &menus.mnuPopUp1OverhangsEqual, &menus.mnuHipLayoutJackMeasurement,
-        &menus.mnuPopUp1JackMeasurement}) {
+       {&menus.HipLayoutCorners, &menus.PopUp1LayoutCorner, &menus.HipLayoutCornersFlush,
+        &menus.HipLayoutOverhangsEqual, &menus.PopUp1OverhangsEqual, &menus.HipLayoutJackMeasurement,
+        &menus.PopUp1JackMeasurement}) {
     EXPECT_FALSE(item->Checked) << item->Name;
   }
-  EXPECT_TRUE(menus.mnuHipLayoutCenter.Checked);
-  EXPECT_TRUE(menus.mnuPopUp1LayoutCenter.Checked);
+  EXPECT_TRUE(menus.HipLayoutCenter.Checked);
+  EXPECT_TRUE(menus.PopUp1LayoutCenter.Checked);
 }
 
 TEST_F(LossTest, HipEndAngleIsThatOfTheBoxOfRow2) {
   Take({{"pick", "cboType", "Octagon"}});
-  after.document.sheet.cboDegrees[2].SetText("33");
+  after.document.sheet.Degrees[2].SetText("33");
   ASSERT_TRUE(after.document.SaveRafter(PathOf("other.pcf")));
   ASSERT_TRUE(after.document.LoadRafter(PathOf("other.pcf")));
   EXPECT_EQ(double{after.document.Rafter1.HipEndDegrees}, 33);
@@ -186,13 +186,13 @@ TEST_F(LossTest, KneewallOfOtherRoofsIsNotRead) {
 TEST_F(LossTest, TheFrontKneewallBoxFollowsTheRearOne) {
   Take({{"check", "chkKneewall(0)", "on"}, {"type", "FtKneewall(0)", "40"}});
   EXPECT_EQ(double{after.document.Rafter1.Kneewall}, 40) << "the kneewall itself comes back";
-  EXPECT_EQ(after.document.sheet.FtKneewall[0].Value(), 40);
-  EXPECT_EQ(after.document.sheet.chkKneewall[0].Value, 0);
-  EXPECT_FALSE(after.document.sheet.FtKneewall[0].Enabled);
+  EXPECT_EQ(after.document.sheet.Kneewall[0].Value(), 40);
+  EXPECT_EQ(after.document.sheet.HasKneewall[0].Value, 0);
+  EXPECT_FALSE(after.document.sheet.Kneewall[0].Enabled);
 }
 
 TEST_F(LossTest, SpacingOfRoofsWithoutLayoutIsTheUsualOne) {
-  before.document.sheet.cboSpacing.SetText("24\"");
+  before.document.sheet.Spacing.SetText("24\"");
   before.document.cboSpacing_Click();
   Take({});
   EXPECT_EQ(double{before.document.Rafter1.spacing}, 24);
@@ -216,7 +216,7 @@ TEST_F(LossTest, SecondSpanOfADutchHipIsItsProjection) {
   Take({{"pick", "cboType", "Dutch Hip"}, {"type", "FtSpan(2)", "60"}});
   EXPECT_EQ(double{before.document.Rafter2.Span}, 144);
   EXPECT_EQ(double{after.document.Rafter2.Span}, 60);
-  EXPECT_EQ(after.document.sheet.FtSpan[2].Value(), 60);
+  EXPECT_EQ(after.document.sheet.Span[2].Value(), 60);
 }
 
 }  // namespace

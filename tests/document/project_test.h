@@ -13,7 +13,7 @@ namespace pitchcraft {
 /// A session of its own: document, settings, messages.
 struct ProjectSession {
   NullSurroundings around;
-  frmDocument document{around.Get()};
+  Document document{around.Get()};
   Actions actions{document};
 
   ProjectSession() { document.Form_Load(); }

@@ -18,18 +18,18 @@ constexpr std::size_t kRemembered = 20;
 class RandomWalkTest : public DocumentTest {};
 
 /// What must hold whatever was done.
-void ExpectInOrder(const frmDocument& document) {
+void ExpectInOrder(const Document& document) {
   const Sheet& sheet = document.sheet;
-  ASSERT_GE(sheet.VSTab[0].Page, 0);
-  ASSERT_LT(sheet.VSTab[0].Page, sheet.VSTab[0].PageCount());
-  ASSERT_EQ(document.CurrentTab, sheet.VSTab[0].Page);
-  ASSERT_EQ(ListIndexOfRoof(document.RoofType), sheet.cboType.ListIndex());
-  ASSERT_TRUE(document.board.MetaCanvas.IsClosed());
-  ASSERT_NE(document.menus.mnuMetric.Checked, document.menus.mnuImperial.Checked);
-  ASSERT_EQ(document.UnitRun, document.menus.mnuMetric.Checked ? 1000 : 12);
-  ASSERT_FALSE(sheet.chkHeel[0].Ticked() && sheet.chkSeat[0].Ticked());
+  ASSERT_GE(sheet.Tabs[0].Page, 0);
+  ASSERT_LT(sheet.Tabs[0].Page, sheet.Tabs[0].PageCount());
+  ASSERT_EQ(document.CurrentTab, sheet.Tabs[0].Page);
+  ASSERT_EQ(ListIndexOfRoof(document.RoofType), sheet.RoofList.ListIndex());
+  ASSERT_TRUE(document.board.Recorder.IsClosed());
+  ASSERT_NE(document.menus.Metric.Checked, document.menus.Imperial.Checked);
+  ASSERT_EQ(document.UnitRun, document.menus.Metric.Checked ? 1000 : 12);
+  ASSERT_FALSE(sheet.HeelLock[0].Ticked() && sheet.SeatLock[0].Ticked());
   for (const AnyControl& any : sheet.Controls()) {
-    if (auto* const* field = std::get_if<FtInText*>(&any)) {
+    if (auto* const* field = std::get_if<MeasureControl*>(&any)) {
       ASSERT_TRUE(std::isfinite((*field)->Value())) << ControlOf(any).Name;
     }
   }

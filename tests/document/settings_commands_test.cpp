@@ -8,7 +8,7 @@ using SettingsCommandsTest = DocumentTest;
 TEST_F(SettingsCommandsTest, TheUnitItemsAreOneToggle) {
   Click("mnuImperial");
   EXPECT_EQ(document.UnitRun, 1000) << "the item that is checked already changes the system too";
-  EXPECT_TRUE(menus.mnuMetric.Checked);
+  EXPECT_TRUE(menus.Metric.Checked);
   Click("mnuImperial");
   EXPECT_EQ(document.UnitRun, 12);
 }
@@ -18,7 +18,7 @@ TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
   Type("FtSpan(0)", "20'");
   Click("mnuMetric");
   EXPECT_EQ(document.RoofType, roof::kGable);
-  for (const CRafter* each : {&document.Rafter1, &document.Rafter2}) {
+  for (const Rafter* each : {&document.Rafter1, &document.Rafter2}) {
     EXPECT_EQ(each->SlopeBase, 1000);
     EXPECT_EQ(each->Slope, 100);
     EXPECT_EQ(each->Span, 3600);
@@ -30,13 +30,13 @@ TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
   }
   EXPECT_EQ(document.UnitHipRun, 1414.2135);
   EXPECT_EQ(document.DrawScale(), 1);
-  EXPECT_EQ(sheet.FtSpan[0].Text(), "3600 mm");
-  EXPECT_EQ(sheet.LWSlope[0].LeftText(), "100");
-  EXPECT_EQ(sheet.LWSlope[0].List().front().Caption, "100/1000");
-  EXPECT_EQ(sheet.LWRafter[0].List().front().Caption, "1x4") << "lumber keeps its inches by name and number";
-  EXPECT_EQ(sheet.cboSpacing.Text(), "400 mm");
-  EXPECT_EQ(sheet.FTUpperFascia.List().size(), 11U);
-  EXPECT_EQ(menus.mnuTools.Caption, "&Calculator");
+  EXPECT_EQ(sheet.Span[0].Text(), "3600 mm");
+  EXPECT_EQ(sheet.Slope[0].LeftText(), "100");
+  EXPECT_EQ(sheet.Slope[0].List().front().Caption, "100/1000");
+  EXPECT_EQ(sheet.Common[0].List().front().Caption, "1x4") << "lumber keeps its inches by name and number";
+  EXPECT_EQ(sheet.Spacing.Text(), "400 mm");
+  EXPECT_EQ(sheet.UpperFascia.List().size(), 11U);
+  EXPECT_EQ(menus.Tools.Caption, "&Calculator");
 }
 
 TEST_F(SettingsCommandsTest, AUnitSwitchDropsLocksAndKneewalls) {
@@ -45,59 +45,58 @@ TEST_F(SettingsCommandsTest, AUnitSwitchDropsLocksAndKneewalls) {
   Type("FtKneewall(0)", "3'");
   Click("mnuMetric");
   EXPECT_FALSE(rafter.HeelLocked);
-  EXPECT_FALSE(sheet.chkHeel[0].Ticked());
-  EXPECT_FALSE(menus.mnuSettingsHeelLocked.Checked);
-  EXPECT_FALSE(sheet.chkKneewall[0].Ticked());
+  EXPECT_FALSE(sheet.HeelLock[0].Ticked());
+  EXPECT_FALSE(menus.SettingsHeelLocked.Checked);
+  EXPECT_FALSE(sheet.HasKneewall[0].Ticked());
   EXPECT_EQ(rafter.Kneewall, 0);
-  EXPECT_EQ(sheet.FtKneewall[0].Value(), 0);
-  EXPECT_FALSE(sheet.FtKneewall[0].Enabled);
+  EXPECT_EQ(sheet.Kneewall[0].Value(), 0);
+  EXPECT_FALSE(sheet.Kneewall[0].Enabled);
 }
 
 TEST_F(SettingsCommandsTest, SlopeModeMovesOnlyTheRowsInUse) {
   Click("mnuSettingsDegrees");
-  EXPECT_TRUE(sheet.cboDegrees[0].Visible);
-  EXPECT_FALSE(sheet.LWSlope[0].Visible);
-  EXPECT_FALSE(sheet.cboDegrees[1].Visible || sheet.LWSlope[1].Visible);
-  EXPECT_FALSE(sheet.cboDegrees[2].Visible || sheet.LWSlope[2].Visible);
+  EXPECT_TRUE(sheet.Degrees[0].Visible);
+  EXPECT_FALSE(sheet.Slope[0].Visible);
+  EXPECT_FALSE(sheet.Degrees[1].Visible || sheet.Slope[1].Visible);
+  EXPECT_FALSE(sheet.Degrees[2].Visible || sheet.Slope[2].Visible);
   Pick("cboType", "Hip");
-  EXPECT_TRUE(sheet.cboDegrees[2].Visible);
+  EXPECT_TRUE(sheet.Degrees[2].Visible);
   Click("mnuSettingsRiseOverRun");
-  EXPECT_TRUE(sheet.LWSlope[2].Visible);
-  EXPECT_FALSE(sheet.cboDegrees[2].Visible);
+  EXPECT_TRUE(sheet.Slope[2].Visible);
+  EXPECT_FALSE(sheet.Degrees[2].Visible);
 }
 
 TEST_F(SettingsCommandsTest, AFasciaCutStandsInEveryPlaceAlike) {
   Click("mnuPopUp1SquareCut");
-  for (const MenuItem* item : {&menus.mnuSettingsSquareCut, &menus.mnuGambrelSquare,
-                               &menus.mnuPopUp1SquareCut, &menus.mnuPopUp2SquareCut}) {
+  for (const MenuItem* item :
+       {&menus.SettingsSquareCut, &menus.GambrelSquare, &menus.PopUp1SquareCut, &menus.PopUp2SquareCut}) {
     EXPECT_TRUE(item->Checked) << item->Name;
   }
-  for (const MenuItem* item :
-       {&menus.mnuSettingsPlumbCut, &menus.mnuGambrelPlumb, &menus.mnuPopUp1PlumbCut,
-        &menus.mnuPopUp2PlumbCut, &menus.mnuSettingsLevelCut, &menus.mnuGambrelLevel}) {
+  for (const MenuItem* item : {&menus.SettingsPlumbCut, &menus.GambrelPlumb, &menus.PopUp1PlumbCut,
+                               &menus.PopUp2PlumbCut, &menus.SettingsLevelCut, &menus.GambrelLevel}) {
     EXPECT_FALSE(item->Checked) << item->Name;
   }
-  EXPECT_TRUE(document.tbToolBar["Square"].Pressed);
-  EXPECT_FALSE(document.tbToolBar["Plumb"].Pressed);
+  EXPECT_TRUE(document.toolBar["Square"].Pressed);
+  EXPECT_FALSE(document.toolBar["Plumb"].Pressed);
 }
 
 TEST_F(SettingsCommandsTest, PlumbTakesTheFasciaHeightBack) {
   Type("LWFascia(0)", "1.5 | 4");
   Click("mnuSettingsSquareCut");
-  EXPECT_FALSE(sheet.LWFascia[0].Enabled);
-  EXPECT_FALSE(sheet.LWFascia[1].Enabled);
-  sheet.LWFascia[0].SetRightValue(9);
+  EXPECT_FALSE(sheet.Fascia[0].Enabled);
+  EXPECT_FALSE(sheet.Fascia[1].Enabled);
+  sheet.Fascia[0].SetRightValue(9);
   Click("mnuSettingsPlumbCut");
-  EXPECT_EQ(sheet.LWFascia[0].RightText(), "4\"");
-  EXPECT_TRUE(sheet.LWFascia[0].Enabled);
-  sheet.LWFascia[0].SetRightValue(6);
+  EXPECT_EQ(sheet.Fascia[0].RightText(), "4\"");
+  EXPECT_TRUE(sheet.Fascia[0].Enabled);
+  sheet.Fascia[0].SetRightValue(6);
   Click("mnuSettingsPlumbCut");
-  EXPECT_EQ(sheet.LWFascia[0].RightText(), "6\"") << "only a change away from plumb keeps a height";
+  EXPECT_EQ(sheet.Fascia[0].RightText(), "6\"") << "only a change away from plumb keeps a height";
 }
 
 TEST_F(SettingsCommandsTest, LockItemsTickTheirBox) {
   Click("mnuSettingsSeatLocked");
-  EXPECT_TRUE(sheet.chkSeat[0].Ticked());
+  EXPECT_TRUE(sheet.SeatLock[0].Ticked());
   EXPECT_TRUE(rafter.SeatLocked);
   Click("mnuSettingsSeatLocked");
   EXPECT_FALSE(rafter.SeatLocked);
@@ -106,12 +105,12 @@ TEST_F(SettingsCommandsTest, LockItemsTickTheirBox) {
 TEST_F(SettingsCommandsTest, HipLayoutsExcludeEachOther) {
   Pick("cboType", "Hip");
   Click("mnuHipLayoutCenter");
-  EXPECT_TRUE(menus.mnuPopUp1LayoutCenter.Checked);
-  EXPECT_FALSE(menus.mnuHipLayoutCorners.Checked);
+  EXPECT_TRUE(menus.PopUp1LayoutCenter.Checked);
+  EXPECT_FALSE(menus.HipLayoutCorners.Checked);
   Page(3);
   Click("mnuPopUp1LayoutCornerFlush");
-  EXPECT_TRUE(menus.mnuHipLayoutCornersFlush.Checked);
-  EXPECT_FALSE(menus.mnuHipLayoutCenter.Checked);
+  EXPECT_TRUE(menus.HipLayoutCornersFlush.Checked);
+  EXPECT_FALSE(menus.HipLayoutCenter.Checked);
 }
 
 TEST_F(SettingsCommandsTest, OverhangsEqualBelongsToABastardHip) {
@@ -130,9 +129,9 @@ TEST_F(SettingsCommandsTest, OverhangsEqualBelongsToABastardHip) {
 TEST_F(SettingsCommandsTest, BarsAreShownAndHidden) {
   const int height = document.Picture1.Place.Height;
   Click("mnuViewToolbar");
-  EXPECT_FALSE(menus.mnuViewToolbar.Checked);
+  EXPECT_FALSE(menus.ViewToolbar.Checked);
   EXPECT_EQ(document.Picture1.Place.Height, height + 420);
-  EXPECT_EQ(sheet.VSElastic[1].Top, 0);
+  EXPECT_EQ(sheet.Frames[1].Top, 0);
   EXPECT_TRUE(actions.Press("Hip")) << "no button of a hidden bar";
   Click("mnuViewStatusBar");
   EXPECT_EQ(document.Layout().statusBar.Height, 0);

@@ -23,21 +23,21 @@ class SidePrograms : public testing::Test {
   }
   NullSurroundings surroundings_;
   Services services_;
-  std::optional<frmDocument> document_;
+  std::optional<Document> document_;
 };
 
 TEST_F(SidePrograms, CalculatorHasTheUnitsOfTheDocument) {
-  EXPECT_TRUE(document_->menus.mnuTools.Enabled);
-  document_->ClickMenu(document_->menus.mnuTools);
+  EXPECT_TRUE(document_->menus.Tools.Enabled);
+  document_->ClickMenu(document_->menus.Tools);
   document_->mnuMetric_Click();
-  document_->ClickMenu(document_->menus.mnuTools);
+  document_->ClickMenu(document_->menus.Tools);
   EXPECT_EQ(services_.calculators, (std::vector<bool>{false, true}));
   EXPECT_TRUE(surroundings_.dialogs.messages.empty());
 }
 
 TEST_F(SidePrograms, HelpOpensAtItsPlace) {
   Menus& menus = document_->menus;
-  for (MenuItem* item : {&menus.mnuHelpcontents, &menus.mnuHelpGlossary, &menus.mnuHelpSearch}) {
+  for (MenuItem* item : {&menus.Helpcontents, &menus.HelpGlossary, &menus.HelpSearch}) {
     EXPECT_TRUE(item->Enabled) << item->Name;
     document_->ClickMenu(*item);
   }
@@ -62,7 +62,7 @@ TEST_F(SidePrograms, WhatIsNotThereIsAMessage) {
 
 TEST(NoSidePrograms, AreMessages) {
   NullSurroundings surroundings;
-  frmDocument document(surroundings.Get());
+  Document document(surroundings.Get());
   document.Form_Load();
   document.mnuTools_Click();
   document.mnuHelpSearch_Click();

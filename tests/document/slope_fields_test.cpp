@@ -10,14 +10,14 @@ using SlopeFieldsTest = DocumentTest;
 TEST_F(SlopeFieldsTest, ASlopeIsBroughtToTheRunOfTheUnits) {
   Type("LWSlope(0)", "6 | 8");
   EXPECT_EQ(rafter.Slope, 9);
-  EXPECT_EQ(sheet.LWSlope[0].RightValue(), 12);
-  EXPECT_EQ(sheet.cboDegrees[0].Text(), "36.87");
+  EXPECT_EQ(sheet.Slope[0].RightValue(), 12);
+  EXPECT_EQ(sheet.Degrees[0].Text(), "36.87");
   EXPECT_EQ(rafter.degrees, Single(36.87));
 }
 
 TEST_F(SlopeFieldsTest, EnterKeepsTheDegreesUnrounded) {
   Enter("LWSlope(0)", "6 | 12");
-  EXPECT_EQ(sheet.cboDegrees[0].Text(), "26.56505");
+  EXPECT_EQ(sheet.Degrees[0].Text(), "26.56505");
 }
 
 TEST_F(SlopeFieldsTest, APercentageIsReadOnEnterInEitherBox) {
@@ -25,7 +25,7 @@ TEST_F(SlopeFieldsTest, APercentageIsReadOnEnterInEitherBox) {
   EXPECT_EQ(rafter.Slope, 3);
   Enter("LWSlope(0)", "7 | 50%");
   EXPECT_EQ(rafter.Slope, 6);
-  EXPECT_EQ(sheet.LWSlope[0].RightValue(), 12);
+  EXPECT_EQ(sheet.Slope[0].RightValue(), 12);
 }
 
 TEST_F(SlopeFieldsTest, APercentageIsNotReadOnLeaving) {
@@ -36,7 +36,7 @@ TEST_F(SlopeFieldsTest, APercentageIsNotReadOnLeaving) {
 TEST_F(SlopeFieldsTest, ARiseAloneKeepsTheRun) {
   Type("LWSlope(0)", "8");
   EXPECT_EQ(rafter.Slope, 8);
-  EXPECT_EQ(sheet.LWSlope[0].RightValue(), 12);
+  EXPECT_EQ(sheet.Slope[0].RightValue(), 12);
 }
 
 TEST_F(SlopeFieldsTest, ARowOfTheListCommits) {
@@ -52,8 +52,8 @@ TEST_F(SlopeFieldsTest, SlopeZeroAndThenSixGivesThePlainNumbersAgain) {
   Type("LWSlope(0)", "6 | 12");
   const double length = rafter.Length2, heel = rafter.Heel;
   Type("LWSlope(0)", "0 | 12");
-  EXPECT_EQ(sheet.FtSeat[0].Text(), "inf");
-  EXPECT_EQ(sheet.FtSeat[0].Value(), 0);
+  EXPECT_EQ(sheet.Seat[0].Text(), "inf");
+  EXPECT_EQ(sheet.Seat[0].Value(), 0);
   Type("LWSlope(0)", "6 | 12");
   EXPECT_EQ(rafter.Length2, length);
   EXPECT_EQ(rafter.Heel, heel);
@@ -78,7 +78,7 @@ TEST_F(SlopeFieldsTest, ZeroDegreesGiveFortyFive) {
     } else {
       Type("cboDegrees(0)", "none");
     }
-    EXPECT_EQ(sheet.cboDegrees[0].Text(), "45");
+    EXPECT_EQ(sheet.Degrees[0].Text(), "45");
     EXPECT_EQ(rafter.Slope, 12);
   }
 }
@@ -86,17 +86,17 @@ TEST_F(SlopeFieldsTest, ZeroDegreesGiveFortyFive) {
 TEST_F(SlopeFieldsTest, AnEndSlopeMakesABastardHipAndTheMainSlopeBringsItBack) {
   Pick("cboType", "Hip");
   Type("LWSlope(0)", "8 | 12");
-  EXPECT_EQ(sheet.LWSlope[2].LeftValue(), 8);
+  EXPECT_EQ(sheet.Slope[2].LeftValue(), 8);
   Type("LWSlope(2)", "12 | 12");
   EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip);
-  EXPECT_EQ(sheet.VSTab[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
-  EXPECT_TRUE(menus.mnuHipLayoutOverhangsEqual.Visible);
+  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
+  EXPECT_TRUE(menus.HipLayoutOverhangsEqual.Visible);
   EXPECT_EQ(rafter.HipEndDegrees, 45);
   Type("LWSlope(0)", "8 | 12");
   EXPECT_EQ(rafter.RafterType, RafterType::kHip);
-  EXPECT_EQ(sheet.LWSlope[2].LeftValue(), 8);
-  EXPECT_EQ(sheet.VSTab[0].Caption(), "Design|Common|Hip Rafter|Layout");
-  EXPECT_FALSE(menus.mnuHipLayoutOverhangsEqual.Visible);
+  EXPECT_EQ(sheet.Slope[2].LeftValue(), 8);
+  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip Rafter|Layout");
+  EXPECT_FALSE(menus.HipLayoutOverhangsEqual.Visible);
 }
 
 TEST_F(SlopeFieldsTest, LumberIsGuardedByTheSizeThatTheRafterHolds) {
@@ -115,8 +115,8 @@ TEST_F(SlopeFieldsTest, SpacingIsShownInInches) {
   Type("cboSpacing", "2'");
   EXPECT_EQ(document.Spacing, 24);
   EXPECT_EQ(rafter.spacing, 24);
-  EXPECT_EQ(sheet.cboSpacing.Text(), "24\"");
-  EXPECT_EQ(sheet.cboSpacing.ListIndex(), 3);
+  EXPECT_EQ(sheet.Spacing.Text(), "24\"");
+  EXPECT_EQ(sheet.Spacing.ListIndex(), 3);
 }
 
 }  // namespace

@@ -46,11 +46,10 @@ class DimensionTest : public ::testing::Test {
   }
   std::size_t Strokes() {
     std::size_t count = 0;
-    for (const DrawOp& op : board.MetaCanvas.Operations())
-      count += std::holds_alternative<LineOp>(op) ? 1 : 0;
+    for (const DrawOp& op : board.Recorder.Operations()) count += std::holds_alternative<LineOp>(op) ? 1 : 0;
     return count;
   }
-  const TextOp& Text() { return std::get<TextOp>(board.MetaCanvas.Operations().back()); }
+  const TextOp& Text() { return std::get<TextOp>(board.Recorder.Operations().back()); }
   double Width(const std::string& text) { return meter.TextWidth(text, {"Arial", 24}); }
 
   ArialMeter meter;
@@ -82,7 +81,7 @@ TEST_F(DimensionTest, WritesATextThatIsGiven) {
 
 TEST_F(DimensionTest, DrawsNoEmptyTextButRecordsIt) {
   Draw(2, {0, 0}, {300, 0}, 0, 0, 0, "");
-  EXPECT_TRUE(std::holds_alternative<LineOp>(board.MetaCanvas.Operations().back()));
+  EXPECT_TRUE(std::holds_alternative<LineOp>(board.Recorder.Operations().back()));
   EXPECT_EQ(board.DimensionPoints.size(), Strokes() * 4 + 5);
 }
 
@@ -137,7 +136,7 @@ TEST_F(DimensionTest, KeepsLevelLinesLevelBetweenTwoUnits) {
                                  {{2000.5, 2000.5}, {0.5, 0.5}}}) {
       Draw(kind, p1, p2);
       for (std::size_t at = 0; at < 3; ++at) {
-        const auto& line = std::get<LineOp>(board.MetaCanvas.Operations()[at]);
+        const auto& line = std::get<LineOp>(board.Recorder.Operations()[at]);
         EXPECT_TRUE(line.From.X == line.To.X || line.From.Y == line.To.Y)
             << "stroke " << at << " kind " << kind;
       }

@@ -14,7 +14,7 @@ namespace {
 class Board : public ::testing::Test {
  protected:
   Board() { board.BeginDrawing(0, 0xFFFFFF); }
-  const TextOp& LastText() { return std::get<TextOp>(board.MetaCanvas.Operations().back()); }
+  const TextOp& LastText() { return std::get<TextOp>(board.Recorder.Operations().back()); }
   double Number(std::size_t at) { return std::get<Single>(board.DimensionPoints.at(at)); }
   std::string Word(std::size_t at) { return std::get<std::string>(board.DimensionPoints.at(at)); }
 
@@ -33,23 +33,23 @@ TEST_F(Board, HasSixtyFourPoints) {
 TEST_F(Board, StartsEachDrawingEmpty) {
   board.Pts(3) = {1, 2};
   board.DimText("a", 10, 0, 0, 30);
-  board.DrawFX.EntryMode = 1;
-  board.DrawFX.SetDrawStyle(2);
-  board.TextFX.FontBold = true;
+  board.Strokes.EntryMode = 1;
+  board.Strokes.SetDrawStyle(2);
+  board.Letters.FontBold = true;
   board.BeginDrawing(5, 6);
-  EXPECT_TRUE(board.MetaCanvas.IsOpen());
-  EXPECT_EQ(board.MetaCanvas.BackColor, 5);
+  EXPECT_TRUE(board.Recorder.IsOpen());
+  EXPECT_EQ(board.Recorder.BackColor, 5);
   EXPECT_EQ(board.Pts(3).X, 0);
   EXPECT_TRUE(board.DimensionPoints.empty());
-  board.DrawFX.DrawLine(10, 0);
-  EXPECT_EQ(std::get<LineOp>(board.MetaCanvas.Operations().back()).Pen, (DrawnPen{6, 0, 0}));
-  EXPECT_EQ(board.DrawFX.EntryMode, 0);
-  EXPECT_FALSE(board.TextFX.FontBold);
+  board.Strokes.DrawLine(10, 0);
+  EXPECT_EQ(std::get<LineOp>(board.Recorder.Operations().back()).Pen, (DrawnPen{6, 0, 0}));
+  EXPECT_EQ(board.Strokes.EntryMode, 0);
+  EXPECT_FALSE(board.Letters.FontBold);
 }
 
 TEST_F(Board, TakesItsMeasuresFromTheExtents) {
-  board.DrawFX.MoveToPoint(2000, 1000);
-  board.MetaCanvas.SetCanvas({10000, 8000});
+  board.Strokes.MoveToPoint(2000, 1000);
+  board.Recorder.SetCanvas({10000, 8000});
   EXPECT_NEAR(board.SetMetrics(), (2000.0 / 10000) / (1000.0 / 8000), 1e-6);
   EXPECT_NEAR(board.PointFactor, 0.2, 1e-6);
   EXPECT_NEAR(board.DimGap, 24, 1e-4);
@@ -59,19 +59,19 @@ TEST_F(Board, TakesItsMeasuresFromTheExtents) {
 }
 
 TEST_F(Board, KnowsTheWidthOfTheLastDrawing) {
-  board.DrawFX.DrawLine(-30, 0, Single(70), Single(5));
+  board.Strokes.DrawLine(-30, 0, Single(70), Single(5));
   board.EndDrawing();
   EXPECT_EQ(board.DrawingWidth, 100);
-  EXPECT_TRUE(board.MetaCanvas.IsClosed());
+  EXPECT_TRUE(board.Recorder.IsClosed());
 }
 
 TEST_F(Board, LeavesABlankForADrawingThatFails) {
-  board.DrawFX.DrawLine(10, 10);
+  board.Strokes.DrawLine(10, 10);
   board.DimText("a", 10, 0, 0, 30);
   board.AbandonDrawing();
-  EXPECT_TRUE(board.MetaCanvas.Finished().empty());
+  EXPECT_TRUE(board.Recorder.Finished().empty());
   EXPECT_TRUE(board.DimensionPoints.empty());
-  EXPECT_EQ(board.MetaCanvas.MaxX(), 0);
+  EXPECT_EQ(board.Recorder.MaxX(), 0);
 }
 
 TEST_F(Board, TurnsAnAngleIntoAnOffset) {
@@ -85,13 +85,13 @@ TEST_F(Board, TurnsAnAngleIntoAnOffset) {
 
 TEST_F(Board, WritesADimensionsTextAtPointTen) {
   board.Pts(10) = {100, 200};
-  board.TextFX.Angle = 33;
+  board.Letters.Angle = 33;
   board.DimText("6' 2\"", 48.4, 0.5, 0, 30);
   EXPECT_EQ(LastText().At, (DrawnPoint{100, 200}));
   EXPECT_EQ(LastText().Height, 48);
   EXPECT_EQ(LastText().Align, 30);
   EXPECT_NEAR(LastText().Angle, 0.5 * 57.295779513082, 1e-4);
-  EXPECT_EQ(board.TextFX.Angle, 33) << "the angle that was set before stands again";
+  EXPECT_EQ(board.Letters.Angle, 33) << "the angle that was set before stands again";
 }
 
 TEST_F(Board, TurnsByMode) {
@@ -143,7 +143,7 @@ TEST_F(Board, NamesTheAlignmentByALetter) {
 
 TEST_F(Board, DrawsNoEmptyTextButRecordsIt) {
   board.DimText("", 10, 0, 0, 30);
-  EXPECT_TRUE(board.MetaCanvas.Operations().empty());
+  EXPECT_TRUE(board.Recorder.Operations().empty());
   EXPECT_EQ(board.DimensionPoints.size(), 5U);
 }
 

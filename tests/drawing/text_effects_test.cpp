@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "core/run_time_error.h"
-#include "drawing/text_fx.h"
-#include "recorder.h"
+#include "drawing/text_tool.h"
+#include "open_recording.h"
 
 namespace pitchcraft {
 namespace {
@@ -33,7 +33,7 @@ class Effects : public ::testing::Test {
   }
 
   Recorder recorder;
-  CTextFX& text = recorder.textFX;
+  TextTool& text = recorder.textFX;
 };
 
 TEST_F(Effects, StackDown) {

@@ -44,7 +44,7 @@ class DrawnMember {
     context.SquareCut = c.SquareCut;
     context.CurrentTab = c.Tab;
     board.DrawScale = c.Metric ? 1 : 10;
-    board.MetaCanvas.SetCanvas({c.Width, c.Height});
+    board.Recorder.SetCanvas({c.Width, c.Height});
     DrawBastardHipRafters(board, rafter, context);
   }
 
@@ -54,23 +54,23 @@ class DrawnMember {
   double TopSlope() const { return (Y(0) - Y(1)) / (X(0) - X(1)); }
   std::vector<std::string> Texts() const {
     std::vector<std::string> texts;
-    for (const DrawOp& operation : board.MetaCanvas.Finished()) {
+    for (const DrawOp& operation : board.Recorder.Finished()) {
       if (const auto* text = std::get_if<TextOp>(&operation)) texts.push_back(text->Text);
     }
     return texts;
   }
   std::string Trace() const {
     TextTrace trace(meter_);
-    trace.Play(board.MetaCanvas.Finished());
+    trace.Play(board.Recorder.Finished());
     return trace.Lines();
   }
 
  private:
   ArialMeter meter_;
-  FtInConverter converter_;
+  MeasureConverter converter_;
 
  public:
-  CRafter rafter;
+  Rafter rafter;
   DraftingBoard board;
 };
 
@@ -94,7 +94,7 @@ TEST(BastardHipElevation, ShowsTheMeasuresOfItsMember) {
   ForEveryRoof([](const MemberCase& c) {
     SCOPED_TRACE(::testing::PrintToString(static_cast<const HipCase&>(c)));
     const DrawnMember drawn(c);
-    CRafter rafter;
+    Rafter rafter;
     testing::CalculateHip(rafter, c);
     rafter.OverhangsEqual = c.OverhangsEqual;
     rafter.RafterType = c.Type;
@@ -171,7 +171,7 @@ TEST(BastardHipElevation, LabelsTheTwoCheeksOnTwoRows) {
   c.Run = 60;
   const DrawnMember drawn(c);
   std::vector<TextOp> bevels;
-  for (const DrawOp& operation : drawn.board.MetaCanvas.Finished()) {
+  for (const DrawOp& operation : drawn.board.Recorder.Finished()) {
     const auto* text = std::get_if<TextOp>(&operation);
     if (text != nullptr && text->Text.ends_with(" bevel")) bevels.push_back(*text);
   }
@@ -252,7 +252,7 @@ TEST(BastardHipElevation, CanBeRead) {
             c.Run = run;
             c.Width = width;
             c.Height = height;
-            for (const std::string& fault : UnreadableTexts(DrawnMember(c).board.MetaCanvas.Finished())) {
+            for (const std::string& fault : UnreadableTexts(DrawnMember(c).board.Recorder.Finished())) {
               ADD_FAILURE() << static_cast<int>(c.Type) << " " << static_cast<const HipCase&>(c)
                             << (square ? " square: " : ": ") << fault;
             }

@@ -10,7 +10,7 @@
 #include "drawing/arial_meter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/rafter_elevation.h"
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft::testing {
 
@@ -56,7 +56,7 @@ inline ElevationCase Metric() {
   return c;
 }
 
-inline void Fill(CRafter& rafter, const ElevationCase& c) {
+inline void Fill(Rafter& rafter, const ElevationCase& c) {
   const double thickness = c.Metric ? 38 : 1.5;
   rafter.SetUnits(c.Metric ? 1 : 0);
   rafter.Slope = c.Slope;
@@ -104,21 +104,21 @@ class DrawnElevation {
     rafter.Calculate();
     rafter.RafterType = c.Type;
     board.DrawScale = c.Metric ? 1 : 10;
-    board.MetaCanvas.SetCanvas({c.Width, c.Height});
+    board.Recorder.SetCanvas({c.Width, c.Height});
     DrawRafter(board, rafter, ContextOf(c));
   }
 
-  const Recording& Operations() const { return board.MetaCanvas.Finished(); }
+  const Recording& Operations() const { return board.Recorder.Finished(); }
   /// A point of the array in inches or millimetres.
   double X(int point) const { return board.Pts(point).X / board.DrawScale; }
   double Y(int point) const { return board.Pts(point).Y / board.DrawScale; }
 
  private:
   ArialMeter meter_;
-  FtInConverter converter_;
+  MeasureConverter converter_;
 
  public:
-  CRafter rafter;
+  Rafter rafter;
   DraftingBoard board;
 };
 

@@ -19,11 +19,11 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 class Hostile : public ::testing::Test {
  protected:
   Hostile() : board(meter, [](double) { return std::string("x"); }) {
-    board.MetaCanvas.SetCanvas({10000, 7000});
+    board.Recorder.SetCanvas({10000, 7000});
   }
   /// The number of the error that drawing raises; 0 for none.
   int Draw(const ElevationCase& c) {
-    CRafter rafter;
+    Rafter rafter;
     testing::Fill(rafter, c);
     rafter.RafterType = c.Type;
     rafter.Calculate();
@@ -46,11 +46,11 @@ TEST_F(Hostile, EndsBlankWithOneOverflow) {
       ElevationCase c;
       c.*field = bad;
       EXPECT_EQ(Draw(c), 6) << c;
-      EXPECT_TRUE(board.MetaCanvas.IsClosed());
-      EXPECT_TRUE(board.MetaCanvas.Finished().empty());
+      EXPECT_TRUE(board.Recorder.IsClosed());
+      EXPECT_TRUE(board.Recorder.Finished().empty());
       EXPECT_TRUE(board.DimensionPoints.empty());
       EXPECT_EQ(Draw(ElevationCase()), 0) << "the next drawing is whole again";
-      EXPECT_GT(board.MetaCanvas.Finished().size(), 40U);
+      EXPECT_GT(board.Recorder.Finished().size(), 40U);
     }
   }
 }
@@ -77,7 +77,7 @@ TEST_F(Hostile, EveryMixtureEndsSoon) {
               c.Tab = 1;
               const int error = Draw(c);
               ASSERT_TRUE(error == 0 || error == 6) << c;
-              ASSERT_TRUE(board.MetaCanvas.IsClosed()) << c;
+              ASSERT_TRUE(board.Recorder.IsClosed()) << c;
             }
           }
         }
@@ -100,7 +100,7 @@ TEST_F(Hostile, DrawsALevelRafter) {
       EXPECT_EQ(Draw(c), 0) << c;
       EXPECT_EQ(board.Pts(7).X, board.Pts(0).X) << "the seat ends at the ridge";
       EXPECT_EQ(board.Pts(8).Y, board.Pts(7).Y);
-      EXPECT_GT(board.MetaCanvas.Finished().size(), 30U);
+      EXPECT_GT(board.Recorder.Finished().size(), 30U);
     }
   }
 }
@@ -114,9 +114,9 @@ TEST_F(Hostile, DrawsARunThatEndsBeforeTheRidgeBoard) {
 }
 
 TEST_F(Hostile, DrawsOnACanvasWithoutSize) {
-  board.MetaCanvas.SetCanvas({0, 0});
+  board.Recorder.SetCanvas({0, 0});
   EXPECT_EQ(Draw(ElevationCase()), 0);
-  board.MetaCanvas.ClearCanvas();
+  board.Recorder.ClearCanvas();
   EXPECT_EQ(Draw(ElevationCase()), 0);
 }
 

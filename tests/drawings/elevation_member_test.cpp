@@ -19,7 +19,7 @@ class Member : public ::testing::Test {
   }
   Member() { testing::Fill(rafter, ElevationCase()); }
 
-  CRafter rafter;
+  Rafter rafter;
   DrawingContext context;
 };
 

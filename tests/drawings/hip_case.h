@@ -12,7 +12,7 @@
 #include "drawing/arial_meter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/hip_plan.h"
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft::testing {
 
@@ -64,7 +64,7 @@ inline HipCase MetricHip() {
   return c;
 }
 
-inline void CalculateHip(CRafter& rafter, const HipCase& c) {
+inline void CalculateHip(Rafter& rafter, const HipCase& c) {
   rafter.SetUnits(c.Metric ? 1 : 0);
   rafter.Slope = c.Slope;
   rafter.HipEndSlope = c.EndSlope;
@@ -83,7 +83,7 @@ inline void CalculateHip(CRafter& rafter, const HipCase& c) {
   rafter.Calculate();
 }
 
-inline DrawingContext ContextOf(const HipCase& c, const CRafter& rafter) {
+inline DrawingContext ContextOf(const HipCase& c, const Rafter& rafter) {
   DrawingContext context;
   context.RoofType = 1;
   context.UnitRun = c.Base();
@@ -98,7 +98,7 @@ inline DrawingContext ContextOf(const HipCase& c, const CRafter& rafter) {
 
 class DrawnHip {
  public:
-  using Procedure = void (*)(DraftingBoard&, const CRafter&, const DrawingContext&);
+  using Procedure = void (*)(DraftingBoard&, const Rafter&, const DrawingContext&);
 
   explicit DrawnHip(const HipCase& c, Procedure draw = &DrawHipLayout)
       : board(meter_, [this](double v) { return converter_.ToText(v); }) {
@@ -109,11 +109,11 @@ class DrawnHip {
     CalculateHip(rafter, c);
     context = ContextOf(c, rafter);
     board.DrawScale = c.Metric ? 1 : 10;
-    board.MetaCanvas.SetCanvas({c.Width, c.Height});
+    board.Recorder.SetCanvas({c.Width, c.Height});
     draw(board, rafter, context);
   }
 
-  const Recording& Operations() const { return board.MetaCanvas.Finished(); }
+  const Recording& Operations() const { return board.Recorder.Finished(); }
   HipLayout Layout() const { return LayOutHip(rafter, context.HipLayout); }
   std::string LengthText(double length) const { return board.LengthText(length); }
 
@@ -134,10 +134,10 @@ class DrawnHip {
 
  private:
   ArialMeter meter_;
-  FtInConverter converter_;
+  MeasureConverter converter_;
 
  public:
-  CRafter rafter;
+  Rafter rafter;
   DrawingContext context;
   DraftingBoard board;
 };

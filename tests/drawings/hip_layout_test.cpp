@@ -18,7 +18,7 @@ using testing::HipSpace;
 constexpr JackLayout kLayouts[] = {JackLayout::kCenter, JackLayout::kCorners, JackLayout::kCornersFlush};
 
 HipLayout LayOut(const HipCase& c) {
-  CRafter rafter;
+  Rafter rafter;
   testing::CalculateHip(rafter, c);
   return LayOutHip(rafter, testing::ContextOf(c, rafter).HipLayout);
 }
@@ -165,7 +165,7 @@ TEST(HipLayout, BeginsBesideTheCommon) {
   // Its run: to the edge half a thickness further in, less half the hip across the jack.
   const double run = 154.5 - 16 + 0.75 - 0.75 * std::sqrt(2.0);
   EXPECT_NEAR(*jacks[0].Length, run * std::sqrt(1.25), 1e-3);
-  CRafter rafter;
+  Rafter rafter;
   testing::CalculateHip(rafter, c);
   for (std::size_t i = 1; i < jacks.size(); ++i) {
     EXPECT_NEAR(*jacks[i].Length, *jacks[0].Length - 16 * rafter.HipEndCommonDifference * double(i), 1e-3);
@@ -256,7 +256,7 @@ TEST(HipLayout, KeepsTheLastCommonOnTheRidge) {
 
 TEST(HipLayout, TakesTheEndOfAPlainHipFromItsSide) {
   HipCase c;
-  CRafter rafter;
+  Rafter rafter;
   testing::CalculateHip(rafter, c);
   rafter.Overhang = 24;  // entered, and not calculated yet
   HipCase now;

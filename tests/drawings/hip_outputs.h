@@ -19,22 +19,22 @@ class HipOutputs {
         context{drawn.context, fields, 0, "Barn", "1/2/2003", drawn.board.LengthText},
         metric_(c.Metric) {
     if (c.Metric) {
-      for (FtInText* field : {&fields.FtSpan[0], &fields.FtOverhang[0]}) {
+      for (MeasureControl* field : {&fields.Span[0], &fields.Overhang[0]}) {
         field->Format.Units = kMillimetres;
         field->Format.BaseUnits = kBaseMillimetres;
       }
     }
-    fields.FtSpan[0].SetValue(c.Run);
-    fields.FtOverhang[0].SetValue(c.Overhang);
-    fields.cboSpacing.SetText(c.Metric ? "400" : "16\"");
-    for (LWCombo* lumber : {&fields.LWRafter[0], &fields.LWHipVal, &fields.LWRidge, &fields.LWFascia[0]})
+    fields.Span[0].SetValue(c.Run);
+    fields.Overhang[0].SetValue(c.Overhang);
+    fields.Spacing.SetText(c.Metric ? "400" : "16\"");
+    for (PairControl* lumber : {&fields.Common[0], &fields.HipOrValley, &fields.Ridge, &fields.Fascia[0]})
       lumber->SetValues(1.5, 7.25);
   }
 
   /// The file that an export writes.
   template <typename Export>
   std::string Exported(const Export& procedure, double textHeight = 2) {
-    CDxfWriter writer;
+    DxfWriter writer;
     writer.Units = metric_ ? DxfUnits::kMillimetre : DxfUnits::kInch;
     writer.LengthText = drawn.board.LengthText;
     writer.TextHeight = writer.DimTextHeight = writer.DimArrowSize = writer.DimExtension =
@@ -51,10 +51,10 @@ class HipOutputs {
     page.ScaleHeight = -page.ScaleHeight;
     DraftingBoard board(meter_, drawn.board.LengthText);
     board.DrawScale = drawn.board.DrawScale;
-    board.MetaCanvas.SetCanvas({page.ScaleWidth, page.ScaleHeight, true});
+    board.Recorder.SetCanvas({page.ScaleWidth, page.ScaleHeight, true});
     context.Drawing.LineWidth = 1;
     procedure(page, board, drawn.rafter, context);
-    Figure = board.MetaCanvas.Finished();
+    Figure = board.Recorder.Finished();
     std::vector<TextOp> texts;
     const PrintedPage printed = page.EndDoc();
     for (const DrawOp& operation : printed.Layers.at(0).Drawing) {

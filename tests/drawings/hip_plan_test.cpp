@@ -185,7 +185,7 @@ TEST(HipLayoutDrawing, IsSilentAboutAWallThatStandsWhereItBelongs) {
   HipCase c;
   c.EndSlope = 9;
   c.OverhangsEqual = true;
-  CRafter rafter;
+  Rafter rafter;
   testing::CalculateHip(rafter, c);
   rafter.OverhangsEqual = false;
   rafter.Calculate();
@@ -303,7 +303,7 @@ TEST(HipPlanLegibility, KeepsTextsInsideThePicture) {
   c.EndSlope = 9;
   c.OverhangsEqual = true;
   const DrawnHip drawn(c);
-  const CMetaFile& canvas = drawn.board.MetaCanvas;
+  const DrawingRecorder& canvas = drawn.board.Recorder;
   for (const TextOp& text : drawn.All<TextOp>()) {
     for (const testing::Spot& corner : testing::LettersOf(text)) {
       EXPECT_TRUE(corner.X >= canvas.MinX() && corner.X <= canvas.MaxX() && corner.Y >= canvas.MinY() &&
@@ -317,7 +317,7 @@ TEST(HipPlanLegibility, KeepsTextsInsideThePicture) {
 // -----------------------------------------------------------------------------------------------------------
 
 int ErrorOf(const HipCase& c, DrawnHip::Procedure draw, DraftingBoard& board) {
-  CRafter rafter;
+  Rafter rafter;
   testing::CalculateHip(rafter, c);
   try {
     draw(board, rafter, testing::ContextOf(c, rafter));
@@ -330,7 +330,7 @@ int ErrorOf(const HipCase& c, DrawnHip::Procedure draw, DraftingBoard& board) {
 TEST(HipPlanLimits, EndBlankWithOneError) {
   const ArialMeter meter;
   DraftingBoard board(meter, [](double) { return std::string("x"); });
-  board.MetaCanvas.SetCanvas({10000, 7000});
+  board.Recorder.SetCanvas({10000, 7000});
   const double bad[] = {1e30, 1e12, std::nan(""), std::numeric_limits<double>::infinity()};
   for (const double value : bad) {
     for (double HipCase::*field : {&HipCase::Run, &HipCase::Overhang, &HipCase::Spacing}) {
@@ -338,7 +338,7 @@ TEST(HipPlanLimits, EndBlankWithOneError) {
       c.*field = value;
       for (const auto draw : {&DrawHipPlan, &DrawHipLayout}) {
         EXPECT_NE(ErrorOf(c, draw, board), 0) << c;
-        EXPECT_TRUE(board.MetaCanvas.Finished().empty());
+        EXPECT_TRUE(board.Recorder.Finished().empty());
         EXPECT_TRUE(board.DimensionPoints.empty());
         EXPECT_EQ(ErrorOf({}, draw, board), 0) << "the next drawing is whole again";
       }
@@ -347,13 +347,13 @@ TEST(HipPlanLimits, EndBlankWithOneError) {
   HipCase c;
   c.Run = 1e6;
   EXPECT_EQ(ErrorOf(c, &DrawHipLayout, board), 5) << "more jacks than any roof has";
-  EXPECT_TRUE(board.MetaCanvas.Finished().empty());
+  EXPECT_TRUE(board.Recorder.Finished().empty());
 }
 
 TEST(HipPlanLimits, EveryMixtureEnds) {
   const ArialMeter meter;
   DraftingBoard board(meter, [](double) { return std::string("x"); });
-  board.MetaCanvas.SetCanvas({10000, 7000});
+  board.Recorder.SetCanvas({10000, 7000});
   const double values[] = {0, 1e-30, 1, -6, 144, 1e7, 1e20, std::nan("")};
   ForEveryLayout({}, [&](HipCase c) {
     for (const double slope : values) {
@@ -368,7 +368,7 @@ TEST(HipPlanLimits, EveryMixtureEnds) {
               c.Overhang = overhang;
               const int error = ErrorOf(c, &DrawHipLayout, board);
               ASSERT_TRUE(error == 0 || error == 5 || error == 6) << c;
-              ASSERT_TRUE(board.MetaCanvas.IsClosed()) << c;
+              ASSERT_TRUE(board.Recorder.IsClosed()) << c;
             }
           }
         }

@@ -93,7 +93,7 @@ TEST(HipSheet, DifferencesAreThoseOfTheJacks) {
 
 TEST(BastardHipSheet, TitleByMember) {
   HipOutputs outputs(Unequal());
-  CRafter& rafter = outputs.drawn.rafter;
+  Rafter& rafter = outputs.drawn.rafter;
   const auto title = [&](RafterType type) {
     rafter.RafterType = type;
     return BastardHipSheetOf(rafter, outputs.context).Title;
@@ -105,7 +105,7 @@ TEST(BastardHipSheet, TitleByMember) {
 
 TEST(BastardHipSheet, Rows) {
   HipOutputs outputs(Unequal());
-  const CRafter& rafter = outputs.drawn.rafter;
+  const Rafter& rafter = outputs.drawn.rafter;
   outputs.context.Drawing.SquareCut = true;
   const auto rows = Joined(BastardHipSheetOf(rafter, outputs.context).Rows);
   EXPECT_THAT(LabelsOf(rows),

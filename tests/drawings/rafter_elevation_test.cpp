@@ -154,7 +154,7 @@ TEST(RafterElevation, TitlesTheDrawingInBold) {
   EXPECT_TRUE(title.Bold);
   EXPECT_EQ(title.Align, 0);
   EXPECT_NEAR(title.Height, 360 * drawn.board.PointFactor, 0.51);
-  EXPECT_NEAR(title.At.X, drawn.board.MetaCanvas.MinX(), 0.51);
+  EXPECT_NEAR(title.At.X, drawn.board.Recorder.MinX(), 0.51);
   EXPECT_EQ(drawn.board.Pts(9).X, drawn.board.Pts(10).X);
 }
 
@@ -245,7 +245,7 @@ TEST(RafterElevation, KeepsTextAtTwelvePointsOnTheOutlinesOwnScale) {
 
 TEST(RafterElevation, KnowsItsWidth) {
   const DrawnElevation drawn((ElevationCase()));
-  EXPECT_NEAR(drawn.board.DrawingWidth, drawn.board.MetaCanvas.MaxX() - drawn.board.MetaCanvas.MinX(), 1e-3);
+  EXPECT_NEAR(drawn.board.DrawingWidth, drawn.board.Recorder.MaxX() - drawn.board.Recorder.MinX(), 1e-3);
 }
 
 }  // namespace

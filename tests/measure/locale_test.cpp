@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft {
 namespace {
@@ -30,7 +30,7 @@ class UnderLocale : public testing::TestWithParam<Locale> {
   }
   void TearDown() override { std::setlocale(LC_ALL, before_.c_str()); }
 
-  FtInConverter converter_;
+  MeasureConverter converter_;
 
  private:
   std::string before_ = std::setlocale(LC_ALL, nullptr);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft {
 namespace {
@@ -19,18 +19,18 @@ constexpr double kThirtySecond = 1.0 / 32;
 constexpr double kMillimetresPerInch = 25.4;
 
 // Seven significant digits hold a number to five parts in ten million.
-double Tolerance(const FtInConverter& converter, double value) {
+double Tolerance(const MeasureConverter& converter, double value) {
   const double unit = converter.BaseUnits == kBaseMillimetres ? kMillimetresPerInch : 1;
   return std::max(kThirtySecond * unit * (1 + 1e-9), std::abs(value) * 5.1e-7);
 }
 
-bool ReadsBack(const FtInConverter& converter, double value) {
+bool ReadsBack(const MeasureConverter& converter, double value) {
   return std::abs(converter.ToValue(converter.ToText(value)) - value) <= Tolerance(converter, value);
 }
 
 // Sixty-fourths of an inch around the half sixteenths, over any length a roof can have.
 RC_GTEST_PROP(RoundTrip, LengthsReadBackWithinAThirtySecond, (std::int32_t sixtyFourths)) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = *rc::gen::element(kFeetAndInches, kInchesAlone, kMillimetres);
   const double value = sixtyFourths / 64.0;
   RC_ASSERT(std::abs(converter.ToValue(converter.ToText(value)) - value) <= kThirtySecond);
@@ -44,7 +44,7 @@ double NumberOfBits(std::uint64_t bits) {
 }
 
 RC_GTEST_PROP(RoundTrip, EveryFiniteNumberReadsBack, ()) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = *rc::gen::element(kFeetAndInches, kInchesAlone, kMillimetres);
   converter.BaseUnits = *rc::gen::element(kBaseInches, kBaseMillimetres);
   const double value = NumberOfBits(*rc::gen::arbitrary<std::uint64_t>());
@@ -53,21 +53,21 @@ RC_GTEST_PROP(RoundTrip, EveryFiniteNumberReadsBack, ()) {
 }
 
 RC_GTEST_PROP(RoundTrip, PlainNumbersReadBackToTheirDecimals, (std::int32_t millionths)) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = kPlainNumber;
   const double value = millionths / 1e6;
   RC_ASSERT(std::abs(converter.ToValue(converter.ToText(value)) - value) <= 0.5001e-4);
 }
 
 RC_GTEST_PROP(RoundTrip, ShownTextIsStable, (std::int32_t thousandths)) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = *rc::gen::element(kPlainNumber, kInchesAlone, kFeetAndInches, kMillimetres);
   const std::string shown = converter.ToText(thousandths / 1e3);
   RC_ASSERT(converter.ToText(converter.ToValue(shown)) == shown);
 }
 
 RC_GTEST_PROP(AnyText, IsAFiniteNumber, (const std::string& text)) {
-  RC_ASSERT(std::isfinite(FtInConverter().ToValue(text)));
+  RC_ASSERT(std::isfinite(MeasureConverter().ToValue(text)));
 }
 
 // Texts of the pieces that a measure is made of come much closer to one than any bytes do.
@@ -78,7 +78,7 @@ RC_GTEST_PROP(AnyText, OfPiecesIsAFiniteNumberThatReadsBack, ()) {
           "ft", "in", "mm", "cm", "m", "\u00BD", "\u2019", "\u2033", "\u2044", "1e308", "\xE2"}));
   std::string text;
   for (const auto& piece : pieces) text += piece;
-  const FtInConverter converter;
+  const MeasureConverter converter;
   const double value = converter.ToValue(text);
   RC_ASSERT(std::isfinite(value));
   RC_ASSERT(ReadsBack(converter, value));

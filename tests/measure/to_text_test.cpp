@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft {
 namespace {
@@ -31,7 +31,7 @@ std::string NameOf(const testing::TestParamInfo<Row>& row) { return row.param.na
 class ToText : public testing::TestWithParam<Row> {};
 
 TEST_P(ToText, Shows) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.Units = GetParam().units;
   converter.BaseUnits = GetParam().baseUnits;
   converter.DecimalPlaces = GetParam().decimalPlaces;
@@ -137,8 +137,8 @@ constexpr Row kPlainRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Plain, ToText, testing::ValuesIn(kPlainRows), NameOf);
 
-TEST(FtInConverter, StartsInFeetAndInches) {
-  const FtInConverter converter;
+TEST(MeasureConverter, StartsInFeetAndInches) {
+  const MeasureConverter converter;
   EXPECT_EQ(converter.Units, kFeetAndInches);
   EXPECT_EQ(converter.BaseUnits, kBaseInches);
   EXPECT_EQ(converter.DecimalPlaces, 4);

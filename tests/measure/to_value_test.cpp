@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 namespace pitchcraft {
 namespace {
@@ -28,10 +28,10 @@ std::string NameOf(const testing::TestParamInfo<AnyRow>& row) {
   return row.param.name;
 }
 
-double InInches(std::string_view text) { return FtInConverter().ToValue(text); }
+double InInches(std::string_view text) { return MeasureConverter().ToValue(text); }
 
 double InMillimetres(std::string_view text) {
-  FtInConverter converter;
+  MeasureConverter converter;
   converter.BaseUnits = kBaseMillimetres;
   return converter.ToValue(text);
 }
@@ -267,7 +267,7 @@ TEST(LongText, DecimalsWithoutEnd) { EXPECT_DOUBLE_EQ(InInches("0." + std::strin
 TEST(LongText, BlanksBetween) { EXPECT_DOUBLE_EQ(InInches("12'" + std::string(10'000, ' ') + "6\""), 150); }
 
 TEST(ToValue, DoesNotDependOnHowAValueIsShown) {
-  FtInConverter converter;
+  MeasureConverter converter;
   for (const int units : {kPlainNumber, kInchesAlone, kFeetAndInches, kMillimetres}) {
     converter.Units = units;
     EXPECT_EQ(converter.ToValue("12'6"), 150) << "Units " << units;

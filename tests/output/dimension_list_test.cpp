@@ -65,8 +65,8 @@ RC_GTEST_PROP(DimensionList, AnyListIsRead, ()) {
   RC_ASSERT(read.Strokes.size() * 4 + read.Texts.size() * 3 <= values.size());
 }
 
-CDxfWriter WithList(bool flag) {
-  CDxfWriter writer;
+DxfWriter WithList(bool flag) {
+  DxfWriter writer;
   writer.DimTextHeight = 3;
   writer.DimColor = 12;
   writer.SetDimensionPoints(List({N(1), N(2), N(3), N(4), N(5), N(6), T("10'"), N(0.46364760900081), T("C")}),
@@ -89,23 +89,23 @@ TEST(DimensionList, IsWrittenAsLinesAndTexts) {
 }
 
 TEST(DimensionList, IsNotWrittenBesideDimensionsOfTheDrawing) {
-  CDxfWriter writer = WithList(false);
+  DxfWriter writer = WithList(false);
   writer.DimHorizontal(0, 0, 100, 0, 20);
   EXPECT_TRUE(DxfContent(writer.Bytes()).In("ENTITIES", "LINE").empty());
-  CDxfWriter always = WithList(true);
+  DxfWriter always = WithList(true);
   always.DimHorizontal(0, 0, 100, 0, 20);
   EXPECT_EQ(DxfContent(always.Bytes()).In("ENTITIES", "LINE").size(), 1U);
 }
 
 TEST(DimensionList, HasNoTextsWithoutATextHeight) {
-  CDxfWriter writer = WithList(false);
+  DxfWriter writer = WithList(false);
   writer.DimTextHeight = 0;
   EXPECT_TRUE(DxfContent(writer.Bytes()).In("ENTITIES", "TEXT").empty());
   EXPECT_EQ(DxfContent(writer.Bytes()).In("ENTITIES", "LINE").size(), 1U);
 }
 
 TEST(DimensionList, AnInfinityInItIsAnOverflow) {
-  CDxfWriter writer;
+  DxfWriter writer;
   const double infinite = std::numeric_limits<double>::infinity();
   writer.SetDimensionPoints(List({N(1), N(2), N(3), N(infinite)}), false);
   EXPECT_THROW(writer.Bytes(), RunTimeError);

@@ -13,7 +13,7 @@ namespace {
 
 /// The first dimension of a file.
 struct Found {
-  explicit Found(const CDxfWriter& writer) {
+  explicit Found(const DxfWriter& writer) {
     const DxfContent content(writer.Bytes());
     Count = content.In("ENTITIES", "DIMENSION").size();
     if (Count == 0) return;
@@ -32,14 +32,14 @@ struct Found {
 };
 
 /// Texts, arrows, extension and both tiers are 4.
-CDxfWriter Writer() {
-  CDxfWriter writer = SampleWriter();
+DxfWriter Writer() {
+  DxfWriter writer = SampleWriter();
   writer.LengthText = nullptr;
   return writer;
 }
 
 TEST(DxfDimension, HorizontalWithItsBlock) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimHorizontal(10, 5, 110, 8, -20);
   const Found found(writer);
   EXPECT_EQ(found.Entity(70) + " " + found.Entity(50) + " " + found.Entity(1), "0 0.0 100");
@@ -61,7 +61,7 @@ TEST(DxfDimension, HorizontalWithItsBlock) {
 }
 
 TEST(DxfDimension, VerticalIsReadFromTheRight) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimVertical(0, 100, 0, 0, 30);
   const Found found(writer);
   EXPECT_EQ(found.Entity(70) + " " + found.Entity(50) + " " + found.Entity(1), "0 90.0 100");
@@ -72,7 +72,7 @@ TEST(DxfDimension, VerticalIsReadFromTheRight) {
 }
 
 TEST(DxfDimension, AlignedLiesThroughTheThirdPoint) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimAligned(0, 0, 80, 60, -30, 40);
   const Found found(writer);
   EXPECT_EQ(found.Entity(70) + " " + found.Entity(1), "1 100");
@@ -86,7 +86,7 @@ TEST(DxfDimension, AnAlignedTextIsNeverUpsideDown) {
                                                           {{80, -60}, -36.869898}, {{0, 80}, 90},
                                                           {{0, -80}, 90},          {{-80, 0}, 0}};
   for (const auto& [to, angle] : cases) {
-    CDxfWriter writer = Writer();
+    DxfWriter writer = Writer();
     writer.DimAligned(0, 0, to.X, to.Y, to.X + 10, to.Y + 30);
     const std::string written = Found(writer).Texts[0](50);
     EXPECT_NEAR(written == "-" ? 0 : std::stod(written), angle, 1e-4) << to.X << ", " << to.Y;
@@ -94,7 +94,7 @@ TEST(DxfDimension, AnAlignedTextIsNeverUpsideDown) {
 }
 
 TEST(DxfDimension, AShortOneHasArrowsOutsideAndItsTextBeside) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimHorizontal(0, 0, 3, 0, 10);
   const Found found(writer);
   EXPECT_TRUE(found.HasLine("-8.0, 10.0", "11.0, 10.0"));
@@ -104,27 +104,27 @@ TEST(DxfDimension, AShortOneHasArrowsOutsideAndItsTextBeside) {
 }
 
 TEST(DxfDimension, TheTextGoesWhereItIsTold) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimVertical(0, 0, 0, 100, 30, 17, 40);
   EXPECT_EQ(Found(writer).Entity.Place(11), "17.0, 40.0");
   EXPECT_EQ(Found(writer).Entity(70), "128");
-  CDxfWriter half = Writer();
+  DxfWriter half = Writer();
   half.DimHorizontal(0, 0, 100, 0, 30, 20);
   EXPECT_EQ(Found(half).Entity.Place(11), "20.0, 34.0") << "only x is told";
 }
 
 TEST(DxfDimension, TextsComeFromTheFormatter) {
-  CDxfWriter writer = SampleWriter();
+  DxfWriter writer = SampleWriter();
   writer.DimHorizontal(0, 0, 150, 0, 30);
   EXPECT_EQ(Found(writer).Entity(1), "12' 6\"");
   EXPECT_EQ(Found(writer).Texts[0](1), "12' 6\"");
-  CDxfWriter plain = Writer();
+  DxfWriter plain = Writer();
   plain.DimHorizontal(0, 0, 12.34567, 0, 30);
   EXPECT_EQ(Found(plain).Entity(1), "12.3457");
 }
 
 TEST(DxfDimension, ATextHeightOfZeroLeavesTheTextsOut) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimTextHeight = 0;
   writer.DimHorizontal(0, 0, 100, 0, 30);
   const Found found(writer);
@@ -134,14 +134,14 @@ TEST(DxfDimension, ATextHeightOfZeroLeavesTheTextsOut) {
 }
 
 TEST(DxfDimension, WithoutArrowsThereAreNone) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimArrowSize = 0;
   writer.DimHorizontal(0, 0, 100, 0, 30);
   EXPECT_TRUE(Found(writer).Arrows.empty());
 }
 
 TEST(DxfDimension, APointNearItsLineHasNoExtensionLine) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimHorizontal(0, 0, 100, -30, -1.5);
   const Found found(writer);
   EXPECT_EQ(found.Lines.size(), 2U);
@@ -149,40 +149,40 @@ TEST(DxfDimension, APointNearItsLineHasNoExtensionLine) {
 }
 
 TEST(DxfDimension, EqualPointsAreALengthOfZero) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimAligned(5, 5, 5, 5, 5, 20);
   EXPECT_EQ(Found(writer).Entity(1), "0");
   EXPECT_EQ(Found(writer).Entity.Place(10), "5.0, 20.0");
 }
 
 TEST(DxfDimension, TiersMoveALineThatWouldLieOnTheObject) {
-  CDxfWriter writer = Writer();
+  DxfWriter writer = Writer();
   writer.DimOffset = 6;
   writer.DimIncrement = 10;
   writer.Line(0, 0, 100, 50);
-  const auto lineAt = [](const CDxfWriter& moved) { return Found(moved).Entity.Place(10); };
-  CDxfWriter right = writer;
+  const auto lineAt = [](const DxfWriter& moved) { return Found(moved).Entity.Place(10); };
+  DxfWriter right = writer;
   right.DimVertical(100, 0, 100, 50, 100);
   EXPECT_EQ(lineAt(right), "106.0, 50.0");
-  CDxfWriter left = writer;
+  DxfWriter left = writer;
   left.DimNextTier();
   left.DimVertical(0, 0, 0, 50, 0);
   EXPECT_EQ(lineAt(left), "-16.0, 50.0");
-  CDxfWriter below = writer;
+  DxfWriter below = writer;
   below.DimNextTier();
   below.DimFirstTier();
   below.DimAligned(0, 0, 100, 0, 50, 0);
   EXPECT_EQ(lineAt(below), "100.0, -6.0");
-  CDxfWriter told = writer;
+  DxfWriter told = writer;
   told.DimVertical(100, 0, 100, 50, 100, 103);
   EXPECT_EQ(lineAt(told), "100.0, 50.0") << "a text with a place of its own keeps the line where it is";
-  CDxfWriter beside = writer;
+  DxfWriter beside = writer;
   beside.DimVertical(100, 0, 90, 50, 100);
   EXPECT_EQ(lineAt(beside), "100.0, 50.0") << "one of two points is no edge";
 }
 
 TEST(DxfDimension, TierDistanceGrowsByTheIncrement) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.DimOffset = 3;
   writer.DimIncrement = 5;
   writer.DimNextTier();

@@ -14,7 +14,7 @@ TEST(DxfGolden, ADrawingWithEverything) {
 TEST(DxfGolden, ADrawingWithNothing) { ExpectGolden("output/golden/nothing.dxf", SampleWriter().Bytes()); }
 
 TEST(DxfGolden, ARecordedDimension) {
-  CDxfWriter writer = SampleWriter();
+  DxfWriter writer = SampleWriter();
   writer.Units = DxfUnits::kMillimetre;
   writer.Line(0, 0, 1000, 500);
   writer.DimTextHeight = 40;

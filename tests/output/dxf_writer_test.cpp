@@ -17,9 +17,9 @@ namespace {
 
 using ::testing::ElementsAre;
 
-DxfContent Read(const CDxfWriter& writer) { return DxfContent(writer.Bytes()); }
-std::vector<DxfRecord> Texts(const CDxfWriter& writer) { return Read(writer).In("ENTITIES", "TEXT"); }
-std::vector<DxfRecord> Lines(const CDxfWriter& writer) { return Read(writer).In("ENTITIES", "LINE"); }
+DxfContent Read(const DxfWriter& writer) { return DxfContent(writer.Bytes()); }
+std::vector<DxfRecord> Texts(const DxfWriter& writer) { return Read(writer).In("ENTITIES", "TEXT"); }
+std::vector<DxfRecord> Lines(const DxfWriter& writer) { return Read(writer).In("ENTITIES", "LINE"); }
 
 std::vector<std::string> TypesOf(const std::vector<DxfRecord>& records) {
   std::vector<std::string> types;
@@ -28,7 +28,7 @@ std::vector<std::string> TypesOf(const std::vector<DxfRecord>& records) {
 }
 
 TEST(DxfWriter, AnEmptyDrawingIsAWholeFile) {
-  EXPECT_THAT(TypesOf(Read(CDxfWriter()).All()),
+  EXPECT_THAT(TypesOf(Read(DxfWriter()).All()),
               ElementsAre("SECTION", "ENDSEC",                                                  // header
                           "SECTION", "TABLE", "VPORT", "ENDTAB",                                // tables
                           "TABLE", "LTYPE", "LTYPE", "ENDTAB",                                  //
@@ -49,7 +49,7 @@ TEST(DxfWriter, SectionsComeInTheirOrderAndTablesCountTheirEntries) {
 }
 
 TEST(DxfWriter, HeaderNamesVersionUnitsAndScales) {
-  CDxfWriter writer = SampleDrawing();
+  DxfWriter writer = SampleDrawing();
   const DxfContent inches = Read(writer);
   EXPECT_EQ(inches.Variable("$ACADVER"), "AC1009");
   EXPECT_EQ(inches.Variable("$INSUNITS") + inches.Variable("$MEASUREMENT"), "10");
@@ -62,7 +62,7 @@ TEST(DxfWriter, HeaderNamesVersionUnitsAndScales) {
 }
 
 TEST(DxfWriter, HeaderAndDimensionStyleHoldTheMeasuresOfDimensions) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.DimTextHeight = 3;
   writer.DimArrowSize = 5;
   writer.DimExtension = 7;
@@ -81,7 +81,7 @@ TEST(DxfWriter, HeaderAndDimensionStyleHoldTheMeasuresOfDimensions) {
 }
 
 TEST(DxfWriter, ExtentsHoldLinesTextsAndDimensions) {
-  CDxfWriter writer = SampleWriter();
+  DxfWriter writer = SampleWriter();
   writer.Line(-10, 5, 20, 8);
   writer.DimHorizontal(0, 5, 20, 5, -30);
   const DxfContent content = Read(writer);
@@ -99,7 +99,7 @@ TEST(DxfWriter, ExtentsHoldLinesTextsAndDimensions) {
 }
 
 TEST(DxfWriter, ALineStandsOnItsLayerInItsColour) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.Line(1.5, -2, 0.1, 1000000);
   writer.Color = 5;
   writer.Line(0, 0, 1, 1, "CENTER");
@@ -116,7 +116,7 @@ TEST(DxfWriter, ALineStandsOnItsLayerInItsColour) {
 }
 
 TEST(DxfWriter, CentreLinesAreDashedInTheColourOfDimensions) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.DimColor = 12;
   const DxfContent content = Read(writer);
   EXPECT_EQ(content.Entry("LAYER", "CENTER")(6), "CENTER");
@@ -129,7 +129,7 @@ TEST(DxfWriter, CentreLinesAreDashedInTheColourOfDimensions) {
 }
 
 TEST(DxfWriter, ATextHasHeightRotationAndAlignment) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.TextHeight = 4;
   writer.Text("left", 10, 20);
   writer.TextAlign = "C";
@@ -152,7 +152,7 @@ TEST(DxfWriter, ATextHasHeightRotationAndAlignment) {
 }
 
 TEST(DxfWriter, NoTextIsWrittenEmptyOrWithoutHeight) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.Text("", 0, 0);
   writer.Text("flat", 0, 0, 0);
   writer.Text("below", 0, 0, -2);
@@ -166,7 +166,7 @@ TEST(DxfWriter, NoTextIsWrittenEmptyOrWithoutHeight) {
 
 TEST(DxfWriter, WhatIsNoNumberIsRefusedAndLeavesTheRest) {
   constexpr double kInfinite = std::numeric_limits<double>::infinity();
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.Line(0, 0, 1, 1);
   const std::string before = writer.Bytes();
   EXPECT_THROW(writer.Line(0, kInfinite, 1, 1), RunTimeError);
@@ -187,7 +187,7 @@ TEST(DxfWriter, WhatIsNoNumberIsRefusedAndLeavesTheRest) {
 }
 
 TEST(DxfWriter, FarAwayAndTinyNumbersStayPlain) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.Line(3e38, -3e38, 1e-12, -0.0);
   EXPECT_EQ(Lines(writer)[0](10).substr(0, 3), "300");
   EXPECT_EQ(Lines(writer)[0].Place(11), "0.0, 0.0");
@@ -195,7 +195,7 @@ TEST(DxfWriter, FarAwayAndTinyNumbersStayPlain) {
 }
 
 TEST(DxfWriter, TheFileIsAsciiWhateverIsTyped) {
-  CDxfWriter writer;
+  DxfWriter writer;
   writer.LengthText = [](double) { return "zwölf Fuß\n½"; };
   writer.Text("Dachsparren º 木 \xFF", 0, 0);
   writer.DimHorizontal(0, 0, 12, 0, 4);

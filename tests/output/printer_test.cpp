@@ -74,8 +74,8 @@ TEST_F(PrinterTest, TextIsAsWideAsItIsPainted) {
 }
 
 TEST_F(PrinterTest, ADrawingFillsItsAreaWithItsProportionsKept) {
-  CMetaFile drawing(meter);
-  drawing.MetaLoad({LineOp{{0, 0}, {200, 100}, {0, 0, 3}}}, 0, 0, 200, 100);
+  DrawingRecorder drawing(meter);
+  drawing.Load({LineOp{{0, 0}, {200, 100}, {0, 0, 3}}}, 0, 0, 200, 100);
   page.Play(drawing, {0, -720, 8000, 6000});
   const PrintedPage printed = page.EndDoc();
   ASSERT_EQ(printed.Layers.size(), 1U);
@@ -89,8 +89,8 @@ TEST_F(PrinterTest, ADrawingFillsItsAreaWithItsProportionsKept) {
 }
 
 TEST_F(PrinterTest, RowsBehindADrawingKeepTheirOwnPlace) {
-  CMetaFile drawing(meter);
-  drawing.MetaLoad({LineOp{{0, 0}, {8000, 6000}, {}}}, 0, 0, 8000, 6000);
+  DrawingRecorder drawing(meter);
+  drawing.Load({LineOp{{0, 0}, {8000, 6000}, {}}}, 0, 0, 8000, 6000);
   page.Play(drawing, {500, 0, 8000, 6000});  // at a scale of 1, but elsewhere
   page.Print("row");
   page.Line(0, -100, 50, -100);
@@ -118,15 +118,15 @@ TEST_F(PrinterTest, ThePageIsPlayedInTheUnitsOfTheCanvas) {
 }
 
 TEST_F(PrinterTest, MetaPrintFillsThePageWithAWindowOf1400By1600) {
-  CMetaFile drawing(meter);
+  DrawingRecorder drawing(meter);
   try {
-    page.MetaPrint(drawing);
+    page.PrintRecording(drawing);
     ADD_FAILURE() << "there is nothing to print";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.Description(), "No metafile to print!");
   }
-  drawing.MetaLoad({LineOp{{0, 0}, {1400, 1600}, {}}}, 0, 0, 1400, 1600);
-  page.MetaPrint(drawing);
+  drawing.Load({LineOp{{0, 0}, {1400, 1600}, {}}}, 0, 0, 1400, 1600);
+  page.PrintRecording(drawing);
   EXPECT_NEAR(page.EndDoc().Layers.at(0).Map.ScaleX, 10800 / 1400.0, 1e-9);
 }
 

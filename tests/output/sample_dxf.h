@@ -10,8 +10,8 @@ inline std::string FeetAndInches(double length) {
   return std::to_string(inches / 12) + "' " + std::to_string(inches % 12) + "\"";
 }
 
-inline CDxfWriter SampleWriter() {
-  CDxfWriter writer;
+inline DxfWriter SampleWriter() {
+  DxfWriter writer;
   writer.LengthText = FeetAndInches;
   writer.TextHeight = writer.DimTextHeight = writer.DimArrowSize = 4;
   writer.DimExtension = writer.DimIncrement = writer.DimOffset = 4;
@@ -20,8 +20,8 @@ inline CDxfWriter SampleWriter() {
 }
 
 /// The gable end of a shed roof, 12 feet wide and 6 feet high.
-inline CDxfWriter SampleDrawing() {
-  CDxfWriter writer = SampleWriter();
+inline DxfWriter SampleDrawing() {
+  DxfWriter writer = SampleWriter();
   writer.Line(0, 0, 144, 0);
   writer.Line(144, 0, 144, 72);
   writer.Line(144, 72, 0, 0);

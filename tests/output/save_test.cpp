@@ -23,7 +23,7 @@ class Saving : public ::testing::Test {
   ~Saving() override { fs::remove_all(folder_); }
 
   static std::string Refused(const fs::path& path) {
-    CDxfWriter writer = SampleDrawing();
+    DxfWriter writer = SampleDrawing();
     writer.FileName = path.string();
     try {
       writer.Save();
@@ -76,7 +76,7 @@ TEST_F(Saving, AReadOnlyFolderKeepsItsFile) {
 TEST_F(Saving, AnOverflowLeavesTheOldFile) {
   const fs::path path = folder_ / "roof.dxf";
   WriteWhole(path, "old");
-  CDxfWriter writer = SampleDrawing();
+  DxfWriter writer = SampleDrawing();
   writer.FileName = path.string();
   writer.DimExtension = 1e39;
   EXPECT_THROW(writer.Save(), RunTimeError);
@@ -87,12 +87,12 @@ TEST_F(Saving, ANameMayHaveAnyLetters) { EXPECT_EQ(Refused(folder_ / "Dach ยบ ๆ
 
 TEST_F(Saving, MetafilesAreSavedAlike) {
   const fs::path path = folder_ / "export.wmf";
-  MetaSave(path, {}, SampleFrame());
-  MetaSave(path, SampleRecording(), SampleFrame());
+  SaveMetafile(path, {}, SampleFrame());
+  SaveMetafile(path, SampleRecording(), SampleFrame());
   EXPECT_EQ(ReadWhole(path), PlaceableMetafile(SampleRecording(), SampleFrame()));
   EXPECT_EQ(Files(), 1U);
   try {
-    MetaSave(folder_ / "none" / "export.wmf", {}, SampleFrame());
+    SaveMetafile(folder_ / "none" / "export.wmf", {}, SampleFrame());
     FAIL() << "the folder is missing";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.Message(), "Path not found - 76");

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 
 #include "core/run_time_error.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"
@@ -26,7 +26,7 @@ using testing::StartsWith;
 class PictureFiles : public testing::Test {
  protected:
   PictureFiles() : drawing_(meter_) {
-    drawing_.MetaLoad({LineOp{{0, 0}, {1000, 500}, {0x0000FF, 0, 0}}}, 0, 0, 1000, 500);
+    drawing_.Load({LineOp{{0, 0}, {1000, 500}, {0x0000FF, 0, 0}}}, 0, 0, 1000, 500);
   }
   std::filesystem::path File(const char* name) const {
     return std::filesystem::path(folder_.path().toStdString()) / name;
@@ -37,7 +37,7 @@ class PictureFiles : public testing::Test {
 
   QTemporaryDir folder_;
   ArialMeter meter_;
-  CMetaFile drawing_;
+  DrawingRecorder drawing_;
 };
 
 TEST_F(PictureFiles, PngIs1600WideAndKeepsTheProportions) {
@@ -67,7 +67,7 @@ TEST_F(PictureFiles, TheClipboardHoldsAnImageAndSvg) {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).width(), 1600);
   EXPECT_THAT(data->data("image/svg+xml").toStdString(), StartsWith("<svg"));
-  const CMetaFile empty(meter_);
+  const DrawingRecorder empty(meter_);
   EXPECT_THROW(CopyToClipboard({empty, {9000, 4500, false}, 0, ""}), RunTimeError);
 }
 
@@ -82,7 +82,7 @@ TEST_F(PictureFiles, PdfHasThePicturesSize) {
 
 TEST_F(PictureFiles, FileIsReplacedWhole) {
   ASSERT_EQ(WritePicture(Sheet(), File("a.svg")), std::nullopt);
-  const CMetaFile empty(meter_);
+  const DrawingRecorder empty(meter_);
   EXPECT_NE(WritePicture({empty, {9000, 4500, false}, 0, ""}, File("a.svg")), std::nullopt);
   EXPECT_GT(std::filesystem::file_size(File("a.svg")), 100U);
 }
@@ -105,7 +105,7 @@ TEST_F(PictureFiles, UnknownFormatIsAMessage) {
 }
 
 TEST_F(PictureFiles, UnfinishedDrawingIsAMessage) {
-  const CMetaFile empty(meter_);
+  const DrawingRecorder empty(meter_);
   EXPECT_TRUE(WritePicture({empty, {9000, 4500, false}, 0, ""}, File("a.png")).has_value());
   EXPECT_FALSE(std::filesystem::exists(File("a.png")));
 }
@@ -118,7 +118,7 @@ TEST_F(PictureFiles, NameOutsideAsciiIsKept) {
 
 TEST_F(PictureFiles, DocumentShowsItsDrawing) {
   NullSurroundings surroundings;
-  frmDocument document(surroundings.Get());
+  Document document(surroundings.Get());
   document.Form_Load();
   const Picture shown = ShownPicture(document);
   EXPECT_EQ(shown.Size.ScaleWidth, document.Picture1.Place.Width);

@@ -18,9 +18,9 @@ TEST(Menus, EveryItemHasANameOfItsOwn) {
 
 TEST(Menus, AreFoundByTheirNames) {
   const Menus menus;
-  EXPECT_EQ(menus.Find("mnuMetric"), &menus.mnuMetric);
-  EXPECT_EQ(menus.Find("mnufileSaveAs"), &menus.mnufileSaveAs);
-  EXPECT_EQ(menus.Find("mnuDutchLedger(1)"), &menus.mnuDutchLedger[1]);
+  EXPECT_EQ(menus.Find("mnuMetric"), &menus.Metric);
+  EXPECT_EQ(menus.Find("mnufileSaveAs"), &menus.FileSaveAs);
+  EXPECT_EQ(menus.Find("mnuDutchLedger(1)"), &menus.DutchLedger[1]);
   EXPECT_EQ(menus.Find("mnuNothing"), nullptr);
 }
 
@@ -38,14 +38,14 @@ TEST(Menus, TheBarHoldsItsMenusInOrder) {
 
 TEST(Menus, AnItemKnowsItsHolder) {
   const Menus menus;
-  EXPECT_EQ(menus.HolderOf(menus.mnuMetric), &menus.mnuSettings);
-  EXPECT_EQ(menus.HolderOf(menus.mnuPopUp1Print), &menus.mnuPopUp1);
-  EXPECT_EQ(menus.HolderOf(menus.mnuFile), nullptr);
-  EXPECT_TRUE(menus.IsPopup(menus.mnuPopUp2));
-  EXPECT_FALSE(menus.IsPopup(menus.mnuView));
-  const auto view = menus.ItemsUnder(menus.mnuView);
+  EXPECT_EQ(menus.HolderOf(menus.Metric), &menus.Settings);
+  EXPECT_EQ(menus.HolderOf(menus.PopUp1Print), &menus.PopUp1);
+  EXPECT_EQ(menus.HolderOf(menus.File), nullptr);
+  EXPECT_TRUE(menus.IsPopup(menus.PopUp2));
+  EXPECT_FALSE(menus.IsPopup(menus.View));
+  const auto view = menus.ItemsUnder(menus.View);
   ASSERT_EQ(view.size(), 2U);
-  EXPECT_EQ(view[1], &menus.mnuViewStatusBar);
+  EXPECT_EQ(view[1], &menus.ViewStatusBar);
 }
 
 }  // namespace

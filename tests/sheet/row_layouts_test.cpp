@@ -43,30 +43,31 @@ TEST_P(RowLayoutTest, FieldsStandWhereTheRoofTypePutsThem) {
   LayOutRows(sheet, roof::kGambrel, true);  // whatever stood before leaves nothing behind
   LayOutRows(sheet, row.roof, true);
   EXPECT_EQ(HasSecondSlope(row.roof), row.slope2 != kNo);
-  EXPECT_EQ(TopOf(sheet.FtSpan[0]), row.span0);
-  EXPECT_EQ(TopOf(sheet.FtSpan[2]), row.span2);
-  EXPECT_EQ(TopOf(sheet.FtRidge[0]), row.ridge0);
-  EXPECT_EQ(TopOf(sheet.FtRidge[1]), row.ridge1);
-  EXPECT_EQ(TopOf(sheet.FtOverhang[0]), row.overhang);
-  EXPECT_EQ(TopOf(sheet.FtHeel[0]), row.heel);
-  EXPECT_EQ(TopOf(sheet.chkHeel[0]), row.heel);
-  EXPECT_EQ(TopOf(sheet.FtSeat[0]), row.seat);
-  EXPECT_EQ(TopOf(sheet.LWFascia[0]), row.fascia);
-  EXPECT_EQ(TopOf(sheet.LWRidge), row.ridge);
-  EXPECT_EQ(TopOf(sheet.LWRafter[0]), row.rafter);
-  EXPECT_EQ(TopOf(sheet.LWHipVal), row.hipVal);
+  EXPECT_EQ(TopOf(sheet.Span[0]), row.span0);
+  EXPECT_EQ(TopOf(sheet.Span[2]), row.span2);
+  EXPECT_EQ(TopOf(sheet.RidgeLength[0]), row.ridge0);
+  EXPECT_EQ(TopOf(sheet.RidgeLength[1]), row.ridge1);
+  EXPECT_EQ(TopOf(sheet.Overhang[0]), row.overhang);
+  EXPECT_EQ(TopOf(sheet.Heel[0]), row.heel);
+  EXPECT_EQ(TopOf(sheet.HeelLock[0]), row.heel);
+  EXPECT_EQ(TopOf(sheet.Seat[0]), row.seat);
+  EXPECT_EQ(TopOf(sheet.Fascia[0]), row.fascia);
+  EXPECT_EQ(TopOf(sheet.Ridge), row.ridge);
+  EXPECT_EQ(TopOf(sheet.Common[0]), row.rafter);
+  EXPECT_EQ(TopOf(sheet.HipOrValley), row.hipVal);
 }
 
 // A label belongs to the row that begins up to 30 twips above it.
 TEST_P(RowLayoutTest, EveryFieldHasOneLabelAndEveryLabelAField) {
   Sheet sheet;
   LayOutRows(sheet, GetParam().roof, true);
-  if (HasSecondSlope(GetParam().roof)) sheet.LWSlope[2].Visible = true;
-  sheet.cboDegrees[0].Visible = false;
+  if (HasSecondSlope(GetParam().roof)) sheet.Slope[2].Visible = true;
+  sheet.Degrees[0].Visible = false;
   std::vector<int> fieldTops;
   for (const AnyControl& any : sheet.Controls()) {
     const Control& control = ControlOf(any);
-    const bool field = std::holds_alternative<FtInText*>(any) || std::holds_alternative<LWCombo*>(any);
+    const bool field =
+        std::holds_alternative<MeasureControl*>(any) || std::holds_alternative<PairControl*>(any);
     if (field && control.Visible && control.Host == Host::kFrontPage) fieldTops.push_back(control.Top);
   }
   std::vector<int> labelTops;
@@ -91,7 +92,8 @@ TEST_P(RowLayoutTest, NoTwoFieldsShareARow) {
   std::vector<int> tops;
   for (const AnyControl& any : sheet.Controls()) {
     const Control& control = ControlOf(any);
-    const bool field = std::holds_alternative<FtInText*>(any) || std::holds_alternative<LWCombo*>(any);
+    const bool field =
+        std::holds_alternative<MeasureControl*>(any) || std::holds_alternative<PairControl*>(any);
     if (field && control.Visible && control.Host == Host::kFrontPage) tops.push_back(control.Top);
   }
   std::sort(tops.begin(), tops.end());
@@ -164,14 +166,14 @@ TEST(RowLayouts, AGambrelWithoutPurlinsHasARidge) {
 TEST(RowLayouts, KneewallAndLastCommonRows) {
   Sheet sheet;
   LayOutRows(sheet, roof::kDualSlope, true);
-  EXPECT_TRUE(sheet.FtKneewall[0].Visible && sheet.FtKneewall[1].Visible);
+  EXPECT_TRUE(sheet.Kneewall[0].Visible && sheet.Kneewall[1].Visible);
   LayOutRows(sheet, roof::kShed, true);
-  EXPECT_TRUE(sheet.FtKneewall[0].Visible);
-  EXPECT_FALSE(sheet.FtKneewall[1].Visible);
-  EXPECT_FALSE(sheet.FtLastCommon.Visible);
+  EXPECT_TRUE(sheet.Kneewall[0].Visible);
+  EXPECT_FALSE(sheet.Kneewall[1].Visible);
+  EXPECT_FALSE(sheet.LastCommon.Visible);
   LayOutRows(sheet, roof::kHip, true);
-  EXPECT_FALSE(sheet.FtKneewall[0].Visible);
-  EXPECT_TRUE(sheet.FtLastCommon.Visible && sheet.chkLastCommon.Visible && sheet.Label[23].Visible);
+  EXPECT_FALSE(sheet.Kneewall[0].Visible);
+  EXPECT_TRUE(sheet.LastCommon.Visible && sheet.HasLastCommon.Visible && sheet.Label[23].Visible);
 }
 
 }  // namespace

@@ -32,10 +32,10 @@ TEST(Sheet, EveryControlIsFoundByItsName) {
 TEST(Sheet, AFieldIsCalledByTheLabelBesideIt) {
   Sheet sheet;
   sheet.Label[11].Caption = "Run:";
-  sheet.Label[11].Top = sheet.FtSpan[0].Top + 30;
-  EXPECT_EQ(sheet.AccessibleNameOf(sheet.FtSpan[0]), "Run");
-  EXPECT_EQ(sheet.AccessibleNameOf(sheet.cboType), "Roof");
-  EXPECT_EQ(sheet.AccessibleNameOf(sheet.FtBayAngle), "Angle");
+  sheet.Label[11].Top = sheet.Span[0].Top + 30;
+  EXPECT_EQ(sheet.AccessibleNameOf(sheet.Span[0]), "Run");
+  EXPECT_EQ(sheet.AccessibleNameOf(sheet.RoofList), "Roof");
+  EXPECT_EQ(sheet.AccessibleNameOf(sheet.BayAngle), "Angle");
 }
 
 TEST(RoofTypes, CodesAndPositions) {

@@ -42,7 +42,7 @@ class Colors : public ::testing::TestWithParam<const char*> {
     QApplication::setPalette(before_);
   }
 
-  frmDocument& Document() { return window_->Document(); }
+  pitchcraft::Document& Document() { return window_->Document(); }
   static double Of(std::uint32_t one, std::uint32_t other) {
     return Contrast(ColorOf(one, QApplication::palette()), ColorOf(other, QApplication::palette()));
   }
@@ -73,7 +73,7 @@ class Colors : public ::testing::TestWithParam<const char*> {
 };
 
 TEST_P(Colors, OfTheDrawingStandOut) {
-  const frmDocument& document = Document();
+  const pitchcraft::Document& document = Document();
   EXPECT_GE(Of(document.LineColor, document.BackColor), kLeastForLines);
   EXPECT_GE(Of(document.DimColor, document.BackColor), kLeastForText);  // of its figures, too
   EXPECT_GE(Of(document.TextColor, document.BackColor), kLeastForText);

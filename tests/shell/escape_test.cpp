@@ -98,17 +98,17 @@ const Dialog kDialogs[] = {
 /// All that a dialog could change: the document, the store, the printer, the files.
 std::map<std::string, std::string> Everything(WholeProgram& program) {
   std::map<std::string, std::string> all;
-  frmDocument& document = program.Document();
+  Document& document = program.Document();
   all["document"] = StateOf(document);
   for (const double value : {double{document.Increment}, double{document.MetricIncrement},
-                             double{document.DXFTextsize}, double{document.DXFMetricTextsize}}) {
+                             double{document.DxfTextSize}, double{document.DxfMetricTextSize}}) {
     all["lengths"] += std::to_string(value) + " ";
   }
   for (const std::uint32_t value :
        {document.BackColor, document.LineColor, document.DimColor, document.TextColor, document.CtlBackColor,
-        document.CtlForeColor, document.CtlCalcColor, document.DXFBackcolor,
-        static_cast<std::uint32_t>(document.LineWidth), static_cast<std::uint32_t>(document.DXFTextcolor),
-        static_cast<std::uint32_t>(document.DXFLinecolor), static_cast<std::uint32_t>(document.DXFDimcolor),
+        document.CtlForeColor, document.CtlCalcColor, document.DxfBackColor,
+        static_cast<std::uint32_t>(document.LineWidth), static_cast<std::uint32_t>(document.DxfTextColor),
+        static_cast<std::uint32_t>(document.DxfLineColor), static_cast<std::uint32_t>(document.DxfDimColor),
         static_cast<std::uint32_t>(document.PrintAllBlack), static_cast<std::uint32_t>(document.RotateFonts),
         static_cast<std::uint32_t>(document.UseSystemColors)}) {
     all["numbers"] += std::to_string(value) + " ";

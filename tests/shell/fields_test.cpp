@@ -36,7 +36,7 @@ TEST_F(Fields, LeavingWithoutTypingCommitsNothing) {
 
 TEST_F(Fields, TypingIsKnownBeforeItIsFinished) {
   Type("FtSpan(0)", "99");
-  EXPECT_EQ(Document().sheet.FtSpan[0].Value(), 99);
+  EXPECT_EQ(Document().sheet.Span[0].Value(), 99);
   EXPECT_EQ(double(Document().Rafter1.Span), 144);
   EXPECT_EQ(Box("FtSpan(0)").Entry(), "99");
 }
@@ -56,7 +56,7 @@ TEST_F(Fields, EscapeBringsBackTheNumberAndNotItsRoundedText) {
   Type("FtSpan(0)", "77");
   Key(Qt::Key_Escape);
   EXPECT_EQ(Box("FtSpan(0)").Entry(), shown);
-  EXPECT_EQ(Document().sheet.FtSpan[0].Value(), 19.2);
+  EXPECT_EQ(Document().sheet.Span[0].Value(), 19.2);
   CountCalculations();
   Key(Qt::Key_Tab);
   EXPECT_EQ(calculations_, 0);
@@ -68,7 +68,7 @@ TEST_F(Fields, EscapeInAPairBringsBackBoth) {
   Type("LWSlope(0).Left", "9");
   Key(Qt::Key_Escape);
   EXPECT_EQ(Box("LWSlope(0).Left").Entry(), "7");
-  EXPECT_EQ(Document().sheet.LWSlope[0].LeftValue(), 7);
+  EXPECT_EQ(Document().sheet.Slope[0].LeftValue(), 7);
 }
 
 TEST_F(Fields, GoingBetweenTheBoxesOfAPairLeavesNothing) {
@@ -115,14 +115,14 @@ TEST_F(Fields, ListOpensByKeyboardAndIsPickedFrom) {
     f4 ? Key(Qt::Key_F4) : Key(Qt::Key_Down, Qt::AltModifier);
     auto* list = qobject_cast<QListWidget*>(QApplication::activePopupWidget());
     ASSERT_NE(list, nullptr);
-    EXPECT_EQ(list->count(), int(Document().sheet.LWRafter[0].List().size()));
-    EXPECT_EQ(list->currentRow(), Document().sheet.LWRafter[0].ListIndex());
+    EXPECT_EQ(list->count(), int(Document().sheet.Common[0].List().size()));
+    EXPECT_EQ(list->currentRow(), Document().sheet.Common[0].ListIndex());
     QTest::keyClick(list, Qt::Key_Down);
     const int row = list->currentRow();
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_EQ(Document().sheet.LWRafter[0].ListIndex(), row);
-    EXPECT_EQ(double(Document().Rafter1.Depth), Document().sheet.LWRafter[0].List()[std::size_t(row)].Right);
+    EXPECT_EQ(Document().sheet.Common[0].ListIndex(), row);
+    EXPECT_EQ(double(Document().Rafter1.Depth), Document().sheet.Common[0].List()[std::size_t(row)].Right);
   }
 }
 
@@ -154,7 +154,7 @@ TEST_F(Fields, RoofIsPickedByKeyboard) {
 TEST_F(Fields, LockIsClickedAndFieldsFollow) {
   EXPECT_FALSE(Box("FtKneewall(0)").isEnabled());
   QTest::mouseClick(&Find("chkKneewall(0)"), Qt::LeftButton);
-  EXPECT_TRUE(Document().sheet.chkKneewall[0].Ticked());
+  EXPECT_TRUE(Document().sheet.HasKneewall[0].Ticked());
   EXPECT_TRUE(Box("FtKneewall(0)").isEnabled());
   EXPECT_EQ(FocusName(), "FtKneewall(0)");
   QTest::mouseClick(&Find("chkHeel(0)"), Qt::LeftButton);
@@ -183,7 +183,7 @@ TEST_F(Fields, AssistiveProgramsPutTextInAsAWhole) {
   EntryBox& box = Box("FtSpan(0)");
   box.setFocus();
   box.setText("84");
-  EXPECT_EQ(Document().sheet.FtSpan[0].Value(), 84);
+  EXPECT_EQ(Document().sheet.Span[0].Value(), 84);
   Key(Qt::Key_Tab);
   EXPECT_EQ(double(Document().Rafter1.Span), 84);
 }

@@ -188,8 +188,8 @@ TEST_F(FormWindow, ArrowOpensTheListOfItsRow) {
     QTest::keyClicks(&size, "4 1/2");
     ClickIn(dialog, "cmdOK");
   });
-  EXPECT_EQ(Document().DXFDimcolor, 3);
-  EXPECT_EQ(double{Document().DXFTextsize}, 4.5);
+  EXPECT_EQ(Document().DxfDimColor, 3);
+  EXPECT_EQ(double{Document().DxfTextSize}, 4.5);
 }
 
 TEST_F(FormWindow, BoxesAndTheSliderCountWithOkAndNotWithCancel) {
@@ -231,7 +231,7 @@ TEST_F(FormWindow, ListsAreEditedInTheirCells) {
     EXPECT_EQ(table.model()->rowCount(), 15);
     ClickIn(dialog, "cmdOK");
   });
-  const auto& rows = Document().sheet.LWRafter[0].List();
+  const auto& rows = Document().sheet.Common[0].List();
   ASSERT_EQ(rows.size(), 15U);
   EXPECT_EQ(rows[0].Caption, "3x5");
   EXPECT_EQ(rows[0].Right, 4.5);
@@ -259,7 +259,7 @@ TEST_F(FormWindow, ATextsizeOfNothingIsToldOverTheForm) {
     EXPECT_EQ(size.text(), "2\"");
     dialog.reject();
   });
-  EXPECT_EQ(double{Document().DXFTextsize}, 2);
+  EXPECT_EQ(double{Document().DxfTextSize}, 2);
 }
 
 TEST(Splash, ClosesByEscapeByAClickAndByItself) {

@@ -11,8 +11,8 @@ namespace {
 struct Stops {
   std::vector<std::string>& names;
 
-  void operator()(const FtInText* field) const { names.push_back(field->Name); }
-  void operator()(const LWCombo* pair) const {
+  void operator()(const MeasureControl* field) const { names.push_back(field->Name); }
+  void operator()(const PairControl* pair) const {
     names.push_back(pair->Name + ".Left");
     names.push_back(pair->Name + ".Right");
   }
@@ -31,9 +31,9 @@ std::vector<std::string> ExpectedStops(const Sheet& sheet) {
   std::vector<std::string> names;
   for (const AnyControl& any : sheet.Controls()) {
     const Control& control = ControlOf(any);
-    const bool rear = sheet.VSTab[1].Page == 1;
+    const bool rear = sheet.Tabs[1].Page == 1;
     const bool otherRoof = control.Host == (rear ? Host::kFrontPage : Host::kRearPage);
-    const bool hiddenStrip = control.Host == Host::kBayStrip && !sheet.Toolbar1.Visible;
+    const bool hiddenStrip = control.Host == Host::kBayStrip && !sheet.DimensionStrip.Visible;
     if (control.Visible && control.Enabled && !otherRoof && !hiddenStrip) std::visit(Stops{names}, any);
   }
   return names;
@@ -122,7 +122,7 @@ TEST_P(Keyboard, WhatTakesNoFocusHasAnotherWay) {
   for (const QAction* action : window_.findChildren<QAction*>()) {
     commands.insert(action->text().remove('&').remove("...").toStdString());
   }
-  for (const std::string& roof : Document().sheet.cboType.List()) commands.insert(roof);
+  for (const std::string& roof : Document().sheet.RoofList.List()) commands.insert(roof);
   const std::set<std::string> files{"New project", "Open project", "Save project"};
   for (const QToolButton* button : Find("tbToolBar").findChildren<QToolButton*>()) {
     const std::string name = button->accessibleName().toStdString();
@@ -161,7 +161,7 @@ TEST_F(Names, EveryControlIsAWidgetOfItsName) {
   for (const char* name : {"Picture1", "Picture3", "VSTab(0)", "VSTab(1)", "tbToolBar", "StatusBar"}) {
     EXPECT_FALSE(Find(name).accessibleName().isEmpty()) << name;
   }
-  for (const ToolButton& button : Document().tbToolBar.Buttons()) {
+  for (const ToolButton& button : Document().toolBar.Buttons()) {
     EXPECT_FALSE(Find<QToolButton>(std::string(button.Key)).accessibleName().isEmpty());
     EXPECT_FALSE(Find<QToolButton>(std::string(button.Key)).icon().isNull()) << button.Key;
   }
@@ -215,7 +215,7 @@ TEST_F(Names, AssistiveProgramsClickAToolButton) {
   const QString press = hip->actionInterface()->actionNames().front();
   EXPECT_EQ(hip->actionInterface()->keyBindingsForAction(press), QStringList("Alt+4"));
   hip->actionInterface()->doAction(press);
-  EXPECT_EQ(Document().sheet.cboType.Text(), "Hip");
+  EXPECT_EQ(Document().sheet.RoofList.Text(), "Hip");
   EXPECT_TRUE(hip->state().checked);
 }
 

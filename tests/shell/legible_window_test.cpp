@@ -52,7 +52,7 @@ TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
   window_.resize(GetParam().size);
   for (const RoofTypeRow& row : RoofTypes()) {
     Press(std::string(row.ToolButton));
-    for (int page = 0; page < Document().sheet.VSTab[0].PageCount(); ++page) {
+    for (int page = 0; page < Document().sheet.Tabs[0].PageCount(); ++page) {
       Find<PageTabs>("VSTab(0)").setCurrentIndex(page);
       ExpectLegible(std::string(row.Item) + ", page " + std::to_string(page));
     }

@@ -110,7 +110,7 @@ TEST_F(Window, TwoRoofsHaveTheirOwnRows) {
   EXPECT_TRUE(Find("FtSpan(1)").isVisible());
   // The left of the drawing is the front roof.
   QTest::mouseClick(&Find("Picture1"), Qt::LeftButton, {}, QPoint(5, 50));
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 0);
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
   EXPECT_EQ(FocusName(), "LWSlope(0).Left");
   Press("Gable");
   EXPECT_FALSE(Find("VSTab(1)").isVisible());
@@ -122,7 +122,7 @@ TEST_F(Window, BayHasItsStrip) {
   EXPECT_TRUE(Box("FtProjection").isVisible());
   Type("FtProjection", "24");
   Key(Qt::Key_Return);
-  EXPECT_EQ(Document().sheet.FtProjection.Value(), 24);
+  EXPECT_EQ(Document().sheet.Projection.Value(), 24);
 }
 
 TEST_F(Window, MenusWorkAndShowTheirChecks) {
@@ -133,7 +133,7 @@ TEST_F(Window, MenusWorkAndShowTheirChecks) {
   EXPECT_FALSE(Find<QAction>("mnuImperial").isChecked());
   EXPECT_EQ(Box("FtSpan(0)").Entry(), "3600 mm");
   Trigger("mnuMetric");  // a toggle of two: the check stays where the document has it
-  EXPECT_EQ(Find<QAction>("mnuMetric").isChecked(), Document().menus.mnuMetric.Checked);
+  EXPECT_EQ(Find<QAction>("mnuMetric").isChecked(), Document().menus.Metric.Checked);
   Trigger("mnuViewToolbar");
   EXPECT_FALSE(Find("tbToolBar").isVisible());
   EXPECT_EQ(Find("Picture1").height() * 15, Document().Picture1.Place.Height);
@@ -151,7 +151,7 @@ TEST_F(Window, RightButtonOpensThePopup) {
     if (action->objectName() == "mnuPopUp1SquareCut") action->trigger();
   }
   popup->close();
-  EXPECT_TRUE(Document().menus.mnuSettingsSquareCut.Checked);
+  EXPECT_TRUE(Document().menus.SettingsSquareCut.Checked);
 }
 
 TEST_F(Window, RightButtonOnALengthOpensTheStep) {

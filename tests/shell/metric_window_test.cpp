@@ -38,14 +38,15 @@ TEST_P(MetricWindow, HandAndDriverEndInTheSameState) {
   ExpectMillimetres();
   for (int page = PageCount(roof) - 1; page >= 0; --page) {
     Both(PageLine(page));
-    if (hand.Document().sheet.cboSpacing.Visible) Both("pick cboSpacing 600 mm");
+    if (hand.Document().sheet.Spacing.Visible) Both("pick cboSpacing 600 mm");
     ExpectMillimetres();
   }
   Both({"answer " + file, "click mnufileSaveAs", "answer Shed", "click mnuFileNew"});
   EXPECT_EQ(hand.Document().RoofType, roof::kGable);
   Both({"answer " + file, "click mnuFileOpen"});
   EXPECT_EQ(hand.Document().RoofType, roof.code);
-  EXPECT_EQ(window.windowTitle().toStdString(), "Pitchcraft - [" + MRU::LongDirFix(file, 60) + "]");
+  EXPECT_EQ(window.windowTitle().toStdString(),
+            "Pitchcraft - [" + RecentFileList::ShortenedPath(file, 60) + "]");
   ExpectMillimetres();
   Both("click mnuImperial");
   EXPECT_EQ(hand.Box("FtSpan(0)").Entry(), "12' 0\"");

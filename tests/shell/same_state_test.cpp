@@ -45,7 +45,7 @@ class SameState : public WindowTest {
   }
 
   NullSurroundings otherSurroundings_;
-  frmDocument other_;
+  pitchcraft::Document other_;
   Actions actions_;
 };
 

@@ -60,11 +60,11 @@ class HandAndDriver {
   Side byScript;
   MainWindow window{byHand.Get()};
   ScriptHand hand{window, byHand.dialogs};
-  frmDocument driven{byScript.Get()};
+  Document driven{byScript.Get()};
 
  private:
   Script script_{driven, byScript.dialogs, byScript.events,
-                 [](const frmDocument&, const std::string&) { return std::nullopt; }};
+                 [](const Document&, const std::string&) { return std::nullopt; }};
 };
 
 }  // namespace pitchcraft::testing

@@ -160,7 +160,7 @@ TEST_F(SessionTest, UnitsAndSlopeModeAreKept) {
 TEST_F(SessionTest, ColorsAndIncrementsAreKept) {
   {
     const auto first = Start();
-    frmDocument& document = first->Document();
+    Document& document = first->Document();
     document.CtlBackColor = 0x00102030;
     document.CtlForeColor = 0x0000FF00;
     document.LineColor = 0x00FF0000;
@@ -194,7 +194,7 @@ TEST_F(SessionTest, LayoutOptionsAreKept) {
     first->Press("Hip");
     first->Trigger("mnuHipLayoutCornersFlush");
     first->Trigger("mnuHipLayoutJackMeasurement");
-    EXPECT_TRUE(first->Document().menus.mnuHipLayoutOverhangsEqual.Checked);
+    EXPECT_TRUE(first->Document().menus.HipLayoutOverhangsEqual.Checked);
     first->Type("LWSlope(2).Left", "9");
     first->Key(Qt::Key_Return);
     first->Trigger("mnuHipLayoutOverhangsEqual");
@@ -274,7 +274,7 @@ TEST_P(RubbishTest, TheProgramStartsWorksAndLeavesSomethingBetter) {
     EXPECT_LE(window.width(), std::max(screen.width(), window.minimumWidth()));
     EXPECT_LE(window.height(), std::max(screen.height(), window.minimumHeight()));
     window.grab();
-    if (!hand.Document().menus.mnuImperial.Checked) hand.Trigger("mnuImperial");
+    if (!hand.Document().menus.Imperial.Checked) hand.Trigger("mnuImperial");
     hand.Trigger("mnuSettingsRiseOverRun");
     hand.Type("FtSpan(0)", "150");
     hand.Key(Qt::Key_Return);
@@ -289,7 +289,7 @@ TEST_P(RubbishTest, TheProgramStartsWorksAndLeavesSomethingBetter) {
   QApplication::processEvents();
   EXPECT_TRUE(next.isVisible());
   EXPECT_TRUE(next.Document().Imperial());
-  EXPECT_TRUE(next.Document().menus.mnuSettingsRiseOverRun.Checked);
+  EXPECT_TRUE(next.Document().menus.SettingsRiseOverRun.Checked);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -32,7 +32,7 @@ Deed ShowsRoof(int code, const char* caption) {
     EXPECT_EQ(program.Find("Level").isVisible(), code == roof::kGambrel);
     EXPECT_EQ(program.Find("Toolbar1").isVisible(), code == roof::kBay);
     EXPECT_EQ(program.Find("VSTab(1)").isVisible(), code == roof::kDualSlope);
-    for (const ToolButton& button : program.Document().tbToolBar.Buttons()) {
+    for (const ToolButton& button : program.Document().toolBar.Buttons()) {
       if (button.RoofListIndex < 0) continue;
       const std::string key(button.Key);
       EXPECT_EQ(program.Find<QToolButton>(key).isChecked(),
@@ -114,9 +114,9 @@ using ToolBarWindow = WindowTest;
 TEST_F(ToolBarWindow, RoofButtonComesBackFromTheRearRoof) {
   Press("Dual");
   Find<QTabBar>("VSTab(1)").setCurrentIndex(1);
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 1);
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1);
   Press("Dual");
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 0);
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
   EXPECT_TRUE(Find("FtSpan(0)").isVisible());
 }
 

@@ -150,11 +150,11 @@ TEST_F(View, AClickOnAMagnifiedDualSlopeMeansTheRoofUnderThePointer) {
   const int row = Picture().height() / 2;
   Wheel(QPointF(0, row), 960);
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {Picture().width() - 5, row});
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 0) << "a quarter of the drawing shows, its left one";
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0) << "a quarter of the drawing shows, its left one";
   Key(Qt::Key_Escape);
   Picture().Fit();
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {middle + 20, row});
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 1);
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1);
 }
 
 TEST_F(View, ADragOnAMagnifiedDualSlopeTurnsNoPage) {
@@ -165,9 +165,9 @@ TEST_F(View, ADragOnAMagnifiedDualSlopeTurnsNoPage) {
   QTest::mousePress(&Picture(), Qt::LeftButton, {}, {300, row});
   QTest::mouseMove(&Picture(), {360, row});
   QTest::mouseRelease(&Picture(), Qt::LeftButton, {}, {360, row});
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 0);
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {300, row});
-  EXPECT_EQ(Document().sheet.VSTab[1].Page, 1) << "a click means the rear roof, which shows";
+  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1) << "a click means the rear roof, which shows";
 }
 
 TEST_F(View, APopupTakesTheDrawingOutOfTheHand) {
@@ -315,7 +315,7 @@ TEST_P(RoofKeys, ChooseTheRoof) {
   Trigger("mnuViewToolbar");  // also while the bar is hidden
   Box("FtSpan(0)").setFocus();
   Key(key, Qt::AltModifier);
-  EXPECT_EQ(Document().sheet.cboType.ListIndex(), index);
+  EXPECT_EQ(Document().sheet.RoofList.ListIndex(), index);
 }
 
 INSTANTIATE_TEST_SUITE_P(NumberRow, RoofKeys,
@@ -330,14 +330,14 @@ INSTANTIATE_TEST_SUITE_P(NumberRow, RoofKeys,
 TEST_F(View, AValueThatIsBeingTypedIsTakenBeforeTheRoofChanges) {
   Type("FtSpan(0)", "30'");
   Key(Qt::Key_2, Qt::AltModifier);
-  EXPECT_EQ(Document().sheet.cboType.ListIndex(), 1);
+  EXPECT_EQ(Document().sheet.RoofList.ListIndex(), 1);
   EXPECT_EQ(Document().Rafter1.Span, 360);
 }
 
 TEST_F(View, EachRoofsButtonNamesItsKeys) {
   int roofs = 0;
   std::set<QString> keys;
-  for (const ToolButton& row : Document().tbToolBar.Buttons()) {
+  for (const ToolButton& row : Document().toolBar.Buttons()) {
     if (row.RoofListIndex < 0) continue;
     ++roofs;
     const QString tip = Find<QToolButton>(std::string(row.Key)).toolTip();

@@ -9,10 +9,10 @@ namespace {
 struct Teller {
   std::ostringstream& out;
 
-  void operator()(const FtInText* field) const {
+  void operator()(const MeasureControl* field) const {
     out << ExactText(field->Value()) << " [" << field->Text() << "] " << field->ForeColor;
   }
-  void operator()(const LWCombo* pair) const {
+  void operator()(const PairControl* pair) const {
     out << ExactText(pair->LeftValue()) << " " << ExactText(pair->RightValue()) << " [" << pair->LeftText()
         << "|" << pair->RightText() << "] " << pair->ListIndex() << pair->Locked;
   }
@@ -26,7 +26,7 @@ struct Teller {
   void operator()(const ContainerControl*) const {}
 };
 
-void Tell(std::ostringstream& out, const CRafter& rafter) {
+void Tell(std::ostringstream& out, const Rafter& rafter) {
   for (const RafterMember& member : RafterMembers()) {
     out << member.Name << " ";
     std::visit(
@@ -44,7 +44,7 @@ void Tell(std::ostringstream& out, const CRafter& rafter) {
 
 }  // namespace
 
-std::string StateOf(frmDocument& document) {
+std::string StateOf(Document& document) {
   std::ostringstream out;
   out << document.Title << "\n"
       << document.RoofType << " " << document.UnitRun << " " << document.CurrentTab << "\n";
@@ -57,13 +57,13 @@ std::string StateOf(frmDocument& document) {
   for (const MenuItem* item : document.menus.Items()) {
     out << item->Name << " " << item->Visible << item->Enabled << item->Checked << "\n";
   }
-  for (const ToolButton& button : document.tbToolBar.Buttons()) {
+  for (const ToolButton& button : document.toolBar.Buttons()) {
     out << button.Key << " " << button.Visible << button.Pressed << "\n";
   }
-  for (const IndexTab& tab : document.sheet.VSTab) out << tab.Caption() << " " << tab.Page << "\n";
+  for (const IndexTab& tab : document.sheet.Tabs) out << tab.Caption() << " " << tab.Page << "\n";
   Tell(out, document.Rafter1);
   Tell(out, document.Rafter2);
-  out << document.board.MetaCanvas.Operations().size() << " strokes\n";
+  out << document.board.Recorder.Operations().size() << " strokes\n";
   return out.str();
 }
 

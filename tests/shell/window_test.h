@@ -20,15 +20,15 @@
 
 namespace pitchcraft::testing {
 
-/// "12 [LWSlope(0)] 6 | 12, ...": all that a person could tell two documents apart by.
-std::string StateOf(frmDocument& document);
+/// "12 [Slope(0)] 6 | 12, ...": all that a person could tell two documents apart by.
+std::string StateOf(Document& document);
 
 /// A person's hand in a window: it finds the widgets by the names of their controls.
 class WindowHand {
  public:
   explicit WindowHand(MainWindow& window) : window_(window) {}
 
-  frmDocument& Document() { return window_.Document(); }
+  pitchcraft::Document& Document() { return window_.Document(); }
 
   template <typename Widget = QWidget>
   Widget& Find(const std::string& name) {

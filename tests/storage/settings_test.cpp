@@ -14,7 +14,7 @@ TEST(Settings, AFirstRunHasTheDefaults) {
   EXPECT_EQ(settings.LineColor, 16777215U);
   EXPECT_EQ(settings.HipLayout, "Corner");
   EXPECT_TRUE(settings.OverhangsEqual);
-  EXPECT_EQ(settings.DXFMetricTextsize, 2);
+  EXPECT_EQ(settings.DxfMetricTextSize, 2);
 }
 
 TEST(Settings, ComeBackAsTheyWereWritten) {
@@ -23,7 +23,7 @@ TEST(Settings, ComeBackAsTheyWereWritten) {
   written.Increment = 0.125;
   written.TextColor = 0xFF8000;
   written.HipLayout = "Corner Flush";
-  written.DXFTextsize = 4.5;
+  written.DxfTextSize = 4.5;
   written.Kneewall1 = "2' 0\"";
   MemoryStore store;
   WriteSettings(written, store);
@@ -32,7 +32,7 @@ TEST(Settings, ComeBackAsTheyWereWritten) {
   EXPECT_EQ(read.Increment, 0.125);
   EXPECT_EQ(read.TextColor, 0xFF8000U);
   EXPECT_EQ(read.HipLayout, "Corner Flush");
-  EXPECT_EQ(read.DXFTextsize, 4.5);
+  EXPECT_EQ(read.DxfTextSize, 4.5);
   EXPECT_EQ(read.Kneewall1, "2' 0\"");
   EXPECT_EQ(store.Get("Pitchcraft", "Settings", "RotateFonts"), "True");
 }

@@ -6,20 +6,19 @@
 #include <string>
 
 #include "document/actions.h"
-#include "document/frm_document.h"
+#include "document/document.h"
 
 namespace pitchcraft {
 
 class RandomWalk {
  public:
-  RandomWalk(frmDocument& document, unsigned seed) : document_(document), actions_(document), random_(seed) {}
+  RandomWalk(Document& document, unsigned seed) : document_(document), actions_(document), random_(seed) {}
 
   /// Takes one action; a refusal counts as one. Gives what it was, as a script would write it.
   std::string Step() {
     switch (Below(12)) {
-      case 0: return Pick("cboType", Any(document_.sheet.cboType.List()));
-      case 1:
-        return Say("press", document_.tbToolBar.Buttons()[Below(document_.tbToolBar.Buttons().size())].Key);
+      case 0: return Pick("cboType", Any(document_.sheet.RoofList.List()));
+      case 1: return Say("press", document_.toolBar.Buttons()[Below(document_.toolBar.Buttons().size())].Key);
       case 2: return Say("click", document_.menus.Items()[Below(document_.menus.Items().size())]->Name);
       case 3: return Page();
       case 4: return Size();
@@ -106,7 +105,7 @@ class RandomWalk {
         combo != nullptr && !(*combo)->List().empty() && Below(2) == 0) {
       return Pick(name, Any((*combo)->List()));
     }
-    if (auto* const* pair = std::get_if<LWCombo*>(&any);
+    if (auto* const* pair = std::get_if<PairControl*>(&any);
         pair != nullptr && !(*pair)->List().empty() && Below(2) == 0) {
       return Pick(name, (*pair)->List()[Below((*pair)->List().size())].Caption);
     }
@@ -118,7 +117,7 @@ class RandomWalk {
     }
   }
 
-  frmDocument& document_;
+  Document& document_;
   Actions actions_;
   std::mt19937 random_;
 };

@@ -1,27 +1,27 @@
-#include "drawing/text_fx.h"
+#include "drawing/text_tool.h"
 
 #include <cmath>
 
 #include "core/angles.h"
 #include "core/run_time_error.h"
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 #include "drawing/text_align.h"
 
 namespace pitchcraft {
 
-void CTextFX::SetCanvas(CMetaFile* canvas) {
+void TextTool::SetCanvas(DrawingRecorder* canvas) {
   if (canvas == nullptr) throw RunTimeError(91, "Object variable or With block variable not set");
   canvas_ = canvas;
 }
 
-int CTextFX::TypeofDC() const { return canvas_ != nullptr ? canvas_->TypeofDC() : 0; }
+int TextTool::CanvasKind() const { return canvas_ != nullptr ? canvas_->CanvasKind() : 0; }
 
-void CTextFX::SetTextAlign(int align) {
+void TextTool::SetTextAlign(int align) {
   textAlign_ = align;
   if (canvas_ != nullptr) canvas_->TextAlign = align;
 }
 
-void CTextFX::UseFont() const {
+void TextTool::UseFont() const {
   canvas_->FontName = FontName;
   canvas_->FontHeight = FontHeight;
   canvas_->FontBold = FontBold;
@@ -32,19 +32,19 @@ void CTextFX::UseFont() const {
   canvas_->TextAlign = textAlign_;
 }
 
-double CTextFX::TextWidth(std::string_view text) const {
+double TextTool::TextWidth(std::string_view text) const {
   if (canvas_ == nullptr) return 0;
   UseFont();
   return canvas_->TextWidth(text);
 }
 
-double CTextFX::TextHeight(std::string_view text) const {
+double TextTool::TextHeight(std::string_view text) const {
   if (canvas_ == nullptr) return 0;
   UseFont();
   return canvas_->TextHeight(text);
 }
 
-void CTextFX::TextLine(std::string_view text, std::optional<Single> x, std::optional<Single> y) {
+void TextTool::TextLine(std::string_view text, std::optional<Single> x, std::optional<Single> y) {
   if (canvas_ == nullptr) return;
   const double atX = x ? double{*x} : canvas_->CurrentX();
   const double atY = y ? double{*y} : canvas_->CurrentY();
@@ -60,7 +60,7 @@ void CTextFX::TextLine(std::string_view text, std::optional<Single> x, std::opti
 
 /// The box by the flags, turned about the anchor. Above the base line it is taken a whole cell high, as room
 /// for the next text to stand clear of it.
-void CTextFX::ReportBox(std::string_view text, double x, double y) const {
+void TextTool::ReportBox(std::string_view text, double x, double y) const {
   if (!BoundsChanged) return;
   const double width = canvas_->TextWidth(text);
   const double height = canvas_->TextHeight(text);

@@ -11,18 +11,18 @@
 
 namespace pitchcraft {
 
-class CMetaFile;
+class DrawingRecorder;
 
 /// Writes on its canvas and reports the box that each text covers. Text is UTF-8.
-class CTextFX {
+class TextTool {
  public:
   using Bounds = std::function<void(double left, double top, double right, double bottom)>;
   Bounds BoundsChanged;
 
-  void SetCanvas(CMetaFile* canvas);
-  CMetaFile* Canvas() const { return canvas_; }
+  void SetCanvas(DrawingRecorder* canvas);
+  DrawingRecorder* Canvas() const { return canvas_; }
   void Destroy() { canvas_ = nullptr; }
-  int TypeofDC() const;
+  int CanvasKind() const;
 
   Single Angle;  ///< degrees, counter-clockwise
   std::string FontName = "Arial";
@@ -74,7 +74,7 @@ class CTextFX {
   void UseFont() const;
   void ReportBox(std::string_view text, double x, double y) const;
 
-  CMetaFile* canvas_ = nullptr;
+  DrawingRecorder* canvas_ = nullptr;
   int textAlign_ = 0;
 };
 

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "drawing/arial_meter.h"
-#include "drawing/draw_fx.h"
-#include "drawing/meta_file.h"
-#include "drawing/text_fx.h"
+#include "drawing/drawing_recorder.h"
+#include "drawing/stroke_tool.h"
+#include "drawing/text_tool.h"
 
 namespace pitchcraft::testing {
 
@@ -14,7 +14,7 @@ class Recorder {
  public:
   Recorder() : meta(meter) {
     meta.Attach(drawFX, textFX);
-    meta.MetaCreate();
+    meta.Open();
   }
   template <typename Op>
   const Op& Last() const {
@@ -23,9 +23,9 @@ class Recorder {
   std::size_t Count() const { return meta.Operations().size(); }
 
   ArialMeter meter;
-  CDrawFX drawFX;
-  CTextFX textFX;
-  CMetaFile meta;
+  StrokeTool drawFX;
+  TextTool textFX;
+  DrawingRecorder meta;
 };
 
 }  // namespace pitchcraft::testing

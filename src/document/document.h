@@ -17,7 +17,7 @@
 #include "drawing/arial_meter.h"
 #include "drawing/drafting_board.h"
 #include "drawings/drawing_context.h"
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 #include "sheet/menus.h"
 #include "sheet/roof_types.h"
 #include "sheet/sheet.h"
@@ -41,11 +41,11 @@ inline constexpr int kRightButton = 2;
 /// action reaches one handler here; the handler changes plain state and calculates; the calculation's event
 /// writes the results into the sheet and records the drawing. Whoever shows the document takes its state
 /// afterwards. Every handler traps the errors of the run time, shows them under its own name and goes on.
-class frmDocument : public Preferences {
+class Document : public Preferences {
  public:
-  explicit frmDocument(const Surroundings& surroundings);
-  frmDocument(const frmDocument&) = delete;
-  frmDocument& operator=(const frmDocument&) = delete;
+  explicit Document(const Surroundings& surroundings);
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
 
   // --- The shared variables
   // ---------------------------------------------------------------------------------------
@@ -55,7 +55,7 @@ class frmDocument : public Preferences {
   double UnitHipRatio = 16.970562 / 12;
   bool CalcEnabled = false;  ///< on at the very end of start-up
   int LoadingProject = 0;    ///< 1 while a project is being opened
-  int CurrentTab = 0;        ///< page of VSTab(0)
+  int CurrentTab = 0;        ///< page of Tabs(0)
   int HelpContext = 0;       ///< help topic of the roof type
   int BayEditMode = 0;       ///< which bay dimension was solved: 1 projection, 2 face, 3 back, 4 angle
   Single SavedGableSpan;     ///< Span before the gambrel was entered; 0 when nothing is saved
@@ -65,19 +65,19 @@ class frmDocument : public Preferences {
   static constexpr int kTitleLength = 60;  ///< letters of a path in the title
   bool PrintAllBlack = false;
 
-  CRafter Rafter1;  ///< the main, front, bottom or short-valley rafter
-  CRafter Rafter2;  ///< the rear, top, long-valley or Dutch rafter
+  Rafter Rafter1;  ///< the main, front, bottom or short-valley rafter
+  Rafter Rafter2;  ///< the rear, top, long-valley or Dutch rafter
   Sheet sheet;
   Menus menus;
-  ToolBar tbToolBar;
-  FtInConverter FtInConverter1;
+  ToolBar toolBar;
+  MeasureConverter measures;
   ArialMeter meter;
-  MRU RecentFiles;         ///< the four files at the end of the File menu
-  DraftingBoard board;     ///< recording, points and dimensions of the drawing shown
-  PictureBox Picture1;     ///< drawing of the design page
-  PictureBox Picture3;     ///< drawing of all other pages
-  std::string Title;       ///< of the window
-  std::string StatusText;  ///< first pane of the status bar
+  RecentFileList RecentFiles;  ///< the four files at the end of the File menu
+  DraftingBoard board;         ///< recording, points and dimensions of the drawing shown
+  PictureBox Picture1;         ///< drawing of the design page
+  PictureBox Picture3;         ///< drawing of all other pages
+  std::string Title;           ///< of the window
+  std::string StatusText;      ///< first pane of the status bar
   std::string
       FocusRequest;  ///< control that a handler gave the focus to; whoever shows the document clears it
   bool DrawingExists = true;    ///< false when the page shown has no drawing yet: its recording is empty
@@ -106,7 +106,7 @@ class frmDocument : public Preferences {
   // --- Roof type and pages
   // ----------------------------------------------------------------------------------------
   void cboType_Click(int = 0);
-  /// Shows page NewTab of VSTab(0) (Index 0) or brings the menus in line with page NewTab of VSTab(1) (Index
+  /// Shows page NewTab of Tabs(0) (Index 0) or brings the menus in line with page NewTab of Tabs(1) (Index
   /// 1).
   void VSTab_Switch(int Index, int OldTab, int NewTab);
   void SwitchTab(int Index, int OldTab, int NewTab) { VSTab_Switch(Index, OldTab, NewTab); }
@@ -144,7 +144,7 @@ class frmDocument : public Preferences {
   void cboLedger_Click(int = 0);
   void Spin_Step(int Index, bool up);
   /// The shortest overhang that a plumb fascia needs where the one entered is shorter, else 0.
-  double CheckOverhang(int Index, const CRafter& Rafter) const;
+  double CheckOverhang(int Index, const Rafter& Rafter) const;
   /// The pointer or the focus came to a field: the status bar tells what to enter.
   void Hint(std::string_view controlName);
 
@@ -261,7 +261,7 @@ class frmDocument : public Preferences {
   void Focus(const Control& control) { FocusRequest = control.Name; }
   void FocusSlope(std::size_t row);
   /// The page of the inner tab: 0 front roof, 1 rear roof.
-  int RoofPage() const { return sheet.VSTab[1].Page; }
+  int RoofPage() const { return sheet.Tabs[1].Page; }
 
   // Start-up and layout.
   void ColorFields();
@@ -278,7 +278,7 @@ class frmDocument : public Preferences {
   void StartDualSlope(bool FromFile);
   void StartDutchHip();
   void ShowFrontRow();
-  void ShowRow(std::size_t row, const CRafter& rafter);
+  void ShowRow(std::size_t row, const Rafter& rafter);
   bool ChainRafter2();
   void RedrawAfterRafter1();
 
@@ -311,8 +311,8 @@ class frmDocument : public Preferences {
   void CommitExtraSpan(double value);
   void CommitHeelOrSeat(int Index, bool isSeat);
   void LockClicked(int Index, bool isSeat);
-  bool TakeTick(CheckControl& box, FtInText& field, LabelControl& label);
-  void StorePair(const LWCombo& field, int Index, Single CRafter::*left, Single CRafter::*right,
+  bool TakeTick(CheckControl& box, MeasureControl& field, LabelControl& label);
+  void StorePair(const PairControl& field, int Index, Single Rafter::*left, Single Rafter::*right,
                  const char* changedField);
   void CommitBlindValleyRidge(int Index);
   double TheoreticalRise() const;
@@ -337,9 +337,9 @@ class frmDocument : public Preferences {
 
   // Solvers.
   bool SolveBayField();
-  void HandBayToRafter(CRafter& rafter, double side);
+  void HandBayToRafter(Rafter& rafter, double side);
   void RefuseCrossingHips();
-  void SetBayField(FtInText& field, double value, int mode);
+  void SetBayField(MeasureControl& field, double value, int mode);
   double SolveRegularGambrel(bool knownField);
   double SolveCustomGambrel(const std::string& changed);
   double UpperSpanFromLowerHeight(double width);
@@ -366,11 +366,11 @@ class frmDocument : public Preferences {
 
   // Forms.
   void ShowForm(const AnyForm& form);
-  FtInConverter FineFormat() const;
+  MeasureConverter FineFormat() const;
   void ShowOptions(OptionsPage page);
   void FillOptions(OptionsForm& form);
   void ApplyOptions(OptionsForm& form);
-  void TakeDxfTextsize(FtInText& field);
+  void TakeDxfTextSize(MeasureControl& field);
 
   // Settings commands.
   void SwitchUnits(bool metric);
@@ -386,7 +386,7 @@ class frmDocument : public Preferences {
   void ShowPopUp1Items();
 
   // Pages and drawings.
-  void Draw(Drawing drawing, const CRafter& rafter);
+  void Draw(Drawing drawing, const Rafter& rafter);
   void DrawPage(int page);
   /// Draws the page shown again, without moving the focus.
   void RepeatDrawing();
@@ -407,21 +407,21 @@ class frmDocument : public Preferences {
   /// takes.
   template <typename Work>
   void WithOutputRafter(const PageOutput& output, Work work) {
-    CRafter& rafter = output.Rafter == 2 ? Rafter2 : Rafter1;
+    Rafter& rafter = output.Rafter == 2 ? Rafter2 : Rafter1;
     if (output.TypeBefore >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeBefore);
     work(rafter);
     if (output.TypeAfter >= 0) rafter.RafterType = static_cast<RafterType>(output.TypeAfter);
   }
   PrintContext OutputContext(int rafter) const;
   PrintContext PaperContext(int rafter, bool color) const;
-  void PrintPage(const PageOutput& output, const CRafter& rafter);
-  void SetUpWriter(CDxfWriter& writer) const;
+  void PrintPage(const PageOutput& output, const Rafter& rafter);
+  void SetUpWriter(DxfWriter& writer) const;
   void RequireDrawing() const;
 
   Surroundings surroundings_;
   bool degreesFailed_ = false;  ///< the list of degrees could not be read or made
   std::array<std::string, 2>
-      keptFasciaHeight_;  ///< RightText of LWFascia before the last change away from plumb
+      keptFasciaHeight_;  ///< RightText of Fascia before the last change away from plumb
 };
 
 }  // namespace pitchcraft

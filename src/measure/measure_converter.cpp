@@ -1,4 +1,4 @@
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 
 #include <algorithm>
 #include <array>
@@ -59,7 +59,7 @@ bool IsWrittenOut(double value) { return std::abs(value) < kLongest; }  // neith
 
 }  // namespace
 
-double FtInConverter::ToValue(std::string_view text) const {
+double MeasureConverter::ToValue(std::string_view text) const {
   const auto measure = ReadMeasure(text);
   if (!measure) return 0;
   const bool inMillimetres = BaseUnits == kBaseMillimetres;
@@ -69,7 +69,7 @@ double FtInConverter::ToValue(std::string_view text) const {
   return std::isfinite(value) && value != 0 ? value : 0;  // and no -0
 }
 
-std::string FtInConverter::ToText(double value) const {
+std::string MeasureConverter::ToText(double value) const {
   const bool inMillimetres = BaseUnits == kBaseMillimetres;
   const double inches = inMillimetres ? value / kMillimetresPerInch : value;
   const double millimetres = inMillimetres ? value : value * kMillimetresPerInch;

@@ -13,8 +13,8 @@
 
 namespace pitchcraft {
 
-class CDrawFX;
-class CTextFX;
+class StrokeTool;
+class TextTool;
 
 /// Number of the errors that a recording raises: the first that is free for a program's own.
 inline constexpr int kMetaFileError = 513;
@@ -42,29 +42,29 @@ struct PointSize {
 /// One recording and its state: empty, open (being recorded) or closed (ready to be played, any number of
 /// times and on any target). Coordinates are drawing units, +Y up. Raises RunTimeError with the messages told
 /// at each call.
-class CMetaFile {
+class DrawingRecorder {
  public:
-  explicit CMetaFile(const TextMeter& meter);
-  CMetaFile(const CMetaFile&) = delete;
-  CMetaFile& operator=(const CMetaFile&) = delete;
+  explicit DrawingRecorder(const TextMeter& meter);
+  DrawingRecorder(const DrawingRecorder&) = delete;
+  DrawingRecorder& operator=(const DrawingRecorder&) = delete;
 
   /// Makes both report what they cover here, and draw here.
-  void Attach(CDrawFX& drawFX, CTextFX& textFX);
+  void Attach(StrokeTool& drawFX, TextTool& textFX);
   /// Lets go of both; each is destroyed first, because it holds this object as its canvas.
   void Destroy();
 
   // --- The recording
   // ----------------------------------------------------------------------------------------------
   /// Opens an empty recording in memory. "Metafile dc already exists!" while one is open.
-  void MetaCreate(std::string_view name = {});
+  void Open(std::string_view name = {});
   /// Ends the recording; nothing happens when none is open.
-  void MetaClose();
+  void Close();
   /// Closes what is open, forgets the recording and zeroes the extents.
-  void MetaDelete();
+  void Discard();
   /// Takes a finished recording. "A metafile already exists!" when one stands or is open.
-  void MetaLoad(Recording recording, Single minX, Single minY, Single maxX, Single maxY);
+  void Load(Recording recording, Single minX, Single minY, Single maxX, Single maxY);
   /// Empties the canvas: what stands is deleted and a fresh recording is opened.
-  void Cls();
+  void Clear();
   bool IsOpen() const { return open_; }
   bool IsClosed() const { return closed_; }
   /// What was recorded so far.
@@ -72,8 +72,8 @@ class CMetaFile {
   /// The finished recording. "No metafile defined!" when there is none.
   const Recording& Finished() const;
   /// Plays the finished recording. "No metafile to play!" when there is none.
-  void MetaPlay(Canvas& target, const PlayArea& area = {}) const;
-  /// The mapping that MetaPlay uses. An extent of 0 counts as 1, on either side.
+  void Play(Canvas& target, const PlayArea& area = {}) const;
+  /// The mapping that Play uses. An extent of 0 counts as 1, on either side.
   CanvasMap FitInto(const CanvasSize& target, double unitsPerTwip, const PlayArea& area = {}) const;
 
   std::string Name;
@@ -99,7 +99,7 @@ class CMetaFile {
   /// Without a canvas Size is 0. A denominator of 0 counts as 1.
   PointSize CalcPointSize() const;
   /// The technology of this device: 5, a recording.
-  static constexpr int TypeofDC() { return 5; }
+  static constexpr int CanvasKind() { return 5; }
 
   // --- Pen, brush, font
   // --------------------------------------------------------------------------------------------
@@ -139,8 +139,8 @@ class CMetaFile {
 
  private:
   const TextMeter& meter_;
-  CDrawFX* drawFX_ = nullptr;
-  CTextFX* textFX_ = nullptr;
+  StrokeTool* drawFX_ = nullptr;
+  TextTool* textFX_ = nullptr;
   Recording operations_;
   bool open_ = false;
   bool closed_ = false;

@@ -1,12 +1,12 @@
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "core/run_time_error.h"
-#include "drawing/draw_fx.h"
-#include "drawing/text_fx.h"
+#include "drawing/stroke_tool.h"
+#include "drawing/text_tool.h"
 
 namespace pitchcraft {
 namespace {
@@ -32,9 +32,9 @@ Aspect AspectOn(double canvasWidth, double canvasHeight, double width, double he
 
 }  // namespace
 
-CMetaFile::CMetaFile(const TextMeter& meter) : meter_(meter) { SetFontSize(kStartFontSize); }
+DrawingRecorder::DrawingRecorder(const TextMeter& meter) : meter_(meter) { SetFontSize(kStartFontSize); }
 
-void CMetaFile::Attach(CDrawFX& drawFX, CTextFX& textFX) {
+void DrawingRecorder::Attach(StrokeTool& drawFX, TextTool& textFX) {
   drawFX_ = &drawFX;
   textFX_ = &textFX;
   const auto widen = [this](double left, double top, double right, double bottom) {
@@ -46,37 +46,37 @@ void CMetaFile::Attach(CDrawFX& drawFX, CTextFX& textFX) {
   textFX.SetCanvas(this);
 }
 
-void CMetaFile::Destroy() {
+void DrawingRecorder::Destroy() {
   if (textFX_ != nullptr) textFX_->Destroy();
   if (drawFX_ != nullptr) drawFX_->Destroy();
   textFX_ = nullptr;
   drawFX_ = nullptr;
-  MetaDelete();
+  Discard();
 }
 
-void CMetaFile::MetaCreate(std::string_view name) {
+void DrawingRecorder::Open(std::string_view name) {
   if (open_) throw Refusal("Metafile dc already exists!");
-  MetaDelete();
+  Discard();
   Name = name;
   open_ = true;
   MapMode = kIsotropic;
   current_ = {};
 }
 
-void CMetaFile::MetaClose() {
+void DrawingRecorder::Close() {
   if (!open_) return;
   open_ = false;
   closed_ = true;
 }
 
-void CMetaFile::MetaDelete() {
+void DrawingRecorder::Discard() {
   open_ = false;
   closed_ = false;
   operations_.clear();  // keeps its room: the next drawing is about as long
   minX_ = minY_ = maxX_ = maxY_ = 0;
 }
 
-void CMetaFile::MetaLoad(Recording recording, Single minX, Single minY, Single maxX, Single maxY) {
+void DrawingRecorder::Load(Recording recording, Single minX, Single minY, Single maxX, Single maxY) {
   if (open_ || closed_) throw Refusal("A metafile already exists!");
   operations_ = std::move(recording);
   closed_ = true;
@@ -86,17 +86,17 @@ void CMetaFile::MetaLoad(Recording recording, Single minX, Single minY, Single m
   maxY_ = maxY;
 }
 
-void CMetaFile::Cls() {
-  MetaDelete();
-  MetaCreate();
+void DrawingRecorder::Clear() {
+  Discard();
+  Open();
 }
 
-const Recording& CMetaFile::Finished() const {
+const Recording& DrawingRecorder::Finished() const {
   if (!closed_) throw Refusal("No metafile defined!");
   return operations_;
 }
 
-void CMetaFile::BoundsChanged(double left, double top, double right, double bottom) {
+void DrawingRecorder::BoundsChanged(double left, double top, double right, double bottom) {
   for (const double x : {left, right}) {
     if (x < minX_) minX_ = x;
     if (x > maxX_) maxX_ = x;
@@ -107,13 +107,13 @@ void CMetaFile::BoundsChanged(double left, double top, double right, double bott
   }
 }
 
-void CMetaFile::SetCanvas(const CanvasSize& size) {
+void DrawingRecorder::SetCanvas(const CanvasSize& size) {
   if (!std::isfinite(size.ScaleWidth) || !std::isfinite(size.ScaleHeight))
     throw Refusal("Not a valid canvas!");
   canvas_ = size;
 }
 
-PointSize CMetaFile::CalcPointSize() const {
+PointSize DrawingRecorder::CalcPointSize() const {
   if (!canvas_) return {};
   const double width = maxX_ - minX_;
   const double height = maxY_ - minY_;
@@ -128,7 +128,8 @@ PointSize CMetaFile::CalcPointSize() const {
   return {taken.Ratio, taken.Size, turn != isWide};
 }
 
-CanvasMap CMetaFile::FitInto(const CanvasSize& target, double unitsPerTwip, const PlayArea& area) const {
+CanvasMap DrawingRecorder::FitInto(const CanvasSize& target, double unitsPerTwip,
+                                   const PlayArea& area) const {
   const double areaWidth = area.Width.value_or(target.ScaleWidth) - 2 * area.Border;
   const double areaHeight = std::fabs(area.Height.value_or(target.ScaleHeight)) - 2 * area.Border;
   const double width = OneIfZero(maxX_ - minX_);
@@ -143,51 +144,51 @@ CanvasMap CMetaFile::FitInto(const CanvasSize& target, double unitsPerTwip, cons
           (top + maxY_ * scaleY) * unitsPerTwip};
 }
 
-void CMetaFile::MetaPlay(Canvas& target, const PlayArea& area) const {
+void DrawingRecorder::Play(Canvas& target, const PlayArea& area) const {
   if (!closed_) throw Refusal("No metafile to play!");
   target.SetMap(FitInto(target.Size(), target.UnitsPerTwip(), area));
   target.Play(operations_);
 }
 
-void CMetaFile::SetFontSize(double points) {
+void DrawingRecorder::SetFontSize(double points) {
   fontSize_ = points;
   FontHeight = ToLong(points * kUnitsPerPoint);
 }
 
-double CMetaFile::TextWidth(std::string_view text) const {
+double DrawingRecorder::TextWidth(std::string_view text) const {
   return meter_.TextWidth(text, {FontName, static_cast<double>(FontHeight), FontBold, FontItalic});
 }
 
-double CMetaFile::TextHeight(std::string_view) const { return FontHeight; }
+double DrawingRecorder::TextHeight(std::string_view) const { return FontHeight; }
 
-void CMetaFile::LineTo(DrawnPoint to) {
+void DrawingRecorder::LineTo(DrawnPoint to) {
   if (open_) operations_.emplace_back(LineOp{current_, to, Pen});
   current_ = to;
 }
 
-void CMetaFile::TextOut(DrawnPoint at, std::string_view text) {
+void DrawingRecorder::TextOut(DrawnPoint at, std::string_view text) {
   if (!open_) return;
   operations_.emplace_back(TextOp{at, std::string(text), FontHeight, TextAngle, TextAlign, TextColor,
                                   FontName, FontBold, FontItalic});
 }
 
-void CMetaFile::FillPolygon(std::vector<DrawnPoint> points, const DrawnBrush& brush) {
+void DrawingRecorder::FillPolygon(std::vector<DrawnPoint> points, const DrawnBrush& brush) {
   if (open_) operations_.emplace_back(FillOp{std::move(points), brush});
 }
 
-void CMetaFile::Ellipse(DrawnPoint from, DrawnPoint to) {
+void DrawingRecorder::Ellipse(DrawnPoint from, DrawnPoint to) {
   if (open_) operations_.emplace_back(EllipseOp{from, to, Pen, Brush});
 }
 
-void CMetaFile::Arc(DrawnPoint from, DrawnPoint to, DrawnPoint start, DrawnPoint end) {
+void DrawingRecorder::Arc(DrawnPoint from, DrawnPoint to, DrawnPoint start, DrawnPoint end) {
   if (open_) operations_.emplace_back(ArcOp{from, to, start, end, Pen});
 }
 
-void CMetaFile::Rectangle(DrawnPoint from, DrawnPoint to, std::int32_t corner) {
+void DrawingRecorder::Rectangle(DrawnPoint from, DrawnPoint to, std::int32_t corner) {
   if (open_) operations_.emplace_back(RectangleOp{from, to, corner, Pen, Brush});
 }
 
-void CMetaFile::SetCurrentX(double x) { current_.X = ToLong(x); }
-void CMetaFile::SetCurrentY(double y) { current_.Y = ToLong(y); }
+void DrawingRecorder::SetCurrentX(double x) { current_.X = ToLong(x); }
+void DrawingRecorder::SetCurrentY(double y) { current_.Y = ToLong(y); }
 
 }  // namespace pitchcraft

@@ -1,4 +1,4 @@
-#include "sheet/combo.h"
+#include "sheet/combo_control.h"
 
 #include <gtest/gtest.h>
 

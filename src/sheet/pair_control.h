@@ -6,13 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 #include "sheet/control.h"
 
 namespace pitchcraft {
 
 /// One row of the list: what it is called and the two values that it stands for.
-struct LWRow {
+struct PairRow {
   std::string Caption;
   double Left = 0;
   double Right = 0;
@@ -20,9 +20,9 @@ struct LWRow {
 
 /// The values and the list position are one fact: values that stand in the list take the position of their
 /// first row, any others are -1. Values that are infinite or undefined are shown as such and read back as 0.
-class LWCombo : public Control {
+class PairControl : public Control {
  public:
-  FtInConverter Format;
+  MeasureConverter Format;
   std::uint32_t ForeColor = 0;
   std::uint32_t BackColor = 0;
   bool Locked = false;  ///< takes no entry
@@ -47,13 +47,13 @@ class LWCombo : public Control {
   /// Shows that row. A position that the list does not have changes nothing.
   void SetListIndex(int index);
   /// Takes the other's list position, or its values where this list has no such row.
-  void CopyPositionFrom(const LWCombo& other);
+  void CopyPositionFrom(const PairControl& other);
 
-  const std::vector<LWRow>& List() const { return list_; }
+  const std::vector<PairRow>& List() const { return list_; }
   void Clear();
   /// Adds "name|left|right" to the list. A text without two bars is no row and is skipped.
   void AddEntry(std::string_view text);
-  void SetList(std::vector<LWRow> rows);
+  void SetList(std::vector<PairRow> rows);
   /// The first row with that caption, or -1.
   int RowOf(std::string_view caption) const;
 
@@ -68,7 +68,7 @@ class LWCombo : public Control {
   Side left_;
   Side right_;
   int listIndex_ = -1;
-  std::vector<LWRow> list_;
+  std::vector<PairRow> list_;
 };
 
 }  // namespace pitchcraft

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "measure/ft_in_converter.h"
+#include "measure/measure_converter.h"
 #include "sheet/control.h"
 
 namespace pitchcraft {
@@ -13,9 +13,9 @@ namespace pitchcraft {
 /// A field for a length or an angle. Rounding touches what is shown, never Value: 19.2 typed stays 19.2. A
 /// number that is infinite or undefined is shown as such and reads back as 0, so that it cannot enter a
 /// calculation again.
-class FtInText : public Control {
+class MeasureControl : public Control {
  public:
-  FtInConverter Format;
+  MeasureConverter Format;
   std::uint32_t ForeColor = 0;
   std::uint32_t BackColor = 0;
   bool ReadOnly = false;    ///< takes no typing

@@ -1,4 +1,4 @@
-#include "sheet/ft_in_text.h"
+#include "sheet/measure_control.h"
 
 #include <cmath>
 
@@ -6,22 +6,22 @@
 
 namespace pitchcraft {
 
-void FtInText::SetValue(double value) {
+void MeasureControl::SetValue(double value) {
   value_ = std::isfinite(value) ? value : 0;
   text_ = Format.ToText(value);
 }
 
-void FtInText::SetText(std::string_view text) {
+void MeasureControl::SetText(std::string_view text) {
   SetEntry(text);
   Redisplay();
 }
 
-void FtInText::SetEntry(std::string_view text) {
+void MeasureControl::SetEntry(std::string_view text) {
   text_ = text;
   value_ = Format.ToValue(text);
 }
 
-void FtInText::Redisplay() {
+void MeasureControl::Redisplay() {
   if (!Trimmed(text_).empty()) text_ = Format.ToText(value_);
 }
 

@@ -1,11 +1,11 @@
-#include "drawing/draw_fx.h"
+#include "drawing/stroke_tool.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "core/angles.h"
 #include "core/run_time_error.h"
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 
 namespace pitchcraft {
 namespace {
@@ -35,64 +35,64 @@ DrawnPoint Rounded(double x, double y) { return {ToLong(x), ToLong(y)}; }
 
 }  // namespace
 
-void CDrawFX::SetCanvas(CMetaFile* canvas) {
+void StrokeTool::SetCanvas(DrawingRecorder* canvas) {
   if (canvas == nullptr) throw RunTimeError(91, "Object variable or With block variable not set");
   canvas_ = canvas;
   hasCanvas_ = true;
 }
 
-CMetaFile& CDrawFX::Target() const {
+DrawingRecorder& StrokeTool::Target() const {
   if (canvas_ == nullptr) throw RunTimeError(91, "Object variable or With block variable not set");
   return *canvas_;
 }
 
-int CDrawFX::TypeofDC() const { return hasCanvas_ ? Target().TypeofDC() : 0; }
+int StrokeTool::CanvasKind() const { return hasCanvas_ ? Target().CanvasKind() : 0; }
 
-void CDrawFX::Clear() {
-  if (hasCanvas_) Target().Cls();
+void StrokeTool::Clear() {
+  if (hasCanvas_) Target().Clear();
 }
 
-void CDrawFX::SetPenColor(DrawColor color) {
+void StrokeTool::SetPenColor(DrawColor color) {
   pen_.Color = color;
   if (hasCanvas_) Target().Pen.Color = color;
 }
 
-void CDrawFX::SetDrawStyle(int style) {
+void StrokeTool::SetDrawStyle(int style) {
   pen_.Style = style;
   if (hasCanvas_) Target().Pen.Style = style;
 }
 
-void CDrawFX::SetDrawWidth(int width) {
+void StrokeTool::SetDrawWidth(int width) {
   pen_.Width = width;
   if (hasCanvas_) Target().Pen.Width = width;
 }
 
-void CDrawFX::SetFillColor(DrawColor color) {
+void StrokeTool::SetFillColor(DrawColor color) {
   if (hasCanvas_) Target().Brush.Color = color;
   brush_.Color = color;
 }
 
-void CDrawFX::SetFillStyle(int style) {
+void StrokeTool::SetFillStyle(int style) {
   if (hasCanvas_) Target().Brush.Style = style;
   brush_.Style = style;
 }
 
-double CDrawFX::CurrentX() const { return hasCanvas_ ? Target().CurrentX() : 0; }
-double CDrawFX::CurrentY() const { return hasCanvas_ ? Target().CurrentY() : 0; }
+double StrokeTool::CurrentX() const { return hasCanvas_ ? Target().CurrentX() : 0; }
+double StrokeTool::CurrentY() const { return hasCanvas_ ? Target().CurrentY() : 0; }
 
-void CDrawFX::SetCurrentX(double x) {
+void StrokeTool::SetCurrentX(double x) {
   if (hasCanvas_) Target().SetCurrentX(EntryMode == 1 ? Target().CurrentX() + x : x);
 }
 
-void CDrawFX::SetCurrentY(double y) {
+void StrokeTool::SetCurrentY(double y) {
   if (hasCanvas_) Target().SetCurrentY(EntryMode == 1 ? Target().CurrentY() + y : y);
 }
 
-void CDrawFX::Report(double left, double top, double right, double bottom) const {
+void StrokeTool::Report(double left, double top, double right, double bottom) const {
   if (BoundsChanged) BoundsChanged(left, top, right, bottom);
 }
 
-void CDrawFX::MoveToPoint(Single x, Single y) {
+void StrokeTool::MoveToPoint(Single x, Single y) {
   if (!hasCanvas_) return;
   if (EntryMode == 1) {
     x += LastX;
@@ -105,7 +105,7 @@ void CDrawFX::MoveToPoint(Single x, Single y) {
 }
 
 /// Every line begins with its own move: none depends on where the target's pen stands.
-void CDrawFX::Stroke(Single fromX, Single fromY, Single toX, Single toY) {
+void StrokeTool::Stroke(Single fromX, Single fromY, Single toX, Single toY) {
   const DrawnPoint from = Rounded(fromX, fromY);
   const DrawnPoint to = Rounded(toX, toY);
   LastX = toX;
@@ -115,9 +115,9 @@ void CDrawFX::Stroke(Single fromX, Single fromY, Single toX, Single toY) {
   Report(fromX, fromY, toX, toY);
 }
 
-void CDrawFX::DrawLine(Single x, Single y) { DrawLine(x, y, std::nullopt, std::nullopt); }
+void StrokeTool::DrawLine(Single x, Single y) { DrawLine(x, y, std::nullopt, std::nullopt); }
 
-void CDrawFX::DrawLine(Single x1, Single y1, std::optional<Single> x2, std::optional<Single> y2) {
+void StrokeTool::DrawLine(Single x1, Single y1, std::optional<Single> x2, std::optional<Single> y2) {
   if (!hasCanvas_) return;
   const bool bothEnds = x2.has_value() && y2.has_value();
   const Single startX = bothEnds ? x1 : LastX;
@@ -131,7 +131,8 @@ void CDrawFX::DrawLine(Single x1, Single y1, std::optional<Single> x2, std::opti
   Stroke(startX, startY, endX, endY);
 }
 
-void CDrawFX::DrawPolarLine(double angle, double length, std::optional<Single> x, std::optional<Single> y) {
+void StrokeTool::DrawPolarLine(double angle, double length, std::optional<Single> x,
+                               std::optional<Single> y) {
   if (!hasCanvas_) return;
   const bool fromPoint = x.has_value() && y.has_value();
   const Single startX = fromPoint ? *x : LastX;
@@ -140,8 +141,8 @@ void CDrawFX::DrawPolarLine(double angle, double length, std::optional<Single> x
   Stroke(startX, startY, startX + offset.X, startY + offset.Y);
 }
 
-void CDrawFX::DrawLine3D(Single x, Single y, Single z, std::optional<Single> x2, std::optional<Single> y2,
-                         std::optional<Single> z2) {
+void StrokeTool::DrawLine3D(Single x, Single y, Single z, std::optional<Single> x2, std::optional<Single> y2,
+                            std::optional<Single> z2) {
   if (!hasCanvas_) return;
   const Single startX = x2 ? x : LastX3D;
   const Single startY = y2 ? y : LastY3D;
@@ -166,7 +167,7 @@ void CDrawFX::DrawLine3D(Single x, Single y, Single z, std::optional<Single> x2,
 
 /// The polygon has one corner less than there are numbers: behind the real corners it runs through the
 /// origin, and the winding rule fills what that encloses.
-void CDrawFX::DrawRegionFill(std::span<const Single> points) {
+void StrokeTool::DrawRegionFill(std::span<const Single> points) {
   if (!hasCanvas_ || points.empty()) return;
   const std::size_t corners = points.size() - 1;
   std::vector<DrawnPoint> polygon(points.size());
@@ -176,13 +177,13 @@ void CDrawFX::DrawRegionFill(std::span<const Single> points) {
   Target().FillPolygon(std::move(polygon), brush_);
 }
 
-void CDrawFX::DrawFill(Single x, Single y, DrawColor) {
+void StrokeTool::DrawFill(Single x, Single y, DrawColor) {
   if (hasCanvas_) Target().MoveTo(Rounded(x, y));
 }
 
-void CDrawFX::DrawCircle(Single x, Single y, Single radius) { DrawEllipse(x, y, radius, radius); }
+void StrokeTool::DrawCircle(Single x, Single y, Single radius) { DrawEllipse(x, y, radius, radius); }
 
-void CDrawFX::DrawEllipse(Single x, Single y, Single radiusX, Single radiusY) {
+void StrokeTool::DrawEllipse(Single x, Single y, Single radiusX, Single radiusY) {
   if (EntryMode == 1) {
     x += LastX;
     y += LastY;
@@ -193,13 +194,13 @@ void CDrawFX::DrawEllipse(Single x, Single y, Single radiusX, Single radiusY) {
   Report(x - radiusX, y - radiusY, x + radiusX, y + radiusY);
 }
 
-void CDrawFX::DrawRectangle(Single x1, Single y1, Single x2, Single y2) { DrawBox(x1, y1, x2, y2, 0); }
+void StrokeTool::DrawRectangle(Single x1, Single y1, Single x2, Single y2) { DrawBox(x1, y1, x2, y2, 0); }
 
-void CDrawFX::DrawRoundedRectangle(Single x1, Single y1, Single x2, Single y2, Single corner) {
+void StrokeTool::DrawRoundedRectangle(Single x1, Single y1, Single x2, Single y2, Single corner) {
   DrawBox(x1, y1, x2, y2, corner);
 }
 
-void CDrawFX::DrawBox(Single x1, Single y1, Single x2, Single y2, Single corner) {
+void StrokeTool::DrawBox(Single x1, Single y1, Single x2, Single y2, Single corner) {
   if (!hasCanvas_) return;
   if (EntryMode == 1) {
     x1 += LastX;
@@ -213,7 +214,7 @@ void CDrawFX::DrawBox(Single x1, Single y1, Single x2, Single y2, Single corner)
   Report(x1, y1, x2, y2);
 }
 
-void CDrawFX::DrawPoint(Single x, Single y, Single size) {
+void StrokeTool::DrawPoint(Single x, Single y, Single size) {
   if (!hasCanvas_) return;
   const double half = size / 2;
   const bool relative = EntryMode == 1;
@@ -224,7 +225,8 @@ void CDrawFX::DrawPoint(Single x, Single y, Single size) {
   Report(x - half, y - half, x + half, y + half);
 }
 
-void CDrawFX::DrawArc(Single x, Single y, Single radius, double startAngle, double endAngle, Single aspect) {
+void StrokeTool::DrawArc(Single x, Single y, Single radius, double startAngle, double endAngle,
+                         Single aspect) {
   if (!hasCanvas_) return;
   const double halfWidth = aspect > 1 ? radius / aspect : double{radius};
   const double halfHeight = aspect > 1 ? double{radius} : radius * aspect;

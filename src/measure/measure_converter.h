@@ -17,7 +17,7 @@ inline constexpr int kBaseInches = 0;
 inline constexpr int kBaseMillimetres = 1;
 
 /// Turns text into a number in base units and back. Rounding is for the eye: no number held is touched by it.
-class FtInConverter {
+class MeasureConverter {
  public:
   int Units = kFeetAndInches;
   int BaseUnits = kBaseInches;

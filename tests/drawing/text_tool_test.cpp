@@ -1,19 +1,19 @@
 // Lettering: what is recorded, and the box that is reported by alignment and angle.
-#include "drawing/text_fx.h"
+#include "drawing/text_tool.h"
 
 #include <gtest/gtest.h>
 
 #include "core/run_time_error.h"
-#include "recorder.h"
+#include "open_recording.h"
 
 namespace pitchcraft {
 namespace {
 
 using testing::Recorder;
 
-class TextFX : public ::testing::Test {
+class Letters : public ::testing::Test {
  protected:
-  TextFX() {
+  Letters() {
     text.FontHeight = 100;
     text.BoundsChanged = [this](double left, double top, double right, double bottom) {
       minX = std::min({minX, left, right});
@@ -37,11 +37,11 @@ class TextFX : public ::testing::Test {
   }
 
   Recorder recorder;
-  CTextFX& text = recorder.textFX;
+  TextTool& text = recorder.textFX;
   double minX = 0, minY = 0, maxX = 0, maxY = 0;
 };
 
-TEST_F(TextFX, RecordsTextWithItsFont) {
+TEST_F(Letters, RecordsTextWithItsFont) {
   text.FontName = "Arial";
   text.FontBold = true;
   text.FontItalic = true;
@@ -61,7 +61,7 @@ TEST_F(TextFX, RecordsTextWithItsFont) {
   EXPECT_TRUE(op.Italic);
 }
 
-TEST_F(TextFX, CoversItsBoxByAlignment) {
+TEST_F(Letters, CoversItsBoxByAlignment) {
   const double w = text.TextWidth("12' 6\"");
   ASSERT_GT(w, 100);
   struct Row {
@@ -81,7 +81,7 @@ TEST_F(TextFX, CoversItsBoxByAlignment) {
   }
 }
 
-TEST_F(TextFX, TurnsItsBoxAboutTheAnchor) {
+TEST_F(Letters, TurnsItsBoxAboutTheAnchor) {
   const double w = text.TextWidth("12' 6\"");
   Write(24, 90);
   ExpectBox(900, 2000, 1000, 2000 + w);
@@ -89,14 +89,14 @@ TEST_F(TextFX, TurnsItsBoxAboutTheAnchor) {
   ExpectBox(1000, 2000 - w / 2, 1100, 2000 + w / 2);
 }
 
-TEST_F(TextFX, KeepsTheAnchorUpsideDown) {
+TEST_F(Letters, KeepsTheAnchorUpsideDown) {
   const double w = text.TextWidth("12' 6\"");
   Write(24, 180);
   ExpectBox(1000 - w, 1900, 1000, 2000);
   EXPECT_EQ(recorder.Last<TextOp>().At, (DrawnPoint{1000, 2000}));
 }
 
-TEST_F(TextFX, WritesAtTheCurrentPositionWithoutOne) {
+TEST_F(Letters, WritesAtTheCurrentPositionWithoutOne) {
   recorder.drawFX.DrawLine(30, 40);
   text.TextLine("a");
   EXPECT_EQ(recorder.Last<TextOp>().At, (DrawnPoint{30, 40}));
@@ -104,7 +104,7 @@ TEST_F(TextFX, WritesAtTheCurrentPositionWithoutOne) {
   EXPECT_EQ(recorder.Last<TextOp>().At, (DrawnPoint{7, 40}));
 }
 
-TEST_F(TextFX, WritesAShadowFirst) {
+TEST_F(Letters, WritesAShadowFirst) {
   text.Appearance = 1;
   text.ShadowColor = 5;
   text.TextColor = 6;
@@ -116,15 +116,15 @@ TEST_F(TextFX, WritesAShadowFirst) {
   EXPECT_EQ(recorder.Last<TextOp>().Color, 6);
 }
 
-TEST_F(TextFX, RefusesAnInfinitePlace) {
+TEST_F(Letters, RefusesAnInfinitePlace) {
   EXPECT_THROW(text.TextLine("a", Single(1.0 / 0.0), Single(0)), RunTimeError);
 }
 
 TEST(TextFXWithoutCanvas, IsSilent) {
-  CTextFX text;
+  TextTool text;
   text.TextLine("a", Single(1), Single(1));
   EXPECT_EQ(text.TextWidth("a"), 0);
-  EXPECT_EQ(text.TypeofDC(), 0);
+  EXPECT_EQ(text.CanvasKind(), 0);
   EXPECT_THROW(text.SetCanvas(nullptr), RunTimeError);
 }
 

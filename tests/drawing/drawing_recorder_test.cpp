@@ -1,5 +1,5 @@
 // The recording: its states, its extents, the size of a point, and how it is fitted into a target.
-#include "drawing/meta_file.h"
+#include "drawing/drawing_recorder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "core/run_time_error.h"
 #include "drawing/extents_canvas.h"
-#include "recorder.h"
+#include "open_recording.h"
 
 namespace pitchcraft {
 namespace {
@@ -30,49 +30,49 @@ class MetaFile : public ::testing::Test {
   void Reach(double width, double height) { recorder.drawFX.MoveToPoint(width, height); }
 
   Recorder recorder;
-  CMetaFile& meta = recorder.meta;
+  DrawingRecorder& meta = recorder.meta;
 };
 
 // --- States
 // ---------------------------------------------------------------------------------------------------------
 
 TEST_F(MetaFile, RefusesASecondRecording) {
-  EXPECT_EQ(MessageOf([&] { meta.MetaCreate(); }), "Metafile dc already exists!");
+  EXPECT_EQ(MessageOf([&] { meta.Open(); }), "Metafile dc already exists!");
 }
 
 TEST_F(MetaFile, IsEmptyThenOpenThenClosed) {
   const ArialMeter meter;
-  CMetaFile fresh(meter);
+  DrawingRecorder fresh(meter);
   EXPECT_FALSE(fresh.IsOpen() || fresh.IsClosed());
-  fresh.MetaCreate("roof.wmf");
+  fresh.Open("roof.wmf");
   EXPECT_TRUE(fresh.IsOpen() && !fresh.IsClosed());
   EXPECT_EQ(fresh.Name, "roof.wmf");
-  fresh.MetaClose();
+  fresh.Close();
   EXPECT_TRUE(!fresh.IsOpen() && fresh.IsClosed());
-  fresh.MetaClose();
+  fresh.Close();
   EXPECT_TRUE(fresh.IsClosed());
-  fresh.MetaDelete();
+  fresh.Discard();
   EXPECT_FALSE(fresh.IsOpen() || fresh.IsClosed());
 }
 
 TEST_F(MetaFile, PlaysNothingBeforeItIsClosed) {
   ExtentsCanvas target({1000, 1000}, recorder.meter);
-  EXPECT_EQ(MessageOf([&] { meta.MetaPlay(target); }), "No metafile to play!");
+  EXPECT_EQ(MessageOf([&] { meta.Play(target); }), "No metafile to play!");
   EXPECT_EQ(MessageOf([&] { meta.Finished(); }), "No metafile defined!");
-  meta.MetaClose();
-  EXPECT_EQ(MessageOf([&] { meta.MetaPlay(target); }), "no error");
+  meta.Close();
+  EXPECT_EQ(MessageOf([&] { meta.Play(target); }), "no error");
 }
 
 TEST_F(MetaFile, DropsAnOpenRecordingWhenDeleted) {
   recorder.drawFX.DrawLine(10, 10);
-  meta.MetaDelete();
+  meta.Discard();
   EXPECT_FALSE(meta.IsOpen());
   EXPECT_TRUE(meta.Operations().empty());
   EXPECT_EQ(meta.MaxX(), 0);
 }
 
 TEST_F(MetaFile, RecordsNothingWhileClosed) {
-  meta.MetaClose();
+  meta.Close();
   recorder.drawFX.DrawLine(10, 10);
   recorder.textFX.TextLine("a", Single(0), Single(0));
   EXPECT_TRUE(meta.Operations().empty());
@@ -81,7 +81,7 @@ TEST_F(MetaFile, RecordsNothingWhileClosed) {
 TEST_F(MetaFile, StartsAfreshWhenCleared) {
   recorder.drawFX.DrawLine(10, 10);
   meta.MapMode = kAnisotropic;
-  meta.Cls();
+  meta.Clear();
   EXPECT_TRUE(meta.IsOpen());
   EXPECT_TRUE(meta.Operations().empty());
   EXPECT_EQ(meta.MapMode, kIsotropic);
@@ -89,12 +89,12 @@ TEST_F(MetaFile, StartsAfreshWhenCleared) {
 }
 
 TEST_F(MetaFile, TakesAFinishedRecordingOnlyWhenEmpty) {
-  EXPECT_EQ(MessageOf([&] { meta.MetaLoad({}, 0, 0, 1, 1); }), "A metafile already exists!");
-  meta.MetaDelete();
-  meta.MetaLoad({LineOp{}}, -1, -2, 3, 4);
+  EXPECT_EQ(MessageOf([&] { meta.Load({}, 0, 0, 1, 1); }), "A metafile already exists!");
+  meta.Discard();
+  meta.Load({LineOp{}}, -1, -2, 3, 4);
   EXPECT_EQ(meta.Finished().size(), 1U);
   EXPECT_EQ(meta.MinY(), -2);
-  EXPECT_EQ(MessageOf([&] { meta.MetaLoad({}, 0, 0, 1, 1); }), "A metafile already exists!");
+  EXPECT_EQ(MessageOf([&] { meta.Load({}, 0, 0, 1, 1); }), "A metafile already exists!");
 }
 
 TEST_F(MetaFile, RefusesACanvasWithoutSize) {
@@ -149,7 +149,7 @@ TEST_F(MetaFile, MakesTextTheSameSizeOnTheCanvas) {
       {37, 4000, 5000, 5500},   {1000, 1000, 777, 777},
   };
   for (const Row& row : rows) {
-    meta.Cls();
+    meta.Clear();
     Reach(row.Width, row.Height);
     meta.SetCanvas({row.CanvasWidth, row.CanvasHeight});
     const double size = meta.CalcPointSize().Size;
@@ -182,7 +182,7 @@ TEST_F(MetaFile, TurnsThePaperTheWayThatFitsBest) {
   meta.SetCanvas({12000, -16000, true});
   EXPECT_TRUE(meta.CalcPointSize().Landscape);
   EXPECT_NEAR(meta.CalcPointSize().Size, 1000.0 / 16000, 1e-6);
-  meta.Cls();
+  meta.Clear();
   Reach(700, 1000);
   EXPECT_FALSE(meta.CalcPointSize().Landscape);
   EXPECT_NEAR(meta.CalcPointSize().Size, 1000.0 / 16000, 1e-6);
@@ -198,9 +198,9 @@ struct Sides {
 class Played : public MetaFile {
  protected:
   void ExpectPlayed(CanvasSize size, Sides sides, const PlayArea& area = {}, double unitsPerTwip = 1) {
-    meta.MetaClose();
+    meta.Close();
     ExtentsCanvas target(size, recorder.meter, unitsPerTwip);
-    meta.MetaPlay(target, area);
+    meta.Play(target, area);
     EXPECT_NEAR(target.Left(), sides.Left, 1e-6);
     EXPECT_NEAR(target.Top(), sides.Top, 1e-6);
     EXPECT_NEAR(target.Right(), sides.Right, 1e-6);
@@ -278,7 +278,7 @@ TEST_F(MetaFile, MeasuresInDrawingUnits) {
   EXPECT_NEAR(meta.TextWidth("0"), 117 * kEmPerCell * 1139 / 2048, 1e-9);
 }
 
-TEST_F(MetaFile, IsARecordingDevice) { EXPECT_EQ(CMetaFile::TypeofDC(), 5); }
+TEST_F(MetaFile, IsARecordingDevice) { EXPECT_EQ(DrawingRecorder::CanvasKind(), 5); }
 
 }  // namespace
 }  // namespace pitchcraft

@@ -1,5 +1,5 @@
 // The pen: absolute and relative entry, the last point, the bounds it reports.
-#include "drawing/draw_fx.h"
+#include "drawing/stroke_tool.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <limits>
 
 #include "core/run_time_error.h"
-#include "recorder.h"
+#include "open_recording.h"
 
 namespace pitchcraft {
 namespace {
@@ -22,9 +22,9 @@ struct Box {
   bool operator==(const Box&) const = default;
 };
 
-class DrawFX : public ::testing::Test {
+class Strokes : public ::testing::Test {
  protected:
-  DrawFX() {
+  Strokes() {
     pen.BoundsChanged = [this](double l, double t, double r, double b) { boxes.push_back({l, t, r, b}); };
   }
   const LineOp& Line() { return recorder.Last<LineOp>(); }
@@ -38,11 +38,11 @@ class DrawFX : public ::testing::Test {
   }
 
   Recorder recorder;
-  CDrawFX& pen = recorder.drawFX;
+  StrokeTool& pen = recorder.drawFX;
   std::vector<Box> boxes;
 };
 
-TEST_F(DrawFX, DrawsARelativeLineFromTheLastPoint) {
+TEST_F(Strokes, DrawsARelativeLineFromTheLastPoint) {
   pen.MoveToPoint(5, 5);
   pen.EntryMode = 1;
   pen.DrawLine(10, 20);
@@ -50,7 +50,7 @@ TEST_F(DrawFX, DrawsARelativeLineFromTheLastPoint) {
   ExpectLast(15, 25);
 }
 
-TEST_F(DrawFX, TakesTheStartOfFourValuesAsAbsoluteInRelativeMode) {
+TEST_F(Strokes, TakesTheStartOfFourValuesAsAbsoluteInRelativeMode) {
   pen.MoveToPoint(500, 500);
   pen.EntryMode = 1;
   pen.DrawLine(10, 20, Single(30), Single(40));
@@ -58,7 +58,7 @@ TEST_F(DrawFX, TakesTheStartOfFourValuesAsAbsoluteInRelativeMode) {
   ExpectLast(40, 60);
 }
 
-TEST_F(DrawFX, ReadsThreeValuesAsTwo) {
+TEST_F(Strokes, ReadsThreeValuesAsTwo) {
   pen.MoveToPoint(7, 8);
   pen.DrawLine(1, 2, Single(3), std::nullopt);
   ExpectLine({7, 8}, {1, 2});
@@ -66,20 +66,20 @@ TEST_F(DrawFX, ReadsThreeValuesAsTwo) {
   ExpectLine({1, 2}, {4, 5});
 }
 
-TEST_F(DrawFX, DrawsAbsoluteLines) {
+TEST_F(Strokes, DrawsAbsoluteLines) {
   pen.DrawLine(1, 2, Single(3), Single(4));
   ExpectLine({1, 2}, {3, 4});
   pen.DrawLine(9, 9);
   ExpectLine({3, 4}, {9, 9});
 }
 
-TEST_F(DrawFX, AMoveLeavesNothingToSeeButCounts) {
+TEST_F(Strokes, AMoveLeavesNothingToSeeButCounts) {
   pen.MoveToPoint(-30, 40);
   EXPECT_EQ(recorder.Count(), 0U);
   EXPECT_THAT(boxes, ElementsAre(Box{-30, 40, -30, 40}));
 }
 
-TEST_F(DrawFX, AMoveWithoutLengthWidensTheBounds) {
+TEST_F(Strokes, AMoveWithoutLengthWidensTheBounds) {
   recorder.meta.Attach(pen, recorder.textFX);
   pen.MoveToPoint(100, -50);
   pen.MoveToPoint(100, -50);
@@ -87,7 +87,7 @@ TEST_F(DrawFX, AMoveWithoutLengthWidensTheBounds) {
   EXPECT_EQ(recorder.meta.MinY(), -50);
 }
 
-TEST_F(DrawFX, MovesRelativelyInRelativeMode) {
+TEST_F(Strokes, MovesRelativelyInRelativeMode) {
   pen.MoveToPoint(10, 10);
   pen.EntryMode = 1;
   pen.MoveToPoint(5, -5);
@@ -95,12 +95,12 @@ TEST_F(DrawFX, MovesRelativelyInRelativeMode) {
   EXPECT_EQ(boxes.back(), (Box{15, 5, 15, 5}));
 }
 
-TEST_F(DrawFX, ReportsABoxAsItWasDrawn) {
+TEST_F(Strokes, ReportsABoxAsItWasDrawn) {
   pen.DrawLine(10, 20, Single(-10), Single(-20));
   EXPECT_THAT(boxes, ElementsAre(Box{10, 20, -10, -20}));
 }
 
-TEST_F(DrawFX, GathersNoRoundingErrorOverAThousandSteps) {
+TEST_F(Strokes, GathersNoRoundingErrorOverAThousandSteps) {
   pen.MoveToPoint(0, 0);
   pen.EntryMode = 1;
   for (int step = 0; step < 1000; ++step) pen.DrawLine(0.1, 0);
@@ -109,12 +109,12 @@ TEST_F(DrawFX, GathersNoRoundingErrorOverAThousandSteps) {
   EXPECT_EQ(Line().To, (DrawnPoint{100, 0}));
 }
 
-TEST_F(DrawFX, RoundsHalvesToTheEvenUnit) {
+TEST_F(Strokes, RoundsHalvesToTheEvenUnit) {
   pen.DrawLine(0.5, 1.5, Single(2.5), Single(-0.5));
   ExpectLine({0, 2}, {2, 0});
 }
 
-TEST_F(DrawFX, CarriesColourStyleAndWidth) {
+TEST_F(Strokes, CarriesColourStyleAndWidth) {
   pen.SetPenColor(255);
   pen.SetDrawStyle(2);
   pen.SetDrawWidth(3);
@@ -125,7 +125,7 @@ TEST_F(DrawFX, CarriesColourStyleAndWidth) {
   EXPECT_EQ(pen.DrawWidth(), 3);
 }
 
-TEST_F(DrawFX, TurnsAPolarLineFromXTowardsY) {
+TEST_F(Strokes, TurnsAPolarLineFromXTowardsY) {
   pen.MoveToPoint(10, 10);
   pen.EntryMode = 1;  // has no say here
   pen.DrawPolarLine(90, 100);
@@ -136,7 +136,7 @@ TEST_F(DrawFX, TurnsAPolarLineFromXTowardsY) {
   ExpectLine({87, 50}, {97, 50});
 }
 
-TEST_F(DrawFX, ProjectsAModelOnThreeAxes) {
+TEST_F(Strokes, ProjectsAModelOnThreeAxes) {
   pen.DrawLine3D(0, 0, 0, Single(100), Single(0), Single(0));
   ExpectLine({0, 0}, {87, 50});
   pen.DrawLine3D(0, 0, 0, Single(0), Single(100), Single(0));
@@ -145,7 +145,7 @@ TEST_F(DrawFX, ProjectsAModelOnThreeAxes) {
   ExpectLine({0, 0}, {87, -50});
 }
 
-TEST_F(DrawFX, GoesOnFromTheLastModelPoint) {
+TEST_F(Strokes, GoesOnFromTheLastModelPoint) {
   pen.DrawLine3D(0, 0, 0, Single(0), Single(100), Single(0));
   pen.DrawLine3D(0, 200, 0);
   ExpectLine({0, 100}, {0, 200});
@@ -156,7 +156,7 @@ TEST_F(DrawFX, GoesOnFromTheLastModelPoint) {
   EXPECT_EQ(pen.LastY3D, 250);
 }
 
-TEST_F(DrawFX, FillsAPolygonThatEndsInTheOrigin) {
+TEST_F(Strokes, FillsAPolygonThatEndsInTheOrigin) {
   const std::array<Single, 6> points = {10, 20, 30, 20, 30, 40};
   pen.SetFillColor(77);
   pen.SetFillStyle(2);
@@ -168,7 +168,7 @@ TEST_F(DrawFX, FillsAPolygonThatEndsInTheOrigin) {
   EXPECT_TRUE(boxes.empty()) << "a fill does not count towards the extents";
 }
 
-TEST_F(DrawFX, DrawsRoundFiguresAboutTheirCentre) {
+TEST_F(Strokes, DrawsRoundFiguresAboutTheirCentre) {
   pen.DrawCircle(10, 20, 5);
   EXPECT_EQ(recorder.Last<EllipseOp>().From, (DrawnPoint{5, 15}));
   EXPECT_EQ(recorder.Last<EllipseOp>().To, (DrawnPoint{15, 25}));
@@ -180,7 +180,7 @@ TEST_F(DrawFX, DrawsRoundFiguresAboutTheirCentre) {
   ExpectLast(20, 30);
 }
 
-TEST_F(DrawFX, DrawsRectangles) {
+TEST_F(Strokes, DrawsRectangles) {
   pen.MoveToPoint(100, 100);
   pen.DrawRectangle(1, 2, 3, 4);
   EXPECT_EQ(recorder.Last<RectangleOp>().To, (DrawnPoint{3, 4}));
@@ -193,7 +193,7 @@ TEST_F(DrawFX, DrawsRectangles) {
   EXPECT_EQ(boxes.back(), (Box{13, 14, 33, 44}));
 }
 
-TEST_F(DrawFX, DrawsAPointAsACross) {
+TEST_F(Strokes, DrawsAPointAsACross) {
   pen.DrawPoint(10, 20, 4);
   ASSERT_EQ(recorder.Count(), 2U);
   ExpectLine({10, 18}, {10, 22});
@@ -201,13 +201,13 @@ TEST_F(DrawFX, DrawsAPointAsACross) {
   EXPECT_THAT(boxes, ElementsAre(Box{8, 20, 12, 20}, Box{10, 18, 10, 22}, Box{8, 18, 12, 22}));
 }
 
-TEST_F(DrawFX, DrawsTheSameCrossInRelativeMode) {
+TEST_F(Strokes, DrawsTheSameCrossInRelativeMode) {
   pen.EntryMode = 1;
   pen.DrawPoint(10, 20, 4);
   ExpectLine({10, 18}, {10, 22});
 }
 
-TEST_F(DrawFX, TurnsAnArcTowardsMinusY) {
+TEST_F(Strokes, TurnsAnArcTowardsMinusY) {
   pen.DrawArc(0, 0, 10, 0, std::acos(-1.0) / 2, 1);
   EXPECT_EQ(recorder.Last<ArcOp>().Start, (DrawnPoint{10, 0}));
   EXPECT_EQ(recorder.Last<ArcOp>().End, (DrawnPoint{0, -10}));
@@ -217,7 +217,7 @@ TEST_F(DrawFX, TurnsAnArcTowardsMinusY) {
   EXPECT_EQ(boxes.back(), (Box{-10, -5, 10, 5}));
 }
 
-TEST_F(DrawFX, RefusesWhatIsNo32BitNumber) {
+TEST_F(Strokes, RefusesWhatIsNo32BitNumber) {
   const double infinite = std::numeric_limits<double>::infinity();
   EXPECT_THROW(pen.MoveToPoint(infinite, 0), RunTimeError);
   EXPECT_THROW(pen.DrawLine(3e9, 0), RunTimeError);
@@ -225,7 +225,7 @@ TEST_F(DrawFX, RefusesWhatIsNo32BitNumber) {
   EXPECT_EQ(recorder.Count(), 0U);
 }
 
-TEST_F(DrawFX, ReadsTheCanvasPosition) {
+TEST_F(Strokes, ReadsTheCanvasPosition) {
   pen.DrawLine(10, 20);
   EXPECT_EQ(pen.CurrentX(), 10);
   EXPECT_EQ(pen.CurrentY(), 20);
@@ -237,14 +237,14 @@ TEST_F(DrawFX, ReadsTheCanvasPosition) {
   EXPECT_EQ(pen.CurrentY(), 5);
 }
 
-TEST_F(DrawFX, ClearsItsCanvas) {
+TEST_F(Strokes, ClearsItsCanvas) {
   pen.DrawLine(10, 20);
   pen.Clear();
   EXPECT_EQ(recorder.Count(), 0U);
 }
 
-TEST(DrawFXWithoutCanvas, IsSilent) {
-  CDrawFX pen;
+TEST(StrokesWithoutCanvas, IsSilent) {
+  StrokeTool pen;
   int reports = 0;
   pen.BoundsChanged = [&](double, double, double, double) { ++reports; };
   const std::array<Single, 4> points = {1, 2, 3, 4};
@@ -259,14 +259,14 @@ TEST(DrawFXWithoutCanvas, IsSilent) {
   pen.Clear();
   EXPECT_EQ(pen.CurrentX(), 0);
   EXPECT_EQ(pen.LastX, 0);
-  EXPECT_EQ(pen.TypeofDC(), 0);
-  EXPECT_EQ(CDrawFX::DrawPolygon(), 0);
+  EXPECT_EQ(pen.CanvasKind(), 0);
+  EXPECT_EQ(StrokeTool::DrawPolygon(), 0);
   EXPECT_EQ(reports, 0);
 }
 
-TEST(DrawFXWithoutCanvas, RefusesToTakeNone) { EXPECT_THROW(CDrawFX().SetCanvas(nullptr), RunTimeError); }
+TEST(StrokesWithoutCanvas, RefusesToTakeNone) { EXPECT_THROW(StrokeTool().SetCanvas(nullptr), RunTimeError); }
 
-TEST(DrawFXWithoutCanvas, IsAnErrorOnceThereWasOne) {
+TEST(StrokesWithoutCanvas, IsAnErrorOnceThereWasOne) {
   Recorder recorder;
   recorder.drawFX.Destroy();
   EXPECT_THROW(recorder.drawFX.DrawLine(1, 1), RunTimeError);

@@ -1,4 +1,4 @@
-#include "sheet/lw_combo.h"
+#include "sheet/pair_control.h"
 
 #include <cmath>
 #include <utility>
@@ -7,39 +7,39 @@
 
 namespace pitchcraft {
 
-void LWCombo::SetValues(double left, double right) {
+void PairControl::SetValues(double left, double right) {
   Show(left_, left);
   Show(right_, right);
   FindListIndex();
 }
 
-void LWCombo::SetLeftText(std::string_view text) {
+void PairControl::SetLeftText(std::string_view text) {
   Show(left_, Format.ToValue(text));
   FindListIndex();
 }
 
-void LWCombo::SetRightText(std::string_view text) {
+void PairControl::SetRightText(std::string_view text) {
   Show(right_, Format.ToValue(text));
   FindListIndex();
 }
 
-void LWCombo::SetEntry(std::string_view left, std::string_view right) {
+void PairControl::SetEntry(std::string_view left, std::string_view right) {
   left_ = {Format.ToValue(left), std::string(left)};
   right_ = {Format.ToValue(right), std::string(right)};
   FindListIndex();
 }
 
-void LWCombo::Redisplay() { SetValues(left_.Value, right_.Value); }
+void PairControl::Redisplay() { SetValues(left_.Value, right_.Value); }
 
-void LWCombo::SetListIndex(int index) {
+void PairControl::SetListIndex(int index) {
   if (index < 0 || index >= static_cast<int>(list_.size())) return;
-  const LWRow& row = list_[static_cast<std::size_t>(index)];
+  const PairRow& row = list_[static_cast<std::size_t>(index)];
   Show(left_, row.Left);
   Show(right_, row.Right);
   listIndex_ = index;
 }
 
-void LWCombo::CopyPositionFrom(const LWCombo& other) {
+void PairControl::CopyPositionFrom(const PairControl& other) {
   const int index = other.listIndex_;
   const bool hasRow = index >= 0 && index < static_cast<int>(list_.size());
   if (hasRow) {
@@ -49,12 +49,12 @@ void LWCombo::CopyPositionFrom(const LWCombo& other) {
   }
 }
 
-void LWCombo::Clear() {
+void PairControl::Clear() {
   list_.clear();
   listIndex_ = -1;
 }
 
-void LWCombo::AddEntry(std::string_view text) {
+void PairControl::AddEntry(std::string_view text) {
   const std::size_t first = text.find('|');
   const std::size_t second = first == std::string_view::npos ? first : text.find('|', first + 1);
   if (second == std::string_view::npos) return;
@@ -63,24 +63,24 @@ void LWCombo::AddEntry(std::string_view text) {
                    Format.ToValue(text.substr(second + 1))});
 }
 
-void LWCombo::SetList(std::vector<LWRow> rows) {
+void PairControl::SetList(std::vector<PairRow> rows) {
   list_ = std::move(rows);
   FindListIndex();
 }
 
-int LWCombo::RowOf(std::string_view caption) const {
+int PairControl::RowOf(std::string_view caption) const {
   for (std::size_t i = 0; i < list_.size(); ++i) {
     if (list_[i].Caption == caption) return static_cast<int>(i);
   }
   return -1;
 }
 
-void LWCombo::Show(Side& side, double value) const {
+void PairControl::Show(Side& side, double value) const {
   side.Value = std::isfinite(value) ? value : 0;
   side.Text = Format.ToText(value);
 }
 
-void LWCombo::FindListIndex() {
+void PairControl::FindListIndex() {
   listIndex_ = -1;
   for (std::size_t i = 0; i < list_.size() && listIndex_ < 0; ++i) {
     // Calculated values come back as Singles: a row is the same size when it is the same Single.

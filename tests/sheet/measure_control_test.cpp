@@ -1,4 +1,4 @@
-#include "sheet/ft_in_text.h"
+#include "sheet/measure_control.h"
 
 #include <gtest/gtest.h>
 
@@ -8,22 +8,22 @@
 namespace pitchcraft {
 namespace {
 
-TEST(FtInText, ShowsAValueInItsOwnForm) {
-  FtInText field;
+TEST(MeasureControl, ShowsAValueInItsOwnForm) {
+  MeasureControl field;
   field.SetValue(150.5);
   EXPECT_EQ(field.Text(), "12' 6 1/2\"");
   EXPECT_EQ(field.Value(), 150.5);
 }
 
-TEST(FtInText, RoundsWhatItShowsAndNotWhatItHolds) {
-  FtInText field;
+TEST(MeasureControl, RoundsWhatItShowsAndNotWhatItHolds) {
+  MeasureControl field;
   field.SetText("19.2");
   EXPECT_EQ(field.Text(), "1' 7 3/16\"");
   EXPECT_EQ(field.Value(), 19.2);
 }
 
-TEST(FtInText, ReadsANumberAsTextInBaseUnits) {
-  FtInText field;
+TEST(MeasureControl, ReadsANumberAsTextInBaseUnits) {
+  MeasureControl field;
   field.Format.Units = kMillimetres;
   field.Format.BaseUnits = kBaseMillimetres;
   field.Format.DecimalPlaces = 0;
@@ -32,8 +32,8 @@ TEST(FtInText, ReadsANumberAsTextInBaseUnits) {
   EXPECT_EQ(field.Value(), 3600);
 }
 
-TEST(FtInText, KeepsAnEntryAsTypedUntilItIsLeft) {
-  FtInText field;
+TEST(MeasureControl, KeepsAnEntryAsTypedUntilItIsLeft) {
+  MeasureControl field;
   field.SetEntry("12'6");
   EXPECT_EQ(field.Text(), "12'6");
   EXPECT_EQ(field.Value(), 150);
@@ -41,25 +41,25 @@ TEST(FtInText, KeepsAnEntryAsTypedUntilItIsLeft) {
   EXPECT_EQ(field.Text(), "12' 6\"");
 }
 
-TEST(FtInText, AnEmptyTextReadsZeroAndStaysEmpty) {
-  FtInText field;
+TEST(MeasureControl, AnEmptyTextReadsZeroAndStaysEmpty) {
+  MeasureControl field;
   field.SetValue(5);
   field.SetText("");
   EXPECT_EQ(field.Text(), "");
   EXPECT_EQ(field.Value(), 0);
 }
 
-TEST(FtInText, WhatCannotBeReadIsZero) {
+TEST(MeasureControl, WhatCannotBeReadIsZero) {
   for (const char* text : {"letters", "nan", "inf", "1/0", "--", "\xF0\x9F\x8F\xA0"}) {
-    FtInText field;
+    MeasureControl field;
     field.SetText(text);
     EXPECT_EQ(field.Value(), 0) << text;
     EXPECT_EQ(field.Text(), "0\"") << text;
   }
 }
 
-TEST(FtInText, ShowsWhatIsNoNumberAndReadsItBackAsZero) {
-  FtInText field;
+TEST(MeasureControl, ShowsWhatIsNoNumberAndReadsItBackAsZero) {
+  MeasureControl field;
   field.SetValue(std::numeric_limits<double>::infinity());
   EXPECT_EQ(field.Text(), "inf");
   EXPECT_EQ(field.Value(), 0);

@@ -11,21 +11,21 @@
 
 namespace pitchcraft {
 
-class CMetaFile;
+class DrawingRecorder;
 
 /// Draws on its canvas and reports the box of each figure. The position is kept unrounded, so that a chain of
 /// relative lines gathers no rounding error; what is recorded are whole drawing units, halves to the even
 /// one. Raises Overflow for a coordinate that is no 32-bit number. Without a canvas nothing happens.
-class CDrawFX {
+class StrokeTool {
  public:
   using Bounds = std::function<void(double left, double top, double right, double bottom)>;
   /// Left may exceed Right, and Top may exceed Bottom.
   Bounds BoundsChanged;
 
-  void SetCanvas(CMetaFile* canvas);
-  CMetaFile* Canvas() const { return canvas_; }
+  void SetCanvas(DrawingRecorder* canvas);
+  DrawingRecorder* Canvas() const { return canvas_; }
   void Destroy() { canvas_ = nullptr; }
-  int TypeofDC() const;
+  int CanvasKind() const;
   void Clear();
 
   /// 0 reads coordinates as absolute, 1 as relative to the last point.
@@ -78,12 +78,12 @@ class CDrawFX {
   static int DrawPolygon() { return 0; }
 
  private:
-  CMetaFile& Target() const;
+  DrawingRecorder& Target() const;
   void Stroke(Single fromX, Single fromY, Single toX, Single toY);
   void Report(double left, double top, double right, double bottom) const;
   void DrawBox(Single x1, Single y1, Single x2, Single y2, Single corner);
 
-  CMetaFile* canvas_ = nullptr;
+  DrawingRecorder* canvas_ = nullptr;
   bool hasCanvas_ = false;  // once true it stays so: a lost canvas is an error, not a silence
   DrawnPen pen_;
   DrawnBrush brush_;
