@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "cli/script.h"
+#include "session/script.h"
 
 namespace {
 

@@ -20,18 +20,18 @@ constexpr int kRoofs = 64;
 
 struct Procedure {
   const char* Name;
-  RafterType Type;
+  Member Type;
   void (Rafter::*Record)();
   void (*Plain)(PlainRafter&);
 };
 
 const Procedure kProcedures[] = {
-    {"Calculate, common", RafterType::kCommon, &Rafter::Calculate, PlainCalculate},
-    {"Calculate, hip", RafterType::kHip, &Rafter::Calculate, PlainCalculate},
-    {"CalculateBastardHip", RafterType::kBastardHip, &Rafter::CalculateBastardHip, PlainBastardHip},
-    {"CalculateGambrel", RafterType::kGambrelBottom, &Rafter::CalculateGambrel, PlainGambrel},
-    {"CalculateBay", RafterType::kBayCommon, &Rafter::CalculateBay, PlainBay},
-    {"CalculateOctagon", RafterType::kOctagonHip, &Rafter::CalculateOctagon, PlainOctagon},
+    {"Calculate, common", Member::kCommon, &Rafter::Calculate, PlainCalculate},
+    {"Calculate, hip", Member::kHip, &Rafter::Calculate, PlainCalculate},
+    {"CalculateBastardHip", Member::kBastardHip, &Rafter::CalculateBastardHip, PlainBastardHip},
+    {"CalculateGambrel", Member::kGambrelBottom, &Rafter::CalculateGambrel, PlainGambrel},
+    {"CalculateBay", Member::kBayCommon, &Rafter::CalculateBay, PlainBay},
+    {"CalculateOctagon", Member::kOctagonHip, &Rafter::CalculateOctagon, PlainOctagon},
 };
 
 constexpr double kBayDegrees = 45;
@@ -45,7 +45,7 @@ void SetUp(Rafter& r, const Procedure& procedure, int roof) {
   r.RafterType = procedure.Type;
   r.Slope = SlopeOf(roof);
   r.HipEndSlope = SlopeOf(roof) + 1;
-  if (procedure.Type == RafterType::kGambrelBottom) r.HipValSlope = SlopeOf(roof) / 4;
+  if (procedure.Type == Member::kGambrelBottom) r.HipValSlope = SlopeOf(roof) / 4;
   r.Span = SpanOf(roof);
   r.Overhang = 10.5;
   r.Thickness = 1.5;
@@ -71,7 +71,7 @@ void SetUp(PlainRafter& r, const Procedure& procedure, int roof) {
   r.type = static_cast<int>(procedure.Type);
   r.slope = static_cast<float>(SlopeOf(roof));
   r.endSlope = static_cast<float>(SlopeOf(roof) + 1);
-  if (procedure.Type == RafterType::kGambrelBottom) r.hipSlope = static_cast<float>(SlopeOf(roof) / 4);
+  if (procedure.Type == Member::kGambrelBottom) r.hipSlope = static_cast<float>(SlopeOf(roof) / 4);
   r.span = static_cast<float>(SpanOf(roof));
   r.overhang = 10.5F;
   r.thickness = r.ridge = r.hipThickness = 1.5F;

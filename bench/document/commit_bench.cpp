@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
@@ -86,7 +86,7 @@ void CommitsOfEachRoof() {
   for (const RoofTypeRow& row : RoofTypes()) {
     Bench bench;
     bench.actions.Pick("cboType", row.Item);
-    const bool bay = row.Code == roof::kBay;
+    const bool bay = row.Code == Roof::kBay;
     if (bay) {
       for (const auto& [field, text] :
            {std::pair("FtBack", "300"), {"FtFace", "150"}, {"FtBayAngle", "45"}}) {

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 #include "document/null_surroundings.h"
 #include "shell/main_window.h"
 #include "shell/program.h"

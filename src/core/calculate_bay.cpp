@@ -6,12 +6,12 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 }  // namespace
 
-void Rafter::CalculateBay() {
-  if (Projection * Face * Back * BayAngle == 0) return;
+bool Rafter::CalculateBay() {
+  if (Projection * Face * Back * BayAngle == 0) return false;
   AdjFasciaHeight = FasciaHeight;
   CalculateBaySlopes();
   CalculateBayAllowancesAndDrops();
@@ -24,7 +24,7 @@ void Rafter::CalculateBay() {
   CalculateBayRisesAndLengths();
   CalculateBayJackDifferences();
   WriteBayTexts();
-  RaiseCalculated();
+  return true;
 }
 
 void Rafter::CalculateBaySlopes() {

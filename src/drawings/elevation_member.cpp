@@ -9,20 +9,15 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kGable = 0;
-constexpr int kHipRoof = 1;
-constexpr int kShed = 3;
-constexpr int kDualSlope = 4;
-
-ElevationFamily FamilyOf(RafterType type) {
-  if (type == RafterType::kHip || type == RafterType::kBastardHip) return ElevationFamily::kHip;
+ElevationFamily FamilyOf(Member type) {
+  if (type == Member::kHip || type == Member::kBastardHip) return ElevationFamily::kHip;
   return IsValley(type) ? ElevationFamily::kValley : ElevationFamily::kCommon;
 }
 
 /// The common of a hip roof hangs its fascia by its own height: the record, calculated for the hip, holds the
 /// height that is lowered by the hip's drop.
-double FasciaOfCommon(const Rafter& rafter, int roofType) {
-  if (roofType != kHipRoof) return rafter.AdjFasciaHeight;
+double FasciaOfCommon(const Rafter& rafter, Roof roof) {
+  if (roof != Roof::kHip) return rafter.AdjFasciaHeight;
   const double height = std::min<double>(rafter.FasciaHeight, rafter.PlumbCut);
   return rafter.Overhang == 0 ? std::min<double>(height, rafter.Heel) : height;
 }
@@ -39,8 +34,8 @@ void TakeCommon(ElevationMember& member, const Rafter& rafter, const DrawingCont
   member.UnitRun = context.UnitRun;
   // Only a gable, a shed and a dual slope stand on a kneewall; one that stands beyond the ridge carries
   // nothing.
-  const bool carries =
-      context.RoofType == kGable || context.RoofType == kShed || context.RoofType == kDualSlope;
+  const bool carries = context.RoofType == Roof::kGable || context.RoofType == Roof::kShed ||
+                       context.RoofType == Roof::kDualSlope;
   if (carries && rafter.Kneewall > 0 && rafter.Kneewall < rafter.AdjSpan && rafter.KneewallRise > 0) {
     member.Kneewall = rafter.Kneewall;
     member.KneewallRise = rafter.KneewallRise;
@@ -134,9 +129,9 @@ ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext
   member.CommonUnitRun = context.UnitRun;
   member.Slope = rafter.Slope;
   member.CommonSlope = rafter.Slope;
-  if (rafter.RafterType == RafterType::kHipEndCommon) {
+  if (rafter.RafterType == Member::kHipEndCommon) {
     TakeHipEndCommon(member, rafter, context);
-  } else if (rafter.RafterType == RafterType::kBastardHip) {
+  } else if (rafter.RafterType == Member::kBastardHip) {
     TakeBastardHip(member, rafter, context);
   } else if (member.IsCommon()) {
     TakeCommon(member, rafter, context);
@@ -144,7 +139,7 @@ ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext
     TakeHipOrValley(member, rafter, context);
   }
   KeepWithinLumber(member);
-  member.ShowsWholeRise = member.IsCommon() || rafter.RafterType == RafterType::kBastardHip;
+  member.ShowsWholeRise = member.IsCommon() || rafter.RafterType == Member::kBastardHip;
   member.SlopeText = TitleOf(member, rafter, context.RiseOverRun);
   return member;
 }

@@ -15,7 +15,7 @@ constexpr double kStubSpacings = 1.5;
 constexpr double kAboveLastCommon = 0.5;
 
 /// The end of a plain hip is its side turned round: what the record holds of it may be older than the side.
-bool IsPlain(const Rafter& rafter) { return rafter.RafterType != RafterType::kBastardHip; }
+bool IsPlain(const Rafter& rafter) { return rafter.RafterType != Member::kBastardHip; }
 
 /// One face as its jacks see it: they stand along its eave and run square to it.
 struct Face {

@@ -12,13 +12,6 @@
 
 namespace pitchcraft {
 
-/// What the jacks are set out from.
-enum class JackLayout {
-  kCenter,        ///< on center, from the commons at the peak outward
-  kCorners,       ///< on center, the first jack's middle at the wall corner
-  kCornersFlush,  ///< the first jack's side flush with the wall corner
-};
-
 enum class HipRoofFace { kEnd, kMain };
 
 struct HipLayoutOptions {

@@ -97,12 +97,12 @@ std::string FourDecimals(double degrees) {
   return text;
 }
 
-std::string Row(const std::string& label, const MeasureControl& field) {
-  return label + " = " + field.Text();
+std::string LengthRow(const PrintContext& context, const std::string& label, double length) {
+  return label + " = " + context.LengthText(length);
 }
 
-std::string Row(const std::string& label, const PairControl& lumber) {
-  return label + " = " + lumber.LeftText() + " x " + lumber.RightText();
+std::string LumberRow(const PrintContext& context, const std::string& label, double thickness, double depth) {
+  return label + " = " + context.LengthText(thickness) + " x " + context.LengthText(depth);
 }
 
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees) {

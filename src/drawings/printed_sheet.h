@@ -11,15 +11,15 @@
 #include "drawing/drafting_board.h"
 #include "drawings/drawing_context.h"
 #include "output/printer.h"
-#include "sheet/sheet.h"
 
 namespace pitchcraft {
 
 /// What a sheet states beside its drawing.
 struct PrintContext {
   DrawingContext Drawing;  ///< with the colours of paper
-  const Sheet& Fields;
-  std::size_t Row = 0;  ///< of the fields: 0 front roof, 1 rear roof
+  bool Rear = false;       ///< of a dual slope: the rear roof's rafter
+  bool ShowsRidge = true;  ///< the roof has a ridge board
+  std::string Spacing;     ///< of the rafters, as it was entered
   std::string ProjectName;
   std::string Date;                               ///< today, in the system's short form
   std::function<std::string(double)> LengthText;  ///< a computed length in the document's unit
@@ -42,10 +42,10 @@ void PrintSheet(Printer& page, const PrintContext& context, const DrawingRecorde
                 const std::string& title, const SheetColumns& columns);
 
 // --- Rows
-/// A field's text as the design sheet shows it.
-std::string Row(const std::string& label, const MeasureControl& field);
-/// A lumber's two sizes.
-std::string Row(const std::string& label, const PairControl& lumber);
+/// A length of the record: "Run = 12' 0\"".
+std::string LengthRow(const PrintContext& context, const std::string& label, double length);
+/// A lumber's two sizes, thickness first.
+std::string LumberRow(const PrintContext& context, const std::string& label, double thickness, double depth);
 /// A slope's text and its angle in degrees, with one to four decimals: "Slope = 6/12 (26.5651º)".
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees);
 /// At least one decimal and at most four, without a zero in front: "45.0", ".5", "26.5651".

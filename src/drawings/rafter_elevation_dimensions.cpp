@@ -125,7 +125,7 @@ PointRecord RafterElevationDrafter::WholeRiseText() {
 }
 
 bool RafterElevationDrafter::WholeRiseIsShown() const {
-  return member_.ShowsWholeRise && context_.CurrentTab > 0 && Y(0) > Y(2);
+  return member_.ShowsWholeRise && !context_.OnDesignPage && Y(0) > Y(2);
 }
 
 /// On the later pages the height of the ridge above the tail, in line with the height of the tail cut.

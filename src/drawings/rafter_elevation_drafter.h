@@ -70,7 +70,7 @@ class RafterElevationDrafter {
 
   DraftingBoard& board_;
   const DrawingContext& context_;
-  RafterType type_;
+  Member type_;
   ElevationMember member_;
   ElevationGeometry geometry_;
   Single ratio_;

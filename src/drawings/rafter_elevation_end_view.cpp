@@ -24,13 +24,13 @@ struct BeveledEnds {
   EndCut Tail;
 };
 
-std::optional<BeveledEnds> EndsOf(RafterType type) {
+std::optional<BeveledEnds> EndsOf(Member type) {
   switch (type) {
-    case RafterType::kHip:
-    case RafterType::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
-    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
-    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
-    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
+    case Member::kHip:
+    case Member::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
+    case Member::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
+    case Member::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
+    case Member::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
     default: return std::nullopt;
   }
 }
@@ -65,17 +65,17 @@ EndShape ShapeOf(EndCut cut, const CheekBevels& bevels) {
 
 }  // namespace
 
-EndLabels EndLabelsOf(RafterType type, const ElevationMember& member) {
+EndLabels EndLabelsOf(Member type, const ElevationMember& member) {
   const std::optional<BeveledEnds> ends = EndsOf(type);
   if (!ends) return {};
-  if (type == RafterType::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
+  if (type == Member::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
   return {RowsOf(ends->Tail), RowsOf(ends->Ridge)};
 }
 
 /// Only where the drawing is narrower than its canvas, beside which the labels have room.
 void RafterElevationDrafter::DrawEndView() {
   const std::optional<BeveledEnds> ends = EndsOf(type_);
-  if (!ends || context_.CurrentTab <= 0 || !(ratio_ < 1)) return;
+  if (!ends || context_.OnDesignPage || !(ratio_ < 1)) return;
   const double half = board_.DimTextHeight / 2;
   const double top = board_.Recorder.MinY() - 2 * board_.DimTextHeight;
   const EndShape ridge = ShapeOf(ends->Ridge, member_.RidgeBevels);

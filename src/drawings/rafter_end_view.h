@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/rafter_type.h"
+#include "core/trade.h"
 #include "drawings/elevation_member.h"
 
 namespace pitchcraft {
@@ -16,6 +16,6 @@ struct EndLabels {
   std::vector<std::string> Ridge;
 };
 
-EndLabels EndLabelsOf(RafterType type, const ElevationMember& member);
+EndLabels EndLabelsOf(Member type, const ElevationMember& member);
 
 }  // namespace pitchcraft

@@ -95,11 +95,11 @@ class Photographer {
   }
 
   void Pages(const QString& roof) {
-    const IndexTab& tab = window_.Document().sheet.Tabs[0];
+    const IndexTab& tab = window_.Document().design.sheet.Tabs[0];
     for (int page = 0; page < tab.PageCount(); ++page) {
       Do(actions_.Page("VSTab(0)", page));
       // A page whose drawing is still to come shows only that it is.
-      if (!window_.Document().DrawingExists) continue;
+      if (!window_.Document().HasFigure()) continue;
       gallery_.Take(window_, roof + ": " + Text(tab.Pages()[static_cast<std::size_t>(page)]));
     }
     Do(actions_.Page("VSTab(0)", 0));

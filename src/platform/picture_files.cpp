@@ -102,8 +102,11 @@ Outcome Save(const QByteArray& bytes, const std::filesystem::path& file) {
 }  // namespace
 
 Picture ShownPicture(const Document& document) {
-  const PictureBox& box = document.CurrentTab == 0 ? document.Picture1 : document.Picture3;
-  return {document.board.Recorder, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
+  const Area area = document.FigureArea();
+  return {document.Board().Recorder,
+          {static_cast<double>(area.Width), static_cast<double>(area.Height), false},
+          static_cast<DrawColor>(document.preferences.BackColor),
+          document.window.Title};
 }
 
 QByteArray PictureBytes(const Picture& picture, PictureFormat format) {

@@ -7,7 +7,7 @@ namespace pitchcraft {
 MenuStrip::MenuStrip(Session& session, QWidget* window) : QMenuBar(window) {
   setObjectName("MenuBar");
   setAccessibleName(tr("Menus"));
-  const Menus& menus = session.Document().menus;
+  const Menus& menus = session.Document().design.menus;
   for (MenuItem* item : menus.Items()) {
     if (item->Level != 0 || menus.IsPopup(*item)) continue;
     if (menus.ItemsUnder(*item).empty()) {

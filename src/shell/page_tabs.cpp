@@ -24,7 +24,7 @@ PageTabs::PageTabs(Session& session, int index, QWidget* host)
 
 void PageTabs::Sync() {
   const QSignalBlocker quiet(this);
-  const IndexTab& tab = session_.Document().sheet.Tabs[static_cast<std::size_t>(index_)];
+  const IndexTab& tab = session_.Document().design.sheet.Tabs[static_cast<std::size_t>(index_)];
   if (caption_ != tab.Caption()) {
     caption_ = tab.Caption();
     while (count() > tab.PageCount()) removeTab(count() - 1);

@@ -32,7 +32,7 @@ class Session : public QObject {
 
   /// The pointer or the focus came to something; an empty name when it left.
   void Hint(std::string_view name) {
-    document_.Hint(name);
+    ShowHint(document_, name);
     emit StatusChanged();
   }
 

@@ -20,7 +20,7 @@ SheetPanel::SheetPanel(Session& session, QWidget* window)
     : QWidget(window), session_(session), roofTabs_(new PageTabs(session, 1, this)) {
   setObjectName("Sheet");
   setAccessibleName(tr("Design sheet"));
-  for (const AnyControl& any : session.Document().sheet.Controls()) {
+  for (const AnyControl& any : session.Document().design.sheet.Controls()) {
     const Host host = ControlOf(any).Host;
     if (host != Host::kSheet && host != Host::kFrontPage && host != Host::kRearPage) continue;
     auto view = MakeControlView(session, any, this);
@@ -31,7 +31,7 @@ SheetPanel::SheetPanel(Session& session, QWidget* window)
 }
 
 bool SheetPanel::IsShown(const Control& control) const {
-  const IndexTab& roofs = session_.Document().sheet.Tabs[1];
+  const IndexTab& roofs = session_.Document().design.sheet.Tabs[1];
   const int roof = roofs.OnePageOnly ? 0 : roofs.Page;
   if (control.Host == Host::kFrontPage && roof != 0) return false;
   if (control.Host == Host::kRearPage && roof != 1) return false;

@@ -15,7 +15,7 @@ constexpr int kFieldGap = 16;
 
 std::vector<std::unique_ptr<ControlView>> ViewsOn(Host host, Session& session, QWidget* strip) {
   std::vector<std::unique_ptr<ControlView>> views;
-  for (const AnyControl& any : session.Document().sheet.Controls()) {
+  for (const AnyControl& any : session.Document().design.sheet.Controls()) {
     if (ControlOf(any).Host != host) continue;
     if (auto view = MakeControlView(session, any, strip)) views.push_back(std::move(view));
   }
@@ -34,7 +34,7 @@ BayStrip::BayStrip(Session& session, QWidget* window)
     const bool isButton = view->Of().Name == "Command1";
     captions_.push_back(isButton ? nullptr : new QLabel(this));
     if (isButton) continue;
-    const std::string name = session.Document().sheet.AccessibleNameOf(view->Of());
+    const std::string name = session.Document().design.sheet.AccessibleNameOf(view->Of());
     captions_.back()->setText(QString::fromStdString(name) + ":");
   }
 }

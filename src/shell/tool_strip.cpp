@@ -28,7 +28,7 @@ QKeySequence KeysOf(const ToolButton& row) {
 ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), session_(session) {
   setObjectName("tbToolBar");
   setAccessibleName(tr("Tool bar"));
-  for (const ToolButton& row : session.Document().toolBar.Buttons()) {
+  for (const ToolButton& row : session.Document().design.toolBar.Buttons()) {
     auto* button = new QToolButton(this);
     const QString key = QString::fromUtf8(row.Key.data(), qsizetype(row.Key.size()));
     const QString tip = QString::fromUtf8(row.ToolTip.data(), qsizetype(row.ToolTip.size()));
@@ -63,7 +63,7 @@ void ToolStrip::PressByKeys(std::string_view key) {
 }
 
 void ToolStrip::Sync() {
-  const auto rows = session_.Document().toolBar.Buttons();
+  const auto rows = session_.Document().design.toolBar.Buttons();
   bool moved = false;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     QToolButton& button = *buttons_[i];
@@ -78,7 +78,7 @@ void ToolStrip::Sync() {
 }
 
 void ToolStrip::Place() {
-  const auto rows = session_.Document().toolBar.Buttons();
+  const auto rows = session_.Document().design.toolBar.Buttons();
   const int side = height() - 2;
   int left = kMargin;
   gaps_.clear();

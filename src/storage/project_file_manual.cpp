@@ -1,7 +1,8 @@
 // docs/project-file.md, made from the tables of keys and losses.
 #include <vector>
 
-#include "sheet/roof_types.h"
+#include "core/number_text.h"
+#include "roofs/roof_types.h"
 #include "storage/project_keys.h"
 
 namespace pitchcraft {
@@ -28,9 +29,9 @@ constexpr const char* kHead =
 std::string RoofNames(const RoofSet& set) {
   if (set == RoofSet::All()) return "all";
   std::string names;
-  for (int code = 0; code <= roof::kGambrel; ++code) {
-    if (!set.Has(code)) continue;
-    names += (names.empty() ? "" : ", ") + std::to_string(code);
+  for (int code = 0; code <= static_cast<int>(Roof::kGambrel); ++code) {
+    if (!set.Has(static_cast<Roof>(code))) continue;
+    names += (names.empty() ? "" : ", ") + PlainText(code);
   }
   return names.empty() ? "never" : names;
 }
@@ -66,11 +67,12 @@ std::string Line(const std::vector<std::string>& cells) {
 
 std::string RoofTable() {
   std::string text = "## Roofs\n\n" + Line({"`RafterType`", "Roof"}) + "|---|---|\n";
-  for (int code = 0; code <= roof::kGambrel; ++code) {
-    const RoofTypeRow* row = RoofTypeByCode(code);
-    if (row != nullptr) text += Line({std::to_string(code), std::string(row->Item)});
+  for (int code = 0; code <= static_cast<int>(Roof::kGambrel); ++code) {
+    const auto roof = static_cast<Roof>(code);
+    const RoofType* type = roof == Roof::kBastardHip ? nullptr : RoofTypeByCode(roof);
+    if (type != nullptr) text += Line({PlainText(code), std::string(type->About().Item)});
     if (code == 6) text += Line({"6", "Bay Roof, too"});
-    if (code == roof::kBastardHip) text += Line({"12", "Hip with two slopes"});
+    if (roof == Roof::kBastardHip) text += Line({"12", "Hip with two slopes"});
   }
   return text + "\nAny other number is refused.\n\n";
 }

@@ -1,13 +1,12 @@
 #include "storage/project_keys.h"
 
 #include "core/number_text.h"
-#include "sheet/roof_types.h"
+#include "design/questions.h"
 #include "storage/ini_file.h"
 
 namespace pitchcraft {
 namespace {
 
-using Parts = ProjectParts;
 using S = ProjectStep;
 
 // --- Where a value is kept: how it is written and how it is put back
@@ -15,29 +14,32 @@ using S = ProjectStep;
 
 /// The pair of functions of one place.
 struct Place {
-  std::string (*write)(const Parts&);
-  void (*putBack)(const Parts&, const std::string&);
+  std::string (*write)(const Design&);
+  void (*putBack)(Design&, const std::string&);
 };
 
 template <Single Rafter::*Member>
 constexpr Place Front() {
-  return {[](const Parts& p) { return PlainText(p.Rafter1.*Member); },
-          [](const Parts& p, const std::string& text) { p.Rafter1.*Member = LeadingNumber(text); }};
+  return {[](const Design& p) { return PlainText(p.Rafter1.*Member); },
+          [](Design& p, const std::string& text) { p.Rafter1.*Member = LeadingNumber(text); }};
 }
 
 template <Single Rafter::*Member>
 constexpr Place Rear() {
-  return {[](const Parts& p) { return PlainText(p.Rafter2.*Member); },
-          [](const Parts& p, const std::string& text) { p.Rafter2.*Member = LeadingNumber(text); }};
+  return {[](const Design& p) { return PlainText(p.Rafter2.*Member); },
+          [](Design& p, const std::string& text) { p.Rafter2.*Member = LeadingNumber(text); }};
 }
 
 /// A bay is carried by the first rafter, the bay of a Dutch hip by the second.
-Rafter& BayRafter(const Parts& p) { return p.RoofType == roof::kDutchHip ? p.Rafter2 : p.Rafter1; }
+template <typename DesignType>
+auto& BayRafter(DesignType& p) {
+  return p.RoofType == Roof::kDutchHip ? p.Rafter2 : p.Rafter1;
+}
 
 template <Single Rafter::*Member, MeasureControl Sheet::*Field>
 constexpr Place Bay() {
-  return {[](const Parts& p) { return PlainText(BayRafter(p).*Member); },
-          [](const Parts& p, const std::string& text) {
+  return {[](const Design& p) { return PlainText(BayRafter(p).*Member); },
+          [](Design& p, const std::string& text) {
             (p.sheet.*Field).SetText(text);
             BayRafter(p).*Member = LeadingNumber(text);
           }};
@@ -45,63 +47,58 @@ constexpr Place Bay() {
 
 template <auto Field>
 constexpr Place TextOf() {  // of a single control
-  return {[](const Parts& p) { return (p.sheet.*Field).Text(); },
-          [](const Parts& p, const std::string& text) { (p.sheet.*Field).SetText(Trimmed(text)); }};
+  return {[](const Design& p) { return (p.sheet.*Field).Text(); },
+          [](Design& p, const std::string& text) { (p.sheet.*Field).SetText(Trimmed(text)); }};
 }
 
 template <auto Fields, std::size_t Index>
 constexpr Place TextOf() {  // of a control in an array
-  return {[](const Parts& p) { return (p.sheet.*Fields)[Index].Text(); },
-          [](const Parts& p, const std::string& text) { (p.sheet.*Fields)[Index].SetText(Trimmed(text)); }};
+  return {[](const Design& p) { return (p.sheet.*Fields)[Index].Text(); },
+          [](Design& p, const std::string& text) { (p.sheet.*Fields)[Index].SetText(Trimmed(text)); }};
 }
 
 template <std::size_t Index>
 constexpr Place SlopeText() {
-  return {[](const Parts& p) { return p.sheet.Slope[Index].LeftText(); },
-          [](const Parts& p, const std::string& text) { p.sheet.Slope[Index].SetLeftText(text); }};
+  return {[](const Design& p) { return p.sheet.Slope[Index].LeftText(); },
+          [](Design& p, const std::string& text) { p.sheet.Slope[Index].SetLeftText(text); }};
 }
 
 template <auto Boxes, std::size_t Index>
 constexpr Place Tick() {
-  return {[](const Parts& p) -> std::string { return (p.sheet.*Boxes)[Index].Ticked() ? "1" : "0"; },
-          [](const Parts& p, const std::string& text) {
+  return {[](const Design& p) -> std::string { return (p.sheet.*Boxes)[Index].Ticked() ? "1" : "0"; },
+          [](Design& p, const std::string& text) {
             (p.sheet.*Boxes)[Index].Value = LeadingNumber(text) != 0 ? 1 : 0;
           }};
-}
-
-template <MenuItem Menus::*Item>
-constexpr Place Check() {
-  return {[](const Parts& p) -> std::string { return (p.menus.*Item).Checked ? "True" : "False"; }, nullptr};
 }
 
 /// The box of degrees. The slope of a rafter knows its angle from there, but for a gambrel, whose solver
 /// gives it.
 template <std::size_t Index>
 constexpr Place DegreesBox() {
-  return {TextOf<&Sheet::Degrees, Index>().write, [](const Parts& p, const std::string& text) {
+  return {TextOf<&Sheet::Degrees, Index>().write, [](Design& p, const std::string& text) {
             p.sheet.Degrees[Index].SetText(Trimmed(text));
-            if (Index == 0 && p.RoofType != roof::kGambrel) p.Rafter1.degrees = LeadingNumber(text);
-            if (Index == 1 && p.RoofType == roof::kDualSlope) p.Rafter2.degrees = LeadingNumber(text);
+            if (Index == 0 && p.RoofType != Roof::kGambrel) p.Rafter1.degrees = LeadingNumber(text);
+            if (Index == 1 && p.RoofType == Roof::kDualSlope) p.Rafter2.degrees = LeadingNumber(text);
           }};
 }
 
 /// The solver of a gambrel takes the overhang from its field.
 constexpr Place MainOverhang() {
-  return {Front<&Rafter::Overhang>().write, [](const Parts& p, const std::string& text) {
+  return {Front<&Rafter::Overhang>().write, [](Design& p, const std::string& text) {
             p.Rafter1.Overhang = LeadingNumber(text);
-            if (p.RoofType == roof::kGambrel) p.sheet.Overhang[0].SetValue(p.Rafter1.Overhang);
+            if (p.RoofType == Roof::kGambrel) p.sheet.Overhang[0].SetValue(p.Rafter1.Overhang);
           }};
 }
 
 constexpr Place HipEnd() {
-  return {Front<&Rafter::HipEndSlope>().write, [](const Parts& p, const std::string& text) {
+  return {Front<&Rafter::HipEndSlope>().write, [](Design& p, const std::string& text) {
             p.Rafter1.HipEndSlope = LeadingNumber(text);
             p.Rafter1.HipEndDegrees = LeadingNumber(p.sheet.Degrees[2].Text());
           }};
 }
 
 constexpr Place RearSpan() {
-  return {Rear<&Rafter::Span>().write, [](const Parts& p, const std::string& text) {
+  return {Rear<&Rafter::Span>().write, [](Design& p, const std::string& text) {
             p.Rafter2.Span = LeadingNumber(text);
             p.sheet.Span[2].SetValue(p.Rafter2.Span);
           }};
@@ -110,35 +107,54 @@ constexpr Place RearSpan() {
 /// The projection of a Dutch hip is also the run of its common.
 constexpr Place ProjectionPlace() {
   constexpr Place kPlace = Bay<&Rafter::Projection, &Sheet::Projection>();
-  return {kPlace.write, [](const Parts& p, const std::string& text) {
+  return {kPlace.write, [](Design& p, const std::string& text) {
             Bay<&Rafter::Projection, &Sheet::Projection>().putBack(p, text);
-            if (p.RoofType != roof::kDutchHip) return;
+            if (p.RoofType != Roof::kDutchHip) return;
             p.Rafter2.Span = LeadingNumber(text);
             p.sheet.Span[2].SetText(text);
           }};
 }
 
-constexpr Place Choice(std::string (*write)(const Parts&)) { return {write, nullptr}; }
+constexpr Place Choice(std::string (*write)(const Design&)) { return {write, nullptr}; }
 
-std::string UnitsText(const Parts& p) { return p.menus.Metric.Checked ? "1" : "0"; }
-std::string SlopeModeText(const Parts& p) { return p.menus.SettingsDegrees.Checked ? "1" : "0"; }
-std::string RoofText(const Parts& p) { return std::to_string(ProjectRoofCode(p)); }
+std::string TrueOrFalse(bool on) { return on ? "True" : "False"; }
 
-std::string FasciaHeightText(const Parts& p) {
-  const Rafter& rafter = p.RoofType == roof::kGambrel ? p.Rafter2 : p.Rafter1;
+std::string UnitsText(const Design& p) { return p.Metric ? "1" : "0"; }
+std::string SlopeModeText(const Design& p) { return p.InDegrees ? "1" : "0"; }
+std::string RoofText(const Design& p) { return PlainText(static_cast<int>(RoofKind(p))); }
+std::string OverhangsEqualText(const Design& p) { return TrueOrFalse(p.OverhangsEqual); }
+std::string JackMeasurementText(const Design& p) { return TrueOrFalse(p.JacksWithOverhang); }
+
+template <FasciaCut Cut>
+constexpr Place CutText() {
+  return {[](const Design& p) { return TrueOrFalse(p.Cut == Cut); }, nullptr};
+}
+
+std::string FasciaHeightText(const Design& p) {
+  const Rafter& rafter = p.RoofType == Roof::kGambrel ? p.Rafter2 : p.Rafter1;
   return PlainText(rafter.FasciaHeight);
 }
 
-std::string HipLayoutText(const Parts& p) {
-  if (p.menus.HipLayoutCenter.Checked) return "Center";
-  return p.menus.HipLayoutCornersFlush.Checked ? "Corner Flush" : "Corner";
+std::string HipLayoutText(const Design& p) {
+  switch (p.Layout) {
+    case JackLayout::kCenter: return "Center";
+    case JackLayout::kCornersFlush: return "Corner Flush";
+    case JackLayout::kCorners: break;
+  }
+  return "Corner";
 }
 
-std::string GambrelTypeText(const Parts& p) { return p.menus.GambrelRegular.Checked ? "Regular" : "Custom"; }
+std::string GambrelTypeText(const Design& p) {
+  return p.Gambrel == GambrelKind::kRegular ? "Regular" : "Custom";
+}
 
-std::string SupportText(const Parts& p) {
-  if (p.menus.GambrelPurlins.Checked) return "Purlins";
-  return p.menus.GambrelWallSupportRaised.Checked ? "Wall Supported Raised" : "Wall Supported";
+std::string SupportText(const Design& p) {
+  switch (p.Support) {
+    case GambrelSupport::kPurlins: return "Purlins";
+    case GambrelSupport::kRaisedWall: return "Wall Supported Raised";
+    case GambrelSupport::kWall: break;
+  }
+  return "Wall Supported";
 }
 
 constexpr ProjectKey Row(const char* key, const char* what, const char* missing, RoofSet written,
@@ -150,16 +166,16 @@ constexpr ProjectKey Row(const char* key, const char* what, const char* missing,
 // --------------------------------------------------------------------------------------------------------------
 
 constexpr RoofSet kAll = RoofSet::All();
-constexpr RoofSet kKneewalls{roof::kGable, roof::kShed, roof::kDualSlope};
-constexpr RoofSet kHip{roof::kHip};
-constexpr RoofSet kAnyHip{roof::kHip, roof::kBastardHip};
-constexpr RoofSet kHipEnds{roof::kHip, roof::kValley, roof::kBay, roof::kOctagon};
-constexpr RoofSet kHipEndsRead{roof::kHip, roof::kValley, roof::kBay, roof::kOctagon, roof::kBastardHip};
-constexpr RoofSet kTwoRoofs{roof::kDualSlope, roof::kUnequalSpanValley};
-constexpr RoofSet kBays{roof::kBay, roof::kDutchHip};
-constexpr RoofSet kDutch{roof::kDutchHip};
-constexpr RoofSet kBlind{roof::kBlindValley};
-constexpr RoofSet kGambrel{roof::kGambrel};
+constexpr RoofSet kKneewalls{Roof::kGable, Roof::kShed, Roof::kDualSlope};
+constexpr RoofSet kHip{Roof::kHip};
+constexpr RoofSet kAnyHip{Roof::kHip, Roof::kBastardHip};
+constexpr RoofSet kHipEnds{Roof::kHip, Roof::kValley, Roof::kBay, Roof::kOctagon};
+constexpr RoofSet kHipEndsRead{Roof::kHip, Roof::kValley, Roof::kBay, Roof::kOctagon, Roof::kBastardHip};
+constexpr RoofSet kTwoRoofs{Roof::kDualSlope, Roof::kUnequalSpanValley};
+constexpr RoofSet kBays{Roof::kBay, Roof::kDutchHip};
+constexpr RoofSet kDutch{Roof::kDutchHip};
+constexpr RoofSet kBlind{Roof::kBlindValley};
+constexpr RoofSet kGambrel{Roof::kGambrel};
 constexpr RoofSet kNone{};
 
 using R = Rafter;
@@ -188,14 +204,14 @@ constexpr ProjectKey kKeys[] = {
     Row("HipValDepth", "Rafter1.HipValDepth", "5.5", kAll, kAll, S::kPutBackTwice, Front<&R::HipValDepth>()),
     Row("HeelLocked", "chkHeel(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::HeelLock, 0>()),
     Row("SeatLocked", "chkSeat(0), 0 or 1", "0", kAll, kAll, S::kPutBack, Tick<&Sheet::SeatLock, 0>()),
-    Row("SquareCutFascia", "check of mnuSettingsSquareCut, True or False", "False", kAll, kAll, S::kSquareCut, Check<&Menus::SettingsSquareCut>()),
-    Row("PlumbCutFascia", "check of mnuSettingsPlumbCut, True or False", "False", kAll, kAll, S::kPlumbCut, Check<&Menus::SettingsPlumbCut>()),
-    Row("LevelCutFascia", "check of mnuSettingsLevelCut, True or False", "False", kAll, kAll, S::kLevelCut, Check<&Menus::SettingsLevelCut>()),
+    Row("SquareCutFascia", "check of mnuSettingsSquareCut, True or False", "False", kAll, kAll, S::kSquareCut, CutText<FasciaCut::kSquare>()),
+    Row("PlumbCutFascia", "check of mnuSettingsPlumbCut, True or False", "False", kAll, kAll, S::kPlumbCut, CutText<FasciaCut::kPlumb>()),
+    Row("LevelCutFascia", "check of mnuSettingsLevelCut, True or False", "False", kAll, kAll, S::kLevelCut, CutText<FasciaCut::kLevel>()),
     Row("Kneewall1", "Rafter1.Kneewall", "0", kAll, kKneewalls, S::kKneewall, Front<&R::Kneewall>()),
     Row("Kneewall2", "Rafter2.Kneewall", "0", kAll, kKneewalls, S::kRearKneewall, Rear<&R::Kneewall>()),
     Row("HipLayout", "Corner, Corner Flush or Center", "Corner", kHip, kAnyHip, S::kHipLayout, Choice(HipLayoutText)),
-    Row("OverhangsEqual", "True or False", "True", kHip, kAnyHip, S::kOverhangsEqual, Check<&Menus::HipLayoutOverhangsEqual>()),
-    Row("JackMeasurement", "True or False", "True", kHip, kAnyHip, S::kJackMeasurement, Check<&Menus::HipLayoutJackMeasurement>()),
+    Row("OverhangsEqual", "True or False", "True", kHip, kAnyHip, S::kOverhangsEqual, Choice(OverhangsEqualText)),
+    Row("JackMeasurement", "True or False", "True", kHip, kAnyHip, S::kJackMeasurement, Choice(JackMeasurementText)),
     Row("HipEndSlope", "Rafter1.HipEndSlope", "1", kHipEnds, kHipEndsRead, S::kPutBackTwice, HipEnd()),
     Row("Spacing", "text of cboSpacing", "16\"", kHipEnds, kHipEndsRead, S::kSpacing, TextOf<&Sheet::Spacing>()),
     Row("Slope2", "Rafter2.Slope", "1", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Slope>()),
@@ -232,14 +248,10 @@ constexpr ProjectKey kKeys[] = {
 
 std::span<const ProjectKey> ProjectKeys() { return kKeys; }
 
-int ProjectRoofCode(const ProjectParts& parts) {
-  return parts.Rafter1.RafterType == RafterType::kBastardHip ? roof::kBastardHip : parts.RoofType;
-}
-
-std::string ProjectText(const ProjectParts& parts) {
+std::string ProjectText(const Design& design) {
   IniWriter writer(kProjectSection);
   for (const ProjectKey& key : kKeys) {
-    if (key.Written.Has(parts.RoofType)) writer.Add(key.Key, key.Write(parts));
+    if (key.Written.Has(design.RoofType)) writer.Add(key.Key, key.Write(design));
   }
   return writer.Text();
 }

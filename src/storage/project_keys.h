@@ -7,39 +7,29 @@
 #include <string>
 #include <string_view>
 
-#include "core/rafter.h"
-#include "sheet/menus.h"
-#include "sheet/sheet.h"
+#include "core/trade.h"
+#include "design/design.h"
 
 namespace pitchcraft {
 
 inline constexpr const char* kProjectSection = "Settings";
 
-/// What a project is taken from and put back into.
-struct ProjectParts {
-  int RoofType;
-  Rafter& Rafter1;
-  Rafter& Rafter2;
-  Sheet& sheet;
-  Menus& menus;
-};
-
 /// A set of roof types.
 class RoofSet {
  public:
-  constexpr RoofSet(std::initializer_list<int> codes) {
-    for (const int code : codes) bits_ |= BitOf(code);
+  constexpr RoofSet(std::initializer_list<Roof> codes) {
+    for (const Roof code : codes) bits_ |= BitOf(code);
   }
   static constexpr RoofSet All() {
     RoofSet all{};
     all.bits_ = ~std::uint32_t{0};
     return all;
   }
-  constexpr bool Has(int code) const { return (bits_ & BitOf(code)) != 0; }
+  constexpr bool Has(Roof code) const { return (bits_ & BitOf(code)) != 0; }
   constexpr bool operator==(const RoofSet&) const = default;
 
  private:
-  static constexpr std::uint32_t BitOf(int code) { return std::uint32_t{1} << static_cast<unsigned>(code); }
+  static constexpr std::uint32_t BitOf(Roof code) { return std::uint32_t{1} << static_cast<unsigned>(code); }
   std::uint32_t bits_ = 0;
 };
 
@@ -74,8 +64,8 @@ struct ProjectKey {
   RoofSet Written;
   RoofSet Read;  ///< here a hip with two slopes has a code of its own
   ProjectStep Step;
-  std::string (*Write)(const ProjectParts&);
-  void (*PutBack)(const ProjectParts&, const std::string& text);
+  std::string (*Write)(const Design&);
+  void (*PutBack)(Design&, const std::string& text);
 };
 
 /// In the order of writing, which is the order of reading too.
@@ -93,10 +83,7 @@ struct ProjectLoss {
 std::span<const ProjectLoss> ProjectLosses();
 
 /// The text of a whole project file.
-std::string ProjectText(const ProjectParts& parts);
-
-/// The code of the roof in a file: a hip with two slopes is told from one with equal slopes.
-int ProjectRoofCode(const ProjectParts& parts);
+std::string ProjectText(const Design& design);
 
 /// docs/project-file.md.
 std::string ProjectFileManual();

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 
 namespace pitchcraft {
 

@@ -35,7 +35,7 @@ double HostileNumber() {
 void FillHostile(Rafter& rafter) {
   rafter.SetUnits(*rc::gen::inRange(0, 2));
   for (const auto input : kInputs) rafter.*input = HostileNumber();
-  rafter.RafterType = static_cast<RafterType>(*rc::gen::inRange(-1, 22));
+  rafter.RafterType = static_cast<Member>(*rc::gen::inRange(-1, 22));
   rafter.HeelLocked = Flag::FromInteger(*rc::gen::element<std::int16_t>(-1, 0, 1));
   rafter.SeatLocked = Flag::FromInteger(*rc::gen::element<std::int16_t>(-1, 0, 1));
   rafter.Purlins = *rc::gen::arbitrary<bool>();
@@ -68,7 +68,7 @@ RC_GTEST_PROP(HostileNumbers, TheNextSensibleRoofIsPlainAgain, ()) {
     rafter->Span = 144;
     rafter->HeelLocked = false;
     rafter->SeatLocked = false;
-    rafter->RafterType = RafterType::kHip;
+    rafter->RafterType = Member::kHip;
     rafter->Calculate();
   }
   RC_ASSERT(worn.Length1 == fresh.Length1);

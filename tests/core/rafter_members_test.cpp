@@ -31,7 +31,7 @@ TEST(RafterMembers, AreInTheOrderOfTheRecord) {
 TEST(RafterMembers, ReadTheirOwnMember) {
   Rafter rafter;
   SmallHouse(rafter);
-  rafter.RafterType = RafterType::kBayLedger;
+  rafter.RafterType = Member::kBayLedger;
   rafter.Name = "Bay";
   rafter.BayAngle = 50;
   rafter.Back = 150;

@@ -168,7 +168,7 @@ TEST(Rafter, CalculatesWithNobodyListening) {
 TEST(RafterType, ThreeMembersRunInAValley) {
   for (int number = 0; number <= 20; ++number) {
     const bool valley = number == 2 || number == 14 || number == 15;
-    EXPECT_EQ(IsValley(static_cast<RafterType>(number)), valley) << number;
+    EXPECT_EQ(IsValley(static_cast<Member>(number)), valley) << number;
   }
 }
 

@@ -56,18 +56,18 @@ TEST_F(CalculateRoofTest, AShedButtsTheWholeBoard) {
 
 TEST_F(CalculateRoofTest, BeforeTheEndOfStartUpNothingHappens) {
   document.CalcEnabled = false;
-  document.RoofType = roof::kHip;
+  document.RoofType = Roof::kHip;
   document.CalculateRoof(false);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Rafter");
-  EXPECT_EQ(rafter.RafterType, RafterType::kCommon);
+  EXPECT_EQ(rafter.RafterType, Member::kCommon);
 }
 
 TEST_F(CalculateRoofTest, ABastardHipFromAProjectBecomesAHip) {
   rafter.HipEndSlope = 12;
-  document.RoofType = roof::kBastardHip;
+  document.RoofType = Roof::kBastardHip;
   document.CalculateRoof(true);
-  EXPECT_EQ(document.RoofType, roof::kHip);
-  EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip);
+  EXPECT_EQ(document.RoofType, Roof::kHip);
+  EXPECT_EQ(rafter.RafterType, Member::kBastardHip);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
 }
 

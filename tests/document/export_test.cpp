@@ -133,7 +133,7 @@ TEST_F(ExportTest, AHipCarriesItsBevelsAndCenterLines) {
     EXPECT_EQ(e.Text(62), "12") << "in the colour of the dimensions";
   }
   EXPECT_GE(center, 1);
-  EXPECT_EQ(document.Rafter1.RafterType, RafterType::kHip);
+  EXPECT_EQ(document.Rafter1.RafterType, Member::kHip);
 }
 
 TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {

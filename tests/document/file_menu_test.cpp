@@ -67,7 +67,7 @@ TEST_F(FileMenuTest, NewKeepsTheValuesAndAsksForAName) {
   EXPECT_FALSE(actions.Pick("cboType", "Hip"));
   EXPECT_FALSE(actions.Page("VSTab(0)", 3));
   Click("mnuFileNew", "Barn");
-  EXPECT_EQ(document.RoofType, roof::kGable);
+  EXPECT_EQ(document.RoofType, Roof::kGable);
   EXPECT_EQ(document.CurrentTab, 0);
   EXPECT_EQ(double{document.Rafter1.Span}, 200);
   EXPECT_EQ(document.Title, "Pitchcraft - [Barn]");

@@ -7,7 +7,7 @@ using FormTest = DocumentTest;
 
 TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
   EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]");
-  EXPECT_EQ(document.RoofType, roof::kGable);
+  EXPECT_EQ(document.RoofType, Roof::kGable);
   EXPECT_EQ(rafter.Slope, 1);
   EXPECT_EQ(sheet.Slope[0].LeftValue(), 1);
   EXPECT_EQ(sheet.Slope[0].ListIndex(), 0);

@@ -25,7 +25,7 @@ TEST_F(PagesTest, ADrawingThatDoesNotExistIsAnEmptyRecording) {
 TEST_F(PagesTest, TheCommonPageOfAHipPutsTheHipBack) {
   Pick("cboType", "Hip");
   Page(1);
-  EXPECT_EQ(rafter.RafterType, RafterType::kHip);
+  EXPECT_EQ(rafter.RafterType, Member::kHip);
   EXPECT_TRUE(document.DrawingExists);
   EXPECT_TRUE(menus.PopUp1LayoutCenter.Visible);
   EXPECT_FALSE(menus.HipLayoutOverhangsEqual.Visible);
@@ -60,7 +60,7 @@ TEST_F(PagesTest, AHipHasADrawingOnEveryPage) {
   for (int page = 0; page < 5; ++page) {
     Page(page);
     EXPECT_FALSE(document.board.Recorder.Finished().empty()) << page;
-    EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip) << page;
+    EXPECT_EQ(rafter.RafterType, Member::kBastardHip) << page;
   }
   const char* const titles[] = {" 6/12\n", " 9/12\n", " 4.99/12\n"};
   for (int page = 1; page < 4; ++page) {

@@ -122,7 +122,7 @@ TEST_F(PrintTest, AHipsCommonPrintsAsACommonAndKeepsItsType) {
   Pick("cboType", "Hip");
   Page(1);
   EXPECT_EQ(TitleOf(Print()), "Hip Roof - Common Rafter");
-  EXPECT_EQ(document.Rafter1.RafterType, RafterType::kHip);
+  EXPECT_EQ(document.Rafter1.RafterType, Member::kHip);
 }
 
 TEST_F(PrintTest, ValleysAreNamedByTheirKind) {

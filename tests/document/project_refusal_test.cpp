@@ -66,13 +66,13 @@ TEST_F(RefusalTest, UnitsAreAppliedBeforeARoofIsRefused) {
 
 TEST_F(RefusalTest, OldCodeOfTheBayIsRead) {
   ASSERT_TRUE(session.document.LoadRafter(Write("bay.pcf", "[Settings]\r\nRafterType=6\r\n")));
-  EXPECT_EQ(session.document.RoofType, roof::kBay);
+  EXPECT_EQ(session.document.RoofType, Roof::kBay);
   EXPECT_EQ(session.document.sheet.Face.Value(), 48);
 }
 
 TEST_F(RefusalTest, MissingKeysTakeTheirDefaults) {
   ASSERT_TRUE(session.document.LoadRafter(Write("short.pcf", "[Settings]\r\nSlope=7\r\n")));
-  EXPECT_EQ(session.document.RoofType, roof::kGable);
+  EXPECT_EQ(session.document.RoofType, Roof::kGable);
   EXPECT_EQ(double{session.document.Rafter1.Slope}, 7);
   EXPECT_EQ(double{session.document.Rafter1.Span}, 144);
   EXPECT_EQ(double{session.document.Rafter1.Depth}, 5.5);
@@ -90,7 +90,7 @@ TEST_F(RefusalTest, EveryFormThatTheReaderTakes) {
     SCOPED_TRACE(form);
     ProjectSession own;
     ASSERT_TRUE(own.document.LoadRafter(Write("form.pcf", form)));
-    EXPECT_EQ(own.document.RoofType, roof::kShed);
+    EXPECT_EQ(own.document.RoofType, Roof::kShed);
     EXPECT_EQ(double{own.document.Rafter1.Slope}, 5);
   }
 }

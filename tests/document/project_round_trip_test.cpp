@@ -48,7 +48,7 @@ void ExpectOnlyListed(const Rafter& before, const Rafter& after, int roofCode, c
 
 /// The text without the key that a Dutch hip writes and does not read.
 std::string WithoutIgnoredKey(const std::string& text, int roofCode) {
-  const std::size_t start = roofCode == roof::kDutchHip ? text.find("Span2=") : std::string::npos;
+  const std::size_t start = roofCode == Roof::kDutchHip ? text.find("Span2=") : std::string::npos;
   return start == std::string::npos ? text : text.substr(0, start);
 }
 

@@ -18,7 +18,7 @@ TEST_F(RoofTypeSwitchTest, ValuesStayFromTypeToType) {
 TEST_F(RoofTypeSwitchTest, AToolButtonPicksItsRoofOnTheFirstPage) {
   Page(1);
   Expect(actions.Press("Unequal Span Valley"));
-  EXPECT_EQ(document.RoofType, roof::kUnequalSpanValley);
+  EXPECT_EQ(document.RoofType, Roof::kUnequalSpanValley);
   EXPECT_EQ(sheet.RoofList.Text(), "Unequal Span Valley");
   EXPECT_EQ(sheet.Tabs[0].Page, 0);
 }

@@ -17,7 +17,7 @@ TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
   Pick("cboType", "Hip");
   Type("FtSpan(0)", "20'");
   Click("mnuMetric");
-  EXPECT_EQ(document.RoofType, roof::kGable);
+  EXPECT_EQ(document.RoofType, Roof::kGable);
   for (const Rafter* each : {&document.Rafter1, &document.Rafter2}) {
     EXPECT_EQ(each->SlopeBase, 1000);
     EXPECT_EQ(each->Slope, 100);

@@ -21,11 +21,11 @@ using testing::HipCase;
 using ::testing::Not;
 using testing::UnreadableTexts;
 
-constexpr std::array kMembers = {RafterType::kCommon, RafterType::kHipEndCommon, RafterType::kBastardHip};
+constexpr std::array kMembers = {Member::kCommon, Member::kHipEndCommon, Member::kBastardHip};
 
 struct MemberCase : HipCase {
   MemberCase() { EndSlope = 9; }
-  RafterType Type = RafterType::kBastardHip;
+  Member Type = Member::kBastardHip;
   bool SquareCut = false;
   int Tab = 3;
 };
@@ -78,7 +78,7 @@ template <typename Vary>
 void ForEveryRoof(const Vary& vary) {
   for (const auto& [slope, endSlope] : {std::pair{6.0, 9.0}, {9.0, 6.0}, {3.0, 12.0}, {14.0, 4.0}}) {
     for (const bool equal : {false, true}) {
-      for (const RafterType type : kMembers) {
+      for (const Member type : kMembers) {
         MemberCase c;
         c.Slope = slope;
         c.EndSlope = endSlope;
@@ -101,8 +101,8 @@ TEST(BastardHipElevation, ShowsTheMeasuresOfItsMember) {
     rafter.CalculateBastardHip();  // of its own lengths
     EXPECT_NEAR(std::hypot(drawn.X(0) - drawn.X(1), drawn.Y(0) - drawn.Y(1)), rafter.Length1, 2e-3);
     EXPECT_NEAR(drawn.Y(0), rafter.RiseWithOverhang, 1e-3) << "all climb to one ridge";
-    const bool end = c.Type == RafterType::kHipEndCommon;
-    const bool hip = c.Type == RafterType::kBastardHip;
+    const bool end = c.Type == Member::kHipEndCommon;
+    const bool hip = c.Type == Member::kBastardHip;
     EXPECT_NEAR(drawn.X(1) - drawn.X(2),
                 hip   ? rafter.HipValOverhang
                 : end ? rafter.HipEndOverhang
@@ -134,7 +134,7 @@ TEST(BastardHipElevation, KeepsTheTopEdgeStraight) {
     SCOPED_TRACE(::testing::PrintToString(static_cast<const HipCase&>(c)));
     const DrawnMember drawn(c);
     double excess = 0;
-    if (c.Type == RafterType::kBastardHip && c.OverhangsEqual) {
+    if (c.Type == Member::kBastardHip && c.OverhangsEqual) {
       excess = c.Slope / 12 * (0.75 * c.EndSlope / c.Slope - 0.75) / (drawn.X(0) - drawn.X(1));
     }
     EXPECT_NEAR(drawn.TopSlope() - drawn.TailSlope(), excess, 1e-4);
@@ -143,18 +143,18 @@ TEST(BastardHipElevation, KeepsTheTopEdgeStraight) {
 
 TEST(BastardHipElevation, IsTitledByItsMember) {
   MemberCase c;
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains(" 6/12"));
-  c.Type = RafterType::kHipEndCommon;
+  c.Type = Member::kHipEndCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains(" 9/12"));
   c.RiseOverRun = false;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("36.87\u00BA"));
-  c.Type = RafterType::kBastardHip;
+  c.Type = Member::kBastardHip;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("22.59\u00BA"));
 }
 
 TEST(BastardHipElevation, MeasuresTheWholeRiseOnThePagesOfAllThree) {
-  for (const RafterType type : kMembers) {
+  for (const Member type : kMembers) {
     MemberCase c;
     c.Type = type;
     const DrawnMember drawn(c);
@@ -214,10 +214,10 @@ TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
     // The member's own plane, and the fascia's line in it.
     Line edge = hip;
     Line cut = corner;
-    if (c.Type == RafterType::kCommon) {
+    if (c.Type == Member::kCommon) {
       edge = Intersect(main, AtY(0));
       cut = Intersect(mainFascia, AtY(0));
-    } else if (c.Type == RafterType::kHipEndCommon) {
+    } else if (c.Type == Member::kHipEndCommon) {
       edge = Intersect(end, AtX(0));
       cut = Intersect(endFascia, AtX(0));
     }
@@ -232,9 +232,9 @@ TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
 TEST(BastardHipElevation, WritesTheTailAngleThatIsNotSquare) {
   MemberCase c;
   c.SquareCut = true;
-  c.Type = RafterType::kHipEndCommon;
+  c.Type = Member::kHipEndCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("100.3\u00BA"));
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Not(Contains("90.0\u00BA")));
 }
 
@@ -284,7 +284,7 @@ TEST(BastardHipElevation, IsDrawnAsBefore) {
 
 TEST(BastardHipElevation, EndsBlankWithOneOverflow) {
   for (const double value : {1e30, std::nan("")}) {
-    for (const RafterType type : kMembers) {
+    for (const Member type : kMembers) {
       MemberCase c;
       c.Type = type;
       c.Run = value;

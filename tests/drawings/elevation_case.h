@@ -18,7 +18,7 @@ inline constexpr double kUnlocked = -1;
 
 /// The measures of a new document, slope 6 in 12, unless told otherwise.
 struct ElevationCase {
-  RafterType Type = RafterType::kCommon;
+  Member Type = Member::kCommon;
   int RoofType = 0;
   bool Metric = false;
   double Slope = 6;
@@ -100,7 +100,7 @@ class DrawnElevation {
       converter_.BaseUnits = kBaseMillimetres;
     }
     Fill(rafter, c);
-    rafter.RafterType = c.RoofType == 1 ? RafterType::kHip : c.Type;
+    rafter.RafterType = c.RoofType == 1 ? Member::kHip : c.Type;
     rafter.Calculate();
     rafter.RafterType = c.Type;
     board.DrawScale = c.Metric ? 1 : 10;

@@ -68,9 +68,9 @@ void ExpectOutlineOfWood(const ElevationCase& c) {
   ExpectClosed(outline);
 }
 
-constexpr std::pair<RafterType, int> kMembers[] = {{RafterType::kCommon, 0}, {RafterType::kShed, 3},
-                                                   {RafterType::kHip, 1},    {RafterType::kValley, 2},
-                                                   {RafterType::kCommon, 1}, {RafterType::kCommon, 4}};
+constexpr std::pair<Member, int> kMembers[] = {{Member::kCommon, 0}, {Member::kShed, 3},
+                                                   {Member::kHip, 1},    {Member::kValley, 2},
+                                                   {Member::kCommon, 1}, {Member::kCommon, 4}};
 
 TEST(ElevationOutline, IsTheWoodAtEverySlopeAndOverhang) {
   for (const auto& [type, roof] : kMembers) {
@@ -127,7 +127,7 @@ TEST(ElevationOutline, IsTheWoodWithAKneewall) {
 }
 
 TEST(ElevationOutline, IsTheWoodOfHipsOfOtherLumber) {
-  for (const RafterType type : {RafterType::kHip, RafterType::kValley}) {
+  for (const Member type : {Member::kHip, Member::kValley}) {
     for (const double depth : {3.5, 5.5, 9.25, 11.25}) {
       for (const bool square : {false, true}) {
         ElevationCase c;
@@ -184,7 +184,7 @@ TEST(ElevationPoints, HaveTheUndersideParallelAtTheDepth) {
     c.RoofType = roof;
     c.HipDepth = 9.25;
     const DrawnElevation drawn(c);
-    const double depth = type == RafterType::kHip || type == RafterType::kValley ? 9.25 : 7.25;
+    const double depth = type == Member::kHip || type == Member::kValley ? 9.25 : 7.25;
     const double dx = drawn.X(0) - drawn.X(1);
     const double dy = drawn.Y(0) - drawn.Y(1);
     for (const int point : {4, 6, 7, 8}) {
@@ -206,7 +206,7 @@ TEST(ElevationPoints, CutASquareTailSquare) {
 }
 
 TEST(ElevationPoints, EndACutThatIsDeeperThanTheOverhangAtTheWall) {
-  for (const RafterType type : {RafterType::kCommon, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type : {Member::kCommon, Member::kHip, Member::kValley}) {
     ElevationCase c;
     c.Type = type;
     c.RoofType = static_cast<int>(type);
@@ -255,7 +255,7 @@ TEST(ElevationPoints, HangTheFasciaOfAHipRoofsCommonByItsOwnHeight) {
   c.RoofType = 1;
   const DrawnElevation common(c);
   EXPECT_NEAR(common.Y(2) - common.Y(3), 5.5, 1e-4);
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   const DrawnElevation hip(c);
   EXPECT_NEAR(hip.Y(2) - hip.Y(3), 5.5 - 0.75 * 6 / 16.970562, 1e-4) << "the hip's is lowered by its drop";
 }

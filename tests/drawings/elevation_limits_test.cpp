@@ -58,8 +58,8 @@ TEST_F(Hostile, EndsBlankWithOneOverflow) {
 TEST_F(Hostile, EveryMixtureEndsSoon) {
   const double values[] = {0, 1e-30, 1, -6, 144, 1e7, 1e9, 1e20, kInfinity, std::nan("")};
   const auto start = std::chrono::steady_clock::now();
-  for (const RafterType type :
-       {RafterType::kCommon, RafterType::kShed, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type :
+       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const double slope : values) {
       for (const double run : values) {
         for (const double overhang : {0.0, 10.5, -3.0, 1e8}) {
@@ -89,8 +89,8 @@ TEST_F(Hostile, EveryMixtureEndsSoon) {
 }
 
 TEST_F(Hostile, DrawsALevelRafter) {
-  for (const RafterType type :
-       {RafterType::kCommon, RafterType::kShed, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type :
+       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const bool square : {false, true}) {
       ElevationCase c;
       c.Type = type;

@@ -78,7 +78,7 @@ inline void CalculateHip(Rafter& rafter, const HipCase& c) {
   rafter.Depth = rafter.RidgeDepth = rafter.HipValDepth = c.Metric ? 184 : 7.25;
   rafter.FasciaHeight = c.Metric ? 140 : 5.5;
   rafter.spacing = c.Spacing;
-  rafter.RafterType = c.IsBastard() ? RafterType::kBastardHip : RafterType::kHip;
+  rafter.RafterType = c.IsBastard() ? Member::kBastardHip : Member::kHip;
   rafter.OverhangsEqual = c.OverhangsEqual;
   rafter.Calculate();
 }

@@ -237,7 +237,7 @@ TEST(HipExport, DegreesHaveNoSign) {
 }
 
 TEST(BastardHipExport, Members) {
-  for (const RafterType type : {RafterType::kCommon, RafterType::kHipEndCommon, RafterType::kBastardHip}) {
+  for (const Member type : {Member::kCommon, Member::kHipEndCommon, Member::kBastardHip}) {
     HipCase c;
     c.EndSlope = 9;
     c.Width = 20000;  // room for the view from below
@@ -261,7 +261,7 @@ TEST(BastardHipExport, Members) {
     // The bevels of the two cheeks, on two rows at either end.
     const auto bevels = std::count_if(texts.begin(), texts.end(),
                                       [](const std::string& text) { return text.ends_with("d bevel"); });
-    EXPECT_EQ(bevels, type == RafterType::kBastardHip ? 4 : 0);
+    EXPECT_EQ(bevels, type == Member::kBastardHip ? 4 : 0);
   }
 }
 

@@ -94,13 +94,13 @@ TEST(HipSheet, DifferencesAreThoseOfTheJacks) {
 TEST(BastardHipSheet, TitleByMember) {
   HipOutputs outputs(Unequal());
   Rafter& rafter = outputs.drawn.rafter;
-  const auto title = [&](RafterType type) {
+  const auto title = [&](Member type) {
     rafter.RafterType = type;
     return BastardHipSheetOf(rafter, outputs.context).Title;
   };
-  EXPECT_EQ(title(RafterType::kCommon), "Bastard Hip Roof - Common Rafter");
-  EXPECT_EQ(title(RafterType::kHipEndCommon), "Bastard Hip Roof - Hip End Common Rafter");
-  EXPECT_EQ(title(RafterType::kBastardHip), "Bastard Hip Roof - Bastard Hip Rafter");
+  EXPECT_EQ(title(Member::kCommon), "Bastard Hip Roof - Common Rafter");
+  EXPECT_EQ(title(Member::kHipEndCommon), "Bastard Hip Roof - Hip End Common Rafter");
+  EXPECT_EQ(title(Member::kBastardHip), "Bastard Hip Roof - Bastard Hip Rafter");
 }
 
 TEST(BastardHipSheet, Rows) {

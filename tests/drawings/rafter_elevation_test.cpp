@@ -62,7 +62,7 @@ std::vector<LineOp> Lines(const DrawnElevation& drawn, DrawColor color, int styl
 
 ElevationCase Hip() {
   ElevationCase c;
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   c.RoofType = 1;
   return c;
 }
@@ -105,7 +105,7 @@ TEST(RafterElevation, AddsTheWholeRiseOnLaterPages) {
   ElevationCase c;
   c.Tab = 1;
   EXPECT_EQ(Measures(DrawnElevation(c)).back(), "6' 4 7/8\"");
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   c.RoofType = 1;
   EXPECT_EQ(Measures(DrawnElevation(c)).back(), "16' 10 9/16\"");
 }
@@ -212,14 +212,14 @@ TEST(RafterElevation, ShowsTheEndsOfABevelledRafterWhereThereIsRoom) {
   c.Slope = 2;
   EXPECT_FALSE(Shows(DrawnElevation(c), "45\u00BA bevels")) << "a wide drawing";
   c.Slope = 18;
-  c.Type = RafterType::kValley;
+  c.Type = Member::kValley;
   c.RoofType = 2;
   const DrawnElevation valley(c);
   EXPECT_GT(valley.X(20), valley.X(19)) << "the valley's tail is notched over the corner";
-  c.Type = RafterType::kLongValley;
+  c.Type = Member::kLongValley;
   c.RoofType = 10;
   EXPECT_TRUE(Shows(DrawnElevation(c), "45\u00BA bevel"));
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   c.RoofType = 0;
   EXPECT_FALSE(Shows(DrawnElevation(c), "45\u00BA bevels"));
 }

@@ -16,7 +16,7 @@ class Wood {
     const double base = c.Metric ? 1000 : 12;
     const double thickness = c.Metric ? 38 : 1.5;
     const double root2 = std::sqrt(2.0);
-    const bool hip = c.Type == RafterType::kHip;
+    const bool hip = c.Type == Member::kHip;
     const bool diagonal = hip || IsValley(c.Type);
     const double plan = diagonal ? root2 : 1;  // run of this member for one of common run
     const double common = c.Slope / base;      // tangent of the roof's slope
@@ -31,7 +31,7 @@ class Wood {
     double fascia = std::min(c.Fascia, commonPlumb);
     if (overhang_ == 0) fascia = std::min(fascia, heel);
     fascia_ = std::clamp(fascia - drop_, 0.0, plumb_);
-    const double allowance = c.Type == RafterType::kShed ? thickness : thickness / 2;
+    const double allowance = c.Type == Member::kShed ? thickness : thickness / 2;
     ridge_ = overhang_ + c.Run * plan - allowance * plan;
     commonTangent_ = common;
     plan_ = plan;

@@ -20,17 +20,17 @@ struct Row {
 // Tops of the fields in twips; kNo where the roof type has no such row.
 const Row kRows[] = {
     // name, roof, slope2, span0, span2, ridge0, ridge1, overhang, heel, seat, fascia, ridge, rafter, hipVal
-    {"gable", roof::kGable, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
-    {"shed", roof::kShed, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
-    {"dual slope", roof::kDualSlope, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
-    {"valley", roof::kValley, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, 3390},
-    {"bay", roof::kBay, kNo, kNo, kNo, kNo, kNo, 840, 1200, 1560, 2040, 2370, 2700, 3030},
-    {"Dutch hip", roof::kDutchHip, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
-    {"unequal", roof::kUnequalSpanValley, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
-    {"octagon", roof::kOctagon, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, kNo, 3090, 3420},
-    {"hip", roof::kHip, 860, 1200, kNo, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
-    {"blind", roof::kBlindValley, 860, 1200, kNo, 1560, 1920, kNo, kNo, kNo, kNo, 2730, 3060, 3390},
-    {"gambrel", roof::kGambrel, 860, 1560, 1200, 1920, 2280, 2640, 3000, 3360, 3750, 4470, 4110, kNo},
+    {"gable", Roof::kGable, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
+    {"shed", Roof::kShed, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
+    {"dual slope", Roof::kDualSlope, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, kNo},
+    {"valley", Roof::kValley, kNo, 840, kNo, kNo, kNo, 1200, 1560, 1920, 2400, 2730, 3060, 3390},
+    {"bay", Roof::kBay, kNo, kNo, kNo, kNo, kNo, 840, 1200, 1560, 2040, 2370, 2700, 3030},
+    {"Dutch hip", Roof::kDutchHip, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
+    {"unequal", Roof::kUnequalSpanValley, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
+    {"octagon", Roof::kOctagon, kNo, 840, 1200, kNo, kNo, 1560, 1920, 2280, 2760, kNo, 3090, 3420},
+    {"hip", Roof::kHip, 860, 1200, kNo, kNo, kNo, 1560, 1920, 2280, 2760, 3090, 3420, 3750},
+    {"blind", Roof::kBlindValley, 860, 1200, kNo, 1560, 1920, kNo, kNo, kNo, kNo, 2730, 3060, 3390},
+    {"gambrel", Roof::kGambrel, 860, 1560, 1200, 1920, 2280, 2640, 3000, 3360, 3750, 4470, 4110, kNo},
 };
 
 class RowLayoutTest : public testing::TestWithParam<Row> {};
@@ -40,7 +40,7 @@ int TopOf(const Control& control) { return control.Visible ? control.Top : kNo; 
 TEST_P(RowLayoutTest, FieldsStandWhereTheRoofTypePutsThem) {
   const Row& row = GetParam();
   Sheet sheet;
-  LayOutRows(sheet, roof::kGambrel, true);  // whatever stood before leaves nothing behind
+  LayOutRows(sheet, Roof::kGambrel, true);  // whatever stood before leaves nothing behind
   LayOutRows(sheet, row.roof, true);
   EXPECT_EQ(HasSecondSlope(row.roof), row.slope2 != kNo);
   EXPECT_EQ(TopOf(sheet.Span[0]), row.span0);
@@ -112,40 +112,40 @@ struct CaptionRow {
   const char* caption;
 };
 const CaptionRow kCaptions[] = {
-    {roof::kGable, 10, "Slope:"},
-    {roof::kGable, 11, "Run:"},
-    {roof::kGable, 0, "Kneewall:"},
-    {roof::kGable, 16, "Ridge:"},
-    {roof::kShed, 16, "Ledger:"},
-    {roof::kValley, 10, "Commn Slope:"},
-    {roof::kValley, 18, "Hip/Val:"},
-    {roof::kHip, 10, "Main Slope:"},
-    {roof::kHip, 20, "End Slope:"},
-    {roof::kDutchHip, 11, "Main Run:"},
-    {roof::kDutchHip, 20, "Dutch Run:"},
-    {roof::kDutchHip, 18, "Dutch Hip:"},
-    {roof::kUnequalSpanValley, 20, "Main Run:"},
-    {roof::kUnequalSpanValley, 16, "Ridges:"},
-    {roof::kUnequalSpanValley, 18, "Valleys:"},
-    {roof::kBay, 16, "Ledger:"},
-    {roof::kOctagon, 20, "Hip Run:"},
-    {roof::kOctagon, 16, "Jacks:"},
-    {roof::kOctagon, 17, "Hips:"},
-    {roof::kBlindValley, 10, "Addtn Slope:"},
-    {roof::kBlindValley, 11, "Main Slope:"},
-    {roof::kBlindValley, 12, "Addtn Span:"},
-    {roof::kBlindValley, 13, "Thrtcl Ridge:"},
-    {roof::kBlindValley, 14, "Actual Ridge:"},
-    {roof::kBlindValley, 17, "Jacks:"},
-    {roof::kBlindValley, 18, "Val Plates:"},
-    {roof::kGambrel, 10, "Upper Slope:"},
-    {roof::kGambrel, 20, "Lower Slope:"},
-    {roof::kGambrel, 11, "Upper Span:"},
-    {roof::kGambrel, 12, "Lower Span:"},
-    {roof::kGambrel, 13, "Upper Height:"},
-    {roof::kGambrel, 14, "Lower Height:"},
-    {roof::kGambrel, 0, "Overhang:"},
-    {roof::kGambrel, 22, "Purlins:"},
+    {Roof::kGable, 10, "Slope:"},
+    {Roof::kGable, 11, "Run:"},
+    {Roof::kGable, 0, "Kneewall:"},
+    {Roof::kGable, 16, "Ridge:"},
+    {Roof::kShed, 16, "Ledger:"},
+    {Roof::kValley, 10, "Commn Slope:"},
+    {Roof::kValley, 18, "Hip/Val:"},
+    {Roof::kHip, 10, "Main Slope:"},
+    {Roof::kHip, 20, "End Slope:"},
+    {Roof::kDutchHip, 11, "Main Run:"},
+    {Roof::kDutchHip, 20, "Dutch Run:"},
+    {Roof::kDutchHip, 18, "Dutch Hip:"},
+    {Roof::kUnequalSpanValley, 20, "Main Run:"},
+    {Roof::kUnequalSpanValley, 16, "Ridges:"},
+    {Roof::kUnequalSpanValley, 18, "Valleys:"},
+    {Roof::kBay, 16, "Ledger:"},
+    {Roof::kOctagon, 20, "Hip Run:"},
+    {Roof::kOctagon, 16, "Jacks:"},
+    {Roof::kOctagon, 17, "Hips:"},
+    {Roof::kBlindValley, 10, "Addtn Slope:"},
+    {Roof::kBlindValley, 11, "Main Slope:"},
+    {Roof::kBlindValley, 12, "Addtn Span:"},
+    {Roof::kBlindValley, 13, "Thrtcl Ridge:"},
+    {Roof::kBlindValley, 14, "Actual Ridge:"},
+    {Roof::kBlindValley, 17, "Jacks:"},
+    {Roof::kBlindValley, 18, "Val Plates:"},
+    {Roof::kGambrel, 10, "Upper Slope:"},
+    {Roof::kGambrel, 20, "Lower Slope:"},
+    {Roof::kGambrel, 11, "Upper Span:"},
+    {Roof::kGambrel, 12, "Lower Span:"},
+    {Roof::kGambrel, 13, "Upper Height:"},
+    {Roof::kGambrel, 14, "Lower Height:"},
+    {Roof::kGambrel, 0, "Overhang:"},
+    {Roof::kGambrel, 22, "Purlins:"},
 };
 
 TEST(RowLayouts, CaptionsFollowTheRoofType) {
@@ -159,19 +159,19 @@ TEST(RowLayouts, CaptionsFollowTheRoofType) {
 
 TEST(RowLayouts, AGambrelWithoutPurlinsHasARidge) {
   Sheet sheet;
-  LayOutRows(sheet, roof::kGambrel, false);
+  LayOutRows(sheet, Roof::kGambrel, false);
   EXPECT_EQ(sheet.Label[22].Caption, "Ridge:");
 }
 
 TEST(RowLayouts, KneewallAndLastCommonRows) {
   Sheet sheet;
-  LayOutRows(sheet, roof::kDualSlope, true);
+  LayOutRows(sheet, Roof::kDualSlope, true);
   EXPECT_TRUE(sheet.Kneewall[0].Visible && sheet.Kneewall[1].Visible);
-  LayOutRows(sheet, roof::kShed, true);
+  LayOutRows(sheet, Roof::kShed, true);
   EXPECT_TRUE(sheet.Kneewall[0].Visible);
   EXPECT_FALSE(sheet.Kneewall[1].Visible);
   EXPECT_FALSE(sheet.LastCommon.Visible);
-  LayOutRows(sheet, roof::kHip, true);
+  LayOutRows(sheet, Roof::kHip, true);
   EXPECT_FALSE(sheet.Kneewall[0].Visible);
   EXPECT_TRUE(sheet.LastCommon.Visible && sheet.HasLastCommon.Visible && sheet.Label[23].Visible);
 }

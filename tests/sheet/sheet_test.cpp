@@ -40,8 +40,8 @@ TEST(Sheet, AFieldIsCalledByTheLabelBesideIt) {
 
 TEST(RoofTypes, CodesAndPositions) {
   EXPECT_EQ(RoofTypes().size(), 11U);
-  EXPECT_EQ(ListIndexOfRoof(roof::kGambrel), 10);
-  EXPECT_EQ(ListIndexOfRoof(roof::kBastardHip), 3) << "a bastard hip stands under Hip";
+  EXPECT_EQ(ListIndexOfRoof(Roof::kGambrel), 10);
+  EXPECT_EQ(ListIndexOfRoof(Roof::kBastardHip), 3) << "a bastard hip stands under Hip";
   EXPECT_EQ(ListIndexOfRoof(6), -1);
   EXPECT_EQ(RoofTypeByCode(7), nullptr);
   EXPECT_EQ(RoofTypeByItem("hip"), nullptr) << "compared exactly";

@@ -145,7 +145,7 @@ TEST_F(Fields, RoofIsPickedByKeyboard) {
   ASSERT_NE(popup, nullptr);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(Document().RoofType, roof::kShed);
+  EXPECT_EQ(Document().RoofType, Roof::kShed);
   EXPECT_EQ(roof.count(), 11);
   EXPECT_TRUE(Find<QToolButton>("Shed").isChecked());
   EXPECT_FALSE(Find<QToolButton>("Gable").isChecked());

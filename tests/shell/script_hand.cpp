@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 
-#include "cli/script_line.h"
+#include "session/script_line.h"
 #include "core/number_text.h"
 #include "shell/twips.h"
 

@@ -280,7 +280,7 @@ TEST_P(RubbishTest, TheProgramStartsWorksAndLeavesSomethingBetter) {
     hand.Key(Qt::Key_Return);
     EXPECT_EQ(double(hand.Document().Rafter1.Span), 150);
     hand.Press("Hip");
-    EXPECT_EQ(hand.Document().RoofType, roof::kHip);
+    EXPECT_EQ(hand.Document().RoofType, Roof::kHip);
     for (int place = 0; place < 4; ++place) hand.Document().mnuFileMRU_Click(place);
     window.close();
   }
