@@ -11,6 +11,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "design/questions.h"
+#include "document/files.h"
+#include "document/menu_forms.h"
+#include "document/session_ends.h"
+#include "document/side_programs.h"
 #include "shell/entry_box.h"
 #include "shell/icons.h"
 #include "shell/twips.h"
@@ -37,7 +42,7 @@ QString DraggedProject(const QMimeData& dragged) {
 
 MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings) {
   setObjectName("frmDocument");
-  Start(Document());
+  pitchcraft::Start(Document());
   FitToScreens();
   menus_ = new MenuStrip(session_, this);
   tools_ = new ToolStrip(session_, this);
@@ -74,7 +79,7 @@ void MainWindow::FitToScreens() {
   if (place.Width <= room.width() && place.Height <= room.height()) return;
   place.Width = std::min(place.Width, room.width());
   place.Height = std::min(place.Height, room.height());
-  FollowSize(Document());
+  pitchcraft::FollowSize(Document());
 }
 
 template <typename Action>
@@ -129,7 +134,7 @@ void MainWindow::Open() {
     // A window that was put away is laid out only now.
     if (document.preferences.WindowState == kMinimized) {
       Document().preferences.WindowState = kNormal;
-      session_.Do([this](Actions&) { FollowSize(Document()); });
+      session_.Do([this](Actions&) { pitchcraft::FollowSize(Document()); });
     }
     show();
   }
@@ -147,7 +152,7 @@ void MainWindow::TakeDroppedProjects() {
 void MainWindow::OpenProject(const QString& path) {
   EntryBox::CommitFocused();
   const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
-  session_.Do([&](Actions&) { OpenProject(Document(), file); });
+  session_.Do([&](Actions&) { pitchcraft::OpenProject(Document(), file); });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -164,7 +169,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::ShowStartForms() {
-  session_.Do([this](Actions&) { ShowStartForms(Document()); });
+  session_.Do([this](Actions&) { pitchcraft::ShowStartForms(Document()); });
 }
 
 // --- The document's state into the widgets
@@ -258,7 +263,7 @@ void MainWindow::FollowSize() {
 // Under an open form the parts follow at once; what is drawn is drawn for the new size when the form is
 // closed.
 void MainWindow::LayOut() {
-  if (session_.Do([this](Actions&) { FollowSize(Document()); })) return;
+  if (session_.Do([this](Actions&) { pitchcraft::FollowSize(Document()); })) return;
   layoutIsDue_ = true;
   Sync();
 }
@@ -285,7 +290,7 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!closed_) {
     closed_ = true;
-    Close(Document());
+    pitchcraft::Close(Document());
   }
   event->accept();
 }

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <cmath>
 
+#include "design/questions.h"
+#include "document/pages.h"
 #include "platform/picture_files.h"
 #include "shell/entry_box.h"
 #include "shell/field_look.h"
@@ -33,7 +35,7 @@ PictureView::PictureView(Session& session, int picture, QWidget* window)
 
 void PictureView::Sync() {
   const Document& document = session_.Document();
-  const Subject now{document.design.RoofType, PageShown(document.design), HasDrawing()};
+  const Subject now{static_cast<int>(document.design.RoofType), PageShown(document.design), HasDrawing()};
   if (now != subject_) {
     subject_ = now;
     zoom_.Fit();
@@ -178,7 +180,7 @@ void PictureView::PressAt(int button, QPointF place, const QPoint& onScreen) {
   const QPointF at = zoom_.ToDrawing(place) * kTwipsPerPixel;
   const MenuItem* popup = nullptr;
   session_.Do([&](Actions&) {
-    popup = session_.Document().Picture_MouseDown(picture_, button, qRound(at.x()), qRound(at.y()));
+    popup = PressOnFigure(session_.Document(), button, qRound(at.x()));
   });
   if (popup != nullptr) ShowPopup(session_, *popup, onScreen, actions());
 }

@@ -25,7 +25,7 @@ bool IsOption(const Menus& menus, const MenuItem& item) {
 
 }  // namespace
 
-QAction* MakeMenuAction(Session& session, MenuItem& item, QObject* parent) {
+QAction* MakeMenuAction(Session& session, const MenuItem& item, QObject* parent) {
   auto* action = new QAction(parent);
   action->setObjectName(QString::fromStdString(item.Name));
   action->setSeparator(item.IsSeparator());
@@ -53,8 +53,8 @@ void SyncMenuAction(QAction& action, const MenuItem& item) {
   action.setVisible(item.Visible);
 }
 
-std::vector<std::pair<MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu) {
-  std::vector<std::pair<MenuItem*, QAction*>> rows;
+std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu) {
+  std::vector<std::pair<const MenuItem*, QAction*>> rows;
   for (MenuItem* item : session.Document().design.menus.ItemsUnder(holder)) {
     rows.emplace_back(item, MakeMenuAction(session, *item, &menu));
     menu.addAction(rows.back().second);

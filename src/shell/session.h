@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "document/actions.h"
+#include "document/pages.h"
 #include "document/document.h"
 
 namespace pitchcraft {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QShortcut>
 
+#include "document/menu_actions.h"
 #include "shell/entry_box.h"
 #include "shell/hint_watcher.h"
 #include "shell/icons.h"
@@ -59,7 +60,7 @@ ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), sessi
 // The keys serve while the bar is hidden, too, where a hand could not press the button.
 void ToolStrip::PressByKeys(std::string_view key) {
   EntryBox::CommitFocused();
-  session_.Do([&](Actions&) { session_.Document().tbToolBar_ButtonClick(key); });
+  session_.Do([&](Actions&) { PressToolButton(session_.Document(), key); });
 }
 
 void ToolStrip::Sync() {
@@ -71,7 +72,7 @@ void ToolStrip::Sync() {
     moved = moved || button.isHidden() == rows[i].Visible;
     button.setCheckable(checkable);
     button.setChecked(rows[i].Pressed);
-    button.setEnabled(session_.Document().ToolButtonEnabled(rows[i]));
+    button.setEnabled(IsToolButtonEnabled(session_.Document(), rows[i]));
     button.setVisible(rows[i].Visible);
   }
   if (moved) Place();
