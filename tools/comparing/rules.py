@@ -1,0 +1,217 @@
+"""The reasons for which two builds of the driver may differ.
+
+REASONS is a table of Reason rows, looked through from the top; the first that explains a difference has it. To add one,
+copy this file, add a row, and give the copy with --reasons. A row looks at a Situation: `lines` and `line` (the script
+up to here), `old` and `new` (the dumps after the line), `oldBefore` and `newBefore`, `oldEvents` and `newEvents`,
+`roof` and `page`; and it may run the older driver again (`OldAgain`, `DrawnAgain`). It should prove what it says, not
+only look at the path.
+"""
+
+import math
+import re
+import struct
+
+from comparing.reasons import Reason
+
+HIP, DUTCH_HIP, UNEQUAL_SPAN_VALLEY, BLIND_VALLEY = 1, 8, 10, 11
+BASTARD_HIP = 16
+OVERHANG_ENTRY = re.compile(r"(type|enter) FtOverhang\(0\)|spin Spin\(1\) ")
+RIDGE_ENTRY = re.compile(r"(type|enter) FtRidge\(\d\)|spin Spin\([34]\) ")
+JOB = re.compile(r"click (mnuFilePrint|mnuFileExport(DXF|Metafile)|mnuPopUp[12](Print|DXF))$|press Print$|picture ")
+FILE_TROUBLE = {"Save Rafter", "Load Rafter", "mnuFileExportDXF_Click", "mnuFileExportMetafile_Click"}
+
+
+def IsDrawing(difference):
+    return difference.path.startswith("drawing")
+
+
+def AsSingle(number):
+    try:
+        return struct.unpack("f", struct.pack("f", number))[0]
+    except (OverflowError, TypeError, struct.error):
+        return number
+
+
+def AsNumber(text):
+    found = re.match(r"\s*[-+]?(\d+\.?\d*|\.\d+)([eE][-+]?\d+)?", str(text))
+    return float(found[0]) if found else 0.0
+
+
+def IsPlainHip(dump):
+    return bool(dump) and dump["document"]["RoofType"] == HIP and dump["Rafter1"]["RafterType"] != BASTARD_HIP
+
+
+# --- R8, R10, R1: which picture shows
+
+
+def OverhangWaits(situation, difference):
+    """The picture is that of the same script without the entries of the overhang that wait."""
+    if not IsDrawing(difference) or not IsPlainHip(situation.new):
+        return False
+    entries = [place for place, line in enumerate(situation.lines) if OVERHANG_ENTRY.match(line)]
+    for count in range(1, min(4, len(entries)) + 1):
+        without = entries[-count:]
+        dump, _ = situation.OldAgain(without=without)
+        if dump and situation.SameDrawing(dump["drawing"]) or situation.SameDrawing(situation.DrawnAgain(without)[0]):
+            return True
+    return False
+
+
+def SlopeModeRedraws(situation, difference):
+    return (IsDrawing(difference) and situation.Is("click mnuSettingsDegrees", "click mnuSettingsRiseOverRun")
+            and situation.SameDrawing(situation.DrawnAgain()[0]))
+
+
+def PageIsDrawn(situation, difference):
+    """The picture, and what a drawing that fails tells."""
+    if not situation.new or situation.new["document"]["CurrentTab"] != situation.page:
+        return False
+    if IsDrawing(difference):
+        return situation.SameDrawing(situation.DrawnAgain()[0])
+    message = difference.old or difference.new
+    if difference.path != "event message" or not message["title"].startswith("Draw"):
+        return False
+    told = message in situation.DrawnAgain()[1]
+    return told == (difference.old is None)
+
+
+def DrawBeforeJob(situation):
+    """What is printed, exported or written is the picture, so it shows there, too, that the page is drawn."""
+    return [[f"page VSTab(0) {situation.page}", situation.line]] if JOB.match(situation.line) else []
+
+
+# --- R13
+
+
+def BlankHasNoPoints(situation, difference):
+    """Both pictures are blank and differ only in the points of the picture before."""
+    if not IsDrawing(difference) or not situation.new:
+        return False
+    visible = [{name: value for name, value in dump["drawing"].items() if name not in ("Pts", "PointFactor")}
+               for dump in (situation.old, situation.new)]
+    return visible[0] == visible[1] and not visible[0]["operations"]
+
+
+# --- R2
+
+
+def TurnToFirstPage(situation):
+    if not situation.Is("pick cboType") or situation.oldBefore.get("document", {}).get("CurrentTab", 0) == 0:
+        return []
+    first = "page VSTab(0) 0"
+    return [[first, situation.line], [situation.line, first]]
+
+
+def TurnedToFirstPage(situation, difference):
+    where = ("document.CurrentTab", "tabs.VSTab(0).Page", "drawing", "sheet.txtSpacing.Vis", "sheet.cboSpacing.Vis")
+    turned = bool(TurnToFirstPage(situation)) and situation.new["tabs"]["VSTab(0)"]["Page"] == 0
+    return turned and difference.path.startswith(where)
+
+
+# --- R3
+
+
+def EqualSlopesByNumber(situation, _):
+    """The older driver has a hip of unequal slopes whose two slopes are one 32-bit number."""
+    old, new = situation.old, situation.new
+    if not old or not IsPlainHip(new) or old["document"]["RoofType"] != HIP:
+        return False
+    slopes = [AsSingle(old["sheet"][f"LWSlope({row})"]["LeftValue"]) for row in (0, 2)]
+    unequal = old["Rafter1"]["RafterType"] == BASTARD_HIP or "Hip End" in old["tabs"]["VSTab(0)"]["Caption"]
+    return unequal and slopes[0] == slopes[1]
+
+
+# --- R4
+
+
+def ToldTwice(situation, difference):
+    message = difference.old
+    if difference.path != "event message" or difference.new is not None:
+        return False
+    return situation.oldEvents.count(message) > situation.newEvents.count(message) >= 1
+
+
+# --- R5, R7, R11: values that stand beside the calculation
+
+
+def RearDegreesFollow(situation, difference):
+    """The record takes its end's degrees from the degrees."""
+    return (difference.path in ("Rafter2.degrees", "Rafter2.HipEndDegrees")
+            and situation.roof in (DUTCH_HIP, UNEQUAL_SPAN_VALLEY)
+            and difference.new == situation.new["Rafter1"]["degrees"])
+
+
+def MainDegreesFollow(situation, difference):
+    if not difference.path.startswith("sheet.cboDegrees(2).") or situation.roof != BLIND_VALLEY:
+        return False
+    if not RIDGE_ENTRY.match(situation.line):
+        return False
+    slope = situation.new["sheet"]["LWSlope(2)"]["LeftValue"]
+    shown = AsNumber(situation.new["sheet"]["cboDegrees(2)"]["Text"])
+    if isinstance(slope, str):
+        return False
+    return abs(math.degrees(math.atan(slope / situation.new["document"]["UnitRun"])) - shown) < 0.006
+
+
+def EntryWaits(situation, difference):
+    if difference.path != "status":
+        return False
+    waits = situation.new.get("waiting") or situation.newBefore.get("waiting")
+    return bool(waits) or IsPlainHip(situation.new) and bool(OVERHANG_ENTRY.match(situation.line))
+
+
+# --- R6
+
+
+def SolveOnceMore(situation):
+    refused = any(event.get("title") == "Dutch Hip Dimensions" for event in situation.oldEvents)
+    if not refused or situation.roof != DUTCH_HIP:
+        return []
+    # To choose the ledger that is chosen already calculates both rafters and changes nothing else.
+    ledger = 0 if situation.old["menus"]["mnuDutchLedger(0)"]["Checked"] else 1
+    return [[situation.line, f"click mnuDutchLedger({ledger})"]]
+
+
+def SolvedOnceMore(situation, difference):
+    return bool(SolveOnceMore(situation)) and difference.path.startswith(("Rafter2.", "sheet.Ft", "drawing"))
+
+
+# --- R9
+
+
+def JobKeepsType(situation, difference):
+    """After the job the new driver has the type from before it, the older one has not."""
+    found = re.fullmatch(r"(Rafter[12])\.RafterType", difference.path)
+    return bool(found and JOB.match(situation.line)
+                and difference.new == situation.newBefore[found[1]]["RafterType"] != difference.old)
+
+
+# --- R12
+
+
+def FileWorkFailed(situation, difference):
+    """The older driver's status knows of lines that were refused and of pictures, not of the rest."""
+    if difference.path != "exit" or (difference.old, difference.new) != (0, 1):
+        return False
+    moments = situation.examiner.new.moments
+    events = [event for moment in moments for event in moment.events if event["event"] == "message"]
+    return any(event["title"] in FILE_TROUBLE or event["title"].startswith(("Print", "Export")) for event in events)
+
+
+REASONS = [
+    Reason("R2", "a roof picked from the list on a later page turns to the first page",
+           TurnedToFirstPage, instead=TurnToFirstPage, taints=True),
+    Reason("R6", "after a refused Dutch run the solver runs once more",
+           SolvedOnceMore, instead=SolveOnceMore, taints=True),
+    Reason("R3", "a hip whose slopes are equal as 32-bit numbers is a plain hip", EqualSlopesByNumber, taints=True),
+    Reason("R10", "the slope mode redraws at once", SlopeModeRedraws),
+    Reason("R8", "the overhang of a plain hip waits everywhere", OverhangWaits),
+    Reason("R13", "a blank picture has none of the points of the picture before", BlankHasNoPoints),
+    Reason("R1", "the page shown is drawn", PageIsDrawn, instead=DrawBeforeJob),
+    Reason("R4", "one message an action where a failing drawing was told twice", ToldTwice),
+    Reason("R5", "the degrees of the second rafter follow those of the first", RearDegreesFollow),
+    Reason("R7", "the degrees of a blind valley's main slope follow its slope", MainDegreesFollow),
+    Reason("R9", "a print or an export leaves the rafter's type alone", JobKeepsType, taints=True),
+    Reason("R11", "the status line tells of an entry that waits", EntryWaits),
+    Reason("R12", "a save, open, export or print that failed gives status 1", FileWorkFailed),
+]
