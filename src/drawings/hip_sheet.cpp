@@ -1,4 +1,4 @@
-// The printed sheets of a hip roof's plan and layout: which measures stand in which column.
+// The prints of a hip roof's plan and layout: which measure goes into which column.
 #include "drawings/hip_sheet.h"
 
 #include "drawings/hip_plan.h"
@@ -13,7 +13,7 @@ std::string RoofName(const Rafter& rafter) { return IsBastard(rafter) ? "Bastard
 }  // namespace
 
 std::string HipPlanTitle(const Rafter& rafter) {
-  // As with the notes of the layout, only a wall that was moved is told of.
+  // As in the notes of the layout, the adjustment is mentioned only if a wall was moved.
   const bool adjusted = IsBastard(rafter) && rafter.HipEndOverhangExcess != 0;
   return RoofName(rafter) + " - Plan View" + (adjusted ? " (adjusted to make overhangs equal)" : "");
 }
@@ -28,7 +28,7 @@ SheetColumns HipRows(const Rafter& rafter, const PrintContext& context) {
     return label + std::string(" = ") + context.LengthText(value);
   };
   const HipOutline outline = OutlineOfHip(rafter, context.Drawing.HipLayout);
-  // One jack is longer than the next by the difference of a unit along the wall, times the spacing.
+  // Each jack is longer than the next by the difference for one unit along the wall, times the spacing.
   const double spacing = rafter.spacing;
   SheetColumns columns;
   columns[0] = {Row("Common Rafter Run", fields.Span[0]), Row("Common Overhang", fields.Overhang[0]),
@@ -42,7 +42,7 @@ SheetColumns HipRows(const Rafter& rafter, const PrintContext& context) {
                 length("Hip End CommonDifference", rafter.HipEndCommonDifference * spacing)};
   columns[2] = {Row("Common", fields.Common[0]), Row("Hip", fields.HipOrValley), Row("Ridge", fields.Ridge)};
   if (context.Drawing.SquareCut) columns[2].push_back(Row("Fascia", fields.Fascia[0]));
-  // Where it is drawn: a field that tells less than the run to the peak is raised to it.
+  // The place where it is drawn: a field with less than the run to the peak counts as that run.
   if (outline.LastCommon)
     columns[2].push_back(length("Last Common (distance o.c. from corner)", *outline.LastCommon));
   return columns;
