@@ -1,4 +1,4 @@
-// docs/project-file.md, made from the tables of keys and losses.
+// docs/project-file.md, generated from the tables of keys and losses.
 #include <vector>
 
 #include "sheet/roof_types.h"

@@ -10,10 +10,9 @@ namespace {
 using Parts = ProjectParts;
 using S = ProjectStep;
 
-// --- Where a value is kept: how it is written and how it is put back
-// ------------------------------------------------
+// Where a value is kept: how it is written and how it is put back.
 
-/// The pair of functions of one place.
+/// The two functions for one place.
 struct Place {
   std::string (*write)(const Parts&);
   void (*putBack)(const Parts&, const std::string&);
@@ -31,7 +30,7 @@ constexpr Place Rear() {
           [](const Parts& p, const std::string& text) { p.Rafter2.*Member = LeadingNumber(text); }};
 }
 
-/// A bay is carried by the first rafter, the bay of a Dutch hip by the second.
+/// The first rafter carries a bay, the second one the bay of a Dutch hip.
 Rafter& BayRafter(const Parts& p) { return p.RoofType == roof::kDutchHip ? p.Rafter2 : p.Rafter1; }
 
 template <Single Rafter::*Member, MeasureControl Sheet::*Field>
@@ -74,8 +73,7 @@ constexpr Place Check() {
   return {[](const Parts& p) -> std::string { return (p.menus.*Item).Checked ? "True" : "False"; }, nullptr};
 }
 
-/// The box of degrees. The slope of a rafter knows its angle from there, but for a gambrel, whose solver
-/// gives it.
+/// The box of degrees. It also sets the rafter's slope angle, except for a gambrel, whose solver does that.
 template <std::size_t Index>
 constexpr Place DegreesBox() {
   return {TextOf<&Sheet::Degrees, Index>().write, [](const Parts& p, const std::string& text) {
@@ -85,7 +83,7 @@ constexpr Place DegreesBox() {
           }};
 }
 
-/// The solver of a gambrel takes the overhang from its field.
+/// The solver of a gambrel takes the overhang from the field.
 constexpr Place MainOverhang() {
   return {Front<&Rafter::Overhang>().write, [](const Parts& p, const std::string& text) {
             p.Rafter1.Overhang = LeadingNumber(text);
@@ -145,9 +143,6 @@ constexpr ProjectKey Row(const char* key, const char* what, const char* missing,
                          RoofSet read, ProjectStep step, Place place) {
   return {key, what, missing, written, read, step, place.write, place.putBack};
 }
-
-// --- The table
-// --------------------------------------------------------------------------------------------------------------
 
 constexpr RoofSet kAll = RoofSet::All();
 constexpr RoofSet kKneewalls{roof::kGable, roof::kShed, roof::kDualSlope};
