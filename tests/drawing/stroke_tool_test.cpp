@@ -1,4 +1,4 @@
-// The pen: absolute and relative entry, the last point, the bounds it reports.
+// The pen: absolute and relative entry, the last point, and the bounds it reports.
 #include "drawing/stroke_tool.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-// Characters one by one: where each stands, how it is turned, how large it is.
+// Characters one by one: the place, angle and size of each.
 #include <gtest/gtest.h>
 
 #include "core/run_time_error.h"
