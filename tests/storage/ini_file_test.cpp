@@ -1,4 +1,4 @@
-// The text of sections and keys, in every form that it is found in.
+// The text of sections and keys, in every form in which it occurs.
 #include "storage/ini_file.h"
 
 #include <gtest/gtest.h>
