@@ -59,7 +59,7 @@ struct Layout {
 
 int main() {
   using pitchcraft::Layout;
-  constexpr int kHundredFeet = 100;  // 50 feet of run at 12" have 50 jacks a face
+  constexpr int kHundredFeet = 100;  // a run of 50 feet at 12" has 50 jacks on each face
   Layout ten(10);
   Layout hundredFeet(kHundredFeet);
   Layout thousand(1000);

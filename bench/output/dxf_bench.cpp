@@ -59,8 +59,8 @@ double Median(std::vector<double> values) {
 }
 
 int Compare(const std::string& folder) {
-  std::vector<double> saved;  // until the disk has it: the file is whole even if the machine stops
-  std::vector<double> told;   // until the bytes are there
+  std::vector<double> saved;  // until it is on the disk, so that the file is whole even if the machine stops
+  std::vector<double> told;   // until the bytes exist
   std::size_t size = 0;
   for (int i = 0; i < kRounds; ++i) {
     saved.push_back(Milliseconds([&](DxfWriter& writer) {

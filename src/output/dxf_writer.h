@@ -75,7 +75,7 @@ class DxfWriter {
   // These apply to what is added after they are set.
   Single TextHeight = 2;
   std::string TextAlign = "L";  ///< "L", "C" or "R"; anything else is "L"
-  int Color = kDxfByLayer;      ///< of lines and texts; a number that is no colour means that of the layer
+  int Color = kDxfByLayer;      ///< of lines and texts; an invalid number means the colour of the layer
 
  private:
   void Add(DxfDimension dimension, std::optional<Single> textX = {}, std::optional<Single> textY = {});

@@ -8,7 +8,7 @@ namespace {
 
 struct ReadCase {
   const char* text;
-  const char* value;  // of key Span in section Settings; null where there is none
+  const char* value;  // of key Span in section Settings; null if there is none
 };
 
 TEST(IniTextTest, Reads) {
