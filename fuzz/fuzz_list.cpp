@@ -1,4 +1,4 @@
-// Any bytes as the files of the lists: the document starts, and every row that is shown can be picked.
+// Any bytes as list files: the document starts, and every row that it shows can be picked.
 #include <unistd.h>
 
 #include <cstddef>

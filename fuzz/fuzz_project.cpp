@@ -1,5 +1,5 @@
-// Any bytes opened as a project: the document answers afterwards, loading has ended, and what is then saved
-// can be opened again.
+// Any bytes opened as a project: afterwards the document still responds, it is no longer loading, and what it
+// saves can be opened again.
 #include <unistd.h>
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Any bytes run as a script: every event is one JSON object on a line, the status is one of three, and the
-// document answers afterwards.
+// Any bytes run as a script: every event is one JSON object on a line, the exit status is one of the three,
+// and the document still responds afterwards.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Rooms use only what stands below them, and only the rooms at the edge see Qt.
+# Checks that rooms use only the rooms below them, and that only the rooms at the edge use Qt.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
-# A room may use the rooms named behind it. They stand above it in this table, so no cycle can be allowed.
+# A room may use the rooms listed after it. Those must come before it in this table, so there can be no cycle.
 table="
 core     :
 files    :
@@ -31,7 +31,7 @@ declare -A uses=()
 while read -r room _ allowed; do
   [ -n "$room" ] || continue
   for used in $allowed; do
-    [ "$used" = Qt ] || [ -n "${uses[$used]+known}" ] || fail "the table lets $room use $used, which stands below it"
+    [ "$used" = Qt ] || [ -n "${uses[$used]+known}" ] || fail "the table lets $room use $used, which is below it in the table"
   done
   uses[$room]=" $room $allowed "
 done <<<"$table"

@@ -1,4 +1,4 @@
-// How fast each calculation of the record is beside the same formulas in a plain loop. Both are timed in one
+// Compares each calculation of the record with the same formulas in a plain loop. Both are timed in the same
 // run; what counts is their ratio, printed last.
 #include <benchmark/benchmark.h>
 
@@ -115,7 +115,7 @@ void RunPlain(benchmark::State& state, const Procedure& procedure) {
   state.SetItemsProcessed(state.iterations() * kRoofs);
 }
 
-// A yardstick that reckoned something else would be worth nothing.
+// A comparison is worth nothing if the two calculate different things.
 void CheckThatBothAgree(const Procedure& procedure) {
   for (int roof = 0; roof < kRoofs; ++roof) {
     Rafter record;
@@ -135,7 +135,7 @@ void CheckThatBothAgree(const Procedure& procedure) {
   }
 }
 
-// Collects the times, and at the end prints each procedure's beside that of its loop.
+// Collects the times and finally prints those of each procedure next to those of its loop.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {

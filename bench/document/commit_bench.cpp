@@ -1,6 +1,6 @@
-// What a commit costs: from the typed text to the finished recording, beside painting that recording; and how
-// many commits of a script the driver takes in a second. All are timed in turn in one run; medians are
-// compared.
+// What a commit costs, from the typed text to the finished recording, compared with painting that recording;
+// and how many commits of a script the driver handles in a second. They are timed alternately in one run, and
+// the medians are compared.
 #include <QImage>
 #include <QPainter>
 #include <algorithm>

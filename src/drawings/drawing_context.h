@@ -1,4 +1,4 @@
-// What a drawing reads beside the rafter: the document's shared values, checks and colours.
+// What a drawing needs besides the rafter: shared values of the document, settings and colours.
 #pragma once
 
 #include "drawing/recording.h"

@@ -42,7 +42,7 @@ void TakeCommon(ElevationMember& member, const Rafter& rafter, const DrawingCont
   }
 }
 
-/// The end of a bastard hip roof climbs from its own wall to the ridge.
+/// The end of a bastard hip roof rises from its own wall to the ridge.
 void TakeHipEndCommon(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   member.HipEnd = true;
   member.Run = rafter.AdjHipEndSpan;
@@ -54,7 +54,7 @@ void TakeHipEndCommon(ElevationMember& member, const Rafter& rafter, const Drawi
   member.Heel = rafter.HipEndHeel;
   member.Seat = rafter.HipEndSeat;
   member.Fascia = rafter.HipEndFasciaCut;
-  // Without an overhang nothing in front of the wall carries more than the heel.
+  // Without an overhang, the wood in front of the wall line is no higher than the heel.
   if (member.Overhang == 0) member.Fascia = std::min<double>(member.Fascia, member.Heel);
   member.Depth = rafter.Depth;
   member.Slope = rafter.HipEndSlope;
@@ -76,9 +76,10 @@ void TakeBastardHip(ElevationMember& member, const Rafter& rafter, const Drawing
   member.Slope = rafter.HipValSlope;
   member.UnitRun = context.UnitRun;
   const double angle = rafter.HipAngle1 * kRadiansPerDegree;
-  // The lower corner of the two fascias lies as far from both eaves; on the hip its two distances add up.
+  // Where the two fascias meet, the lower corner is equally far from both eaves; seen along the hip, the two
+  // distances add up.
   member.FasciaFactor = std::sin(angle) + std::cos(angle);
-  // The cheek towards the main roof fits the main fascia at the tail and the main common at the ridge.
+  // The cheek towards the main roof meets the main fascia at the tail and the main common at the ridge.
   member.TailBevels = {rafter.HipAngle2, rafter.HipAngle1};
   member.RidgeBevels = {rafter.HipAngle1, rafter.HipAngle2};
 }
@@ -86,8 +87,8 @@ void TakeBastardHip(ElevationMember& member, const Rafter& rafter, const Drawing
 void TakeHipOrValley(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   const bool hip = member.Family == ElevationFamily::kHip;
   member.Run = hip ? double{rafter.AdjHipSpan} : double{rafter.AdjValSpan};
-  // A heel of 0 takes the overhang away after the hip's was worked out from it: the rises then end at the
-  // wall.
+  // A heel of 0 removes the overhang, but only after the hip's overhang was calculated from it: the rises
+  // then end at the wall.
   if (rafter.Overhang != 0) member.Overhang = rafter.HipValOverhang;
   member.RunWithOverhang = member.Run + member.Overhang;
   member.PlumbCut = rafter.HipValPlumbCut;
@@ -100,7 +101,7 @@ void TakeHipOrValley(ElevationMember& member, const Rafter& rafter, const Drawin
   member.FasciaFactor = std::sqrt(2.0);
 }
 
-/// What cannot be cut from the lumber ends at its edges: a drop that eats up the heel leaves none, a fascia
+/// What the lumber has no wood for ends at its edges: a drop greater than the heel leaves no heel, the fascia
 /// ends at the underside, a heel deeper than the lumber has no seat.
 void KeepWithinLumber(ElevationMember& member) {
   if (member.Heel < 0) {

@@ -1,4 +1,4 @@
-// The printed sheets of a hip roof's plan and layout: which measures stand in which column.
+// The prints of a hip roof's plan and layout: which measure goes into which column.
 #include "drawings/hip_sheet.h"
 
 #include "drawings/hip_plan.h"
@@ -13,7 +13,7 @@ std::string RoofName(const Rafter& rafter) { return IsBastard(rafter) ? "Bastard
 }  // namespace
 
 std::string HipPlanTitle(const Rafter& rafter) {
-  // As with the notes of the layout, only a wall that was moved is told of.
+  // As in the notes of the layout, the adjustment is mentioned only if a wall was moved.
   const bool adjusted = IsBastard(rafter) && rafter.HipEndOverhangExcess != 0;
   return RoofName(rafter) + " - Plan View" + (adjusted ? " (adjusted to make overhangs equal)" : "");
 }
@@ -28,7 +28,7 @@ SheetColumns HipRows(const Rafter& rafter, const PrintContext& context) {
     return LumberRow(context, label, thickness, depth);
   };
   const HipOutline outline = OutlineOfHip(rafter, context.Drawing.HipLayout);
-  // One jack is longer than the next by the difference of a unit along the wall, times the spacing.
+  // Each jack is longer than the next by the difference for one unit along the wall, times the spacing.
   const double spacing = rafter.spacing;
   SheetColumns columns;
   columns[0] = {length("Common Rafter Run", rafter.Span), length("Common Overhang", rafter.Overhang),

@@ -1,4 +1,4 @@
-// How the two ends of a hip or valley rafter are labelled, as seen from below.
+// The labels of the two ends of a hip or valley rafter, as seen from below.
 #pragma once
 
 #include <string>
@@ -9,8 +9,7 @@
 
 namespace pitchcraft {
 
-/// The rows of either end from the top down: one for both cheeks, or one for each. None where an end is
-/// square.
+/// The rows of either end from the top down: one for both cheeks, or one for each; none for a square end.
 struct EndLabels {
   std::vector<std::string> Tail;
   std::vector<std::string> Ridge;

@@ -1,4 +1,4 @@
-// The printed sheet of one rafter: which measures stand in which column.
+// The print of one rafter: which measure goes into which column.
 #include "drawings/rafter_sheet.h"
 
 #include "drawings/rafter_elevation.h"
@@ -19,7 +19,7 @@ struct TitleRow {
   const char* Title;
 };
 
-// A roof whose two rafters are of one type has a row for each: the first is the front roof's.
+// A roof with two rafters of one type has a row for each; the front roof's comes first.
 constexpr TitleRow kTitles[] = {
     {Roof::kGable, Member::kCommon, "Gable Roof - Common Rafter"},
     {Roof::kShed, Member::kShed, "Shed Roof - Rafter"},
@@ -81,7 +81,7 @@ class RowBuilder {
             Length(member + "Heel", rafter_.CommonHeel), Length(member + "Seat", rafter_.CommonSeat)};
   }
 
-  /// `hipOrValley` names the member whose lumber stands between common and ridge; null where there is none.
+  /// `hipOrValley` names the member whose lumber is listed between common and ridge; null if there is none.
   Rows Lumber(const char* hipOrValley) const {
     Rows rows{LumberRow(context_, "Common", rafter_.Thickness, rafter_.Depth)};
     if (hipOrValley != nullptr)
@@ -116,7 +116,7 @@ class RowBuilder {
     rows.push_back(Length("Hip Drop", rafter_.HipDrop));
     rows.push_back(Length("Ridge Allowance", rafter_.HipRidgeAllowance));
     rows.push_back(Length("Adjusted Run", rafter_.AdjHipSpan));
-    // The record's difference at 24 is that of two base runs, which are 24 inches but two metres.
+    // The record's own difference at 24 is for two units of run: 24 inches, but two metres.
     const std::string inch = context_.Drawing.UnitRun == 12 ? "\"" : "";
     rows.push_back(Length("CommonDiff 16" + inch, rafter_.CommonDifference * 16));
     rows.push_back(Length("CommonDiff 24" + inch, rafter_.CommonDifference * 24));

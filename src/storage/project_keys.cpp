@@ -9,10 +9,9 @@ namespace {
 
 using S = ProjectStep;
 
-// --- Where a value is kept: how it is written and how it is put back
-// ------------------------------------------------
+// Where a value is kept: how it is written and how it is put back.
 
-/// The pair of functions of one place.
+/// The two functions for one place.
 struct Place {
   std::string (*write)(const Design&);
   void (*putBack)(Design&, const std::string&);
@@ -82,7 +81,7 @@ constexpr Place DegreesBox() {
           }};
 }
 
-/// The solver of a gambrel takes the overhang from its field.
+/// The solver of a gambrel takes the overhang from the field.
 constexpr Place MainOverhang() {
   return {Front<&Rafter::Overhang>().write, [](Design& p, const std::string& text) {
             p.Rafter1.Overhang = LeadingNumber(text);
@@ -162,9 +161,6 @@ constexpr ProjectKey Row(const char* key, const char* what, const char* missing,
   return {key, what, missing, written, read, step, place.write, place.putBack};
 }
 
-// --- The table
-// --------------------------------------------------------------------------------------------------------------
-
 constexpr RoofSet kAll = RoofSet::All();
 constexpr RoofSet kKneewalls{Roof::kGable, Roof::kShed, Roof::kDualSlope};
 constexpr RoofSet kHip{Roof::kHip};
@@ -184,18 +180,18 @@ using R = Rafter;
 constexpr ProjectKey kKeys[] = {
     // key, what it holds, default, written for, read for, how it is read, where it is kept
     Row("Units", "0 imperial, 1 metric", "0", kAll, kAll, S::kUnits, Choice(UnitsText)),
-    Row("Degrees", "1 where slopes are entered in degrees, else 0", "0", kAll, kAll, S::kSlopeMode, Choice(SlopeModeText)),
+    Row("Degrees", "1 if slopes are entered in degrees, otherwise 0", "0", kAll, kAll, S::kSlopeMode, Choice(SlopeModeText)),
     Row("Degrees0", "text of cboDegrees(0)", "", kAll, kAll, S::kPutBackTwice, DegreesBox<0>()),
     Row("Degrees1", "text of cboDegrees(1)", "", kAll, kAll, S::kPutBackTwice, DegreesBox<1>()),
     Row("Degrees2", "text of cboDegrees(2)", "", kAll, kAll, S::kPutBackTwice, DegreesBox<2>()),
-    Row("RafterType", "the roof, see below", "0", kAll, kAll, S::kRafterType, Choice(RoofText)),
+    Row("RafterType", "the roof's number", "0", kAll, kAll, S::kRafterType, Choice(RoofText)),
     Row("Slope", "Rafter1.Slope", "1", kAll, kAll, S::kPutBackTwice, Front<&R::Slope>()),
     Row("Span", "Rafter1.Span", "144", kAll, kAll, S::kPutBackTwice, Front<&R::Span>()),
     Row("Overhang", "Rafter1.Overhang", "6", kAll, kAll, S::kPutBackTwice, MainOverhang()),
     Row("Heel", "Rafter1.Heel", "0", kAll, kAll, S::kPutBackTwice, Front<&R::Heel>()),
     Row("Seat", "Rafter1.Seat", "0", kAll, kAll, S::kPutBackTwice, Front<&R::Seat>()),
     Row("FasciaThickness", "Rafter1.FasciaThickness", "1.5", kAll, kAll, S::kPutBackTwice, Front<&R::FasciaThickness>()),
-    Row("FasciaHeight", "Rafter1.FasciaHeight; of a gambrel that of Rafter2", "5.5", kAll, kAll, S::kPutBackTwice, {FasciaHeightText, Front<&R::FasciaHeight>().putBack}),
+    Row("FasciaHeight", "Rafter1.FasciaHeight; for a gambrel, Rafter2.FasciaHeight", "5.5", kAll, kAll, S::kPutBackTwice, {FasciaHeightText, Front<&R::FasciaHeight>().putBack}),
     Row("RidgeThickness", "Rafter1.RidgeThickness", "1.5", kAll, kAll, S::kPutBackTwice, Front<&R::RidgeThickness>()),
     Row("RidgeDepth", "Rafter1.RidgeDepth", "5.5", kAll, kAll, S::kPutBackTwice, Front<&R::RidgeDepth>()),
     Row("Thickness", "Rafter1.Thickness", "1.5", kAll, kAll, S::kPutBackTwice, Front<&R::Thickness>()),
@@ -223,12 +219,12 @@ constexpr ProjectKey kKeys[] = {
     Row("FasciaHeight2", "Rafter2.FasciaHeight", "5.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::FasciaHeight>()),
     Row("Thickness2", "Rafter2.Thickness", "1.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Thickness>()),
     Row("Depth2", "Rafter2.Depth", "5.5", kTwoRoofs, kTwoRoofs, S::kPutBackTwice, Rear<&R::Depth>()),
-    Row("HeelLocked2", "chkHeel(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::HeelLock, 1>()),
-    Row("SeatLocked2", "chkSeat(1), 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::SeatLock, 1>()),
-    Row("Projection", "Projection of Rafter1, of a Dutch hip that of Rafter2", "24", kBays, kBays, S::kBay, ProjectionPlace()),
-    Row("Face", "Face, the same", "48", kBays, kBays, S::kBay, Bay<&R::Face, &Sheet::Face>()),
-    Row("Back", "Back, the same", "96", kBays, kBays, S::kBay, Bay<&R::Back, &Sheet::Back>()),
-    Row("BayAngle", "BayAngle, the same", "45", kBays, kBays, S::kBay, Bay<&R::BayAngle, &Sheet::BayAngle>()),
+    Row("HeelLocked2", "chkHeel(1): 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::HeelLock, 1>()),
+    Row("SeatLocked2", "chkSeat(1): 0 or 1", "0", kTwoRoofs, kTwoRoofs, S::kPutBack, Tick<&Sheet::SeatLock, 1>()),
+    Row("Projection", "Rafter1.Projection; for a Dutch hip, Rafter2.Projection", "24", kBays, kBays, S::kBay, ProjectionPlace()),
+    Row("Face", "Rafter1.Face; for a Dutch hip, Rafter2.Face", "48", kBays, kBays, S::kBay, Bay<&R::Face, &Sheet::Face>()),
+    Row("Back", "Rafter1.Back; for a Dutch hip, Rafter2.Back", "96", kBays, kBays, S::kBay, Bay<&R::Back, &Sheet::Back>()),
+    Row("BayAngle", "Rafter1.BayAngle; for a Dutch hip, Rafter2.BayAngle", "45", kBays, kBays, S::kBay, Bay<&R::BayAngle, &Sheet::BayAngle>()),
     Row("Span2", "Rafter2.Span", "", kDutch, kNone, S::kPutBack, Rear<&R::Span>()),
     Row("Slope2", "left text of LWSlope(2)", "45", kBlind, kBlind, S::kPutBack, SlopeText<2>()),
     Row("Span2", "text of FtSpan(2)", "144", kBlind, kBlind, S::kPutBack, TextOf<&Sheet::Span, 2>()),

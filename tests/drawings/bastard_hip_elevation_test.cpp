@@ -127,8 +127,8 @@ TEST(BastardHipElevation, ShowsTheMeasuresOfItsMember) {
   });
 }
 
-// The rise of a hip with equal overhangs is that at the ridge board, its run ends at the main common's cheek:
-// the top edge bends at the wall by the difference, and nowhere else.
+// With equal overhangs, a hip's rise is measured to the ridge board, but its run ends at the main common's
+// cheek. So the top edge bends at the wall by the difference; otherwise it must be straight.
 TEST(BastardHipElevation, KeepsTheTopEdgeStraight) {
   ForEveryRoof([](const MemberCase& c) {
     SCOPED_TRACE(::testing::PrintToString(static_cast<const HipCase&>(c)));
@@ -180,14 +180,13 @@ TEST(BastardHipElevation, LabelsTheTwoCheeksOnTwoRows) {
   EXPECT_EQ(bevels[1].Text, "31.0\u00BA bevel") << "right above";
   EXPECT_EQ(bevels[2].Text, "31.0\u00BA bevel") << "left below";
   EXPECT_EQ(bevels[3].Text, "59.0\u00BA bevel") << "right below";
-  // Each edge stands back from its point by the tangent of its bevel.
+  // The distance of an edge from the point is proportional to the tangent of its bevel.
   const auto back = [&](int edge, int point) { return std::fabs(drawn.X(edge) - drawn.X(point)); };
   EXPECT_NEAR(back(19, 20) / back(21, 20), std::pow(30.0 / 18, 2), 0.01);
   EXPECT_NEAR(back(22, 23) / back(18, 23), std::pow(30.0 / 18, 2), 0.01);
 }
 
-// --- The square cut
-// ---------------------------------------------------------------------------------------------------
+// The square cut.
 
 /// The angle between top edge and square tail cut.
 double TailAngle(const DrawnMember& drawn) {
@@ -196,8 +195,8 @@ double TailAngle(const DrawnMember& drawn) {
   return (edge - cut) * 180 / std::acos(-1.0);
 }
 
-// One fascia runs round the roof: it stands square to the main commons and keeps that tilt at the end. Its
-// lower corner is what the hip's tail is cut along, as one sees it square from the side of the hip.
+// One fascia runs around the roof: it is square to the main commons and keeps that tilt along the end. The
+// hip's tail is cut along the lower corner of the fascia, as seen square to the side of the hip.
 TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
   using namespace geometry;  // NOLINT(google-build-using-namespace)
   ForEveryRoof([](MemberCase c) {
@@ -211,7 +210,7 @@ TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
     const Plane main = RoofFace({}, {1, 0, 0}, c.Slope / 12);
     const Plane end = RoofFace({}, {0, 1, 0}, c.EndSlope / 12);
     const Line hip = Intersect(main, end);
-    // The member's own plane, and the fascia's line in it.
+    // The top edge in the member's own plane, and the line of the fascia in it.
     Line edge = hip;
     Line cut = corner;
     if (c.Type == Member::kCommon) {
@@ -238,8 +237,7 @@ TEST(BastardHipElevation, WritesTheTailAngleThatIsNotSquare) {
   EXPECT_THAT(DrawnMember(c).Texts(), Not(Contains("90.0\u00BA")));
 }
 
-// --- The whole sheet
-// --------------------------------------------------------------------------------------------------
+// The whole figure.
 
 TEST(BastardHipElevation, CanBeRead) {
   ForEveryRoof([](MemberCase c) {

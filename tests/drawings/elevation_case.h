@@ -1,4 +1,4 @@
-// One rafter, calculated and drawn: what the tests of the side view are made of.
+// One rafter, calculated and drawn, for the tests of the side view.
 #pragma once
 
 #include <cmath>
@@ -16,7 +16,7 @@ namespace pitchcraft::testing {
 
 inline constexpr double kUnlocked = -1;
 
-/// The measures of a new document, slope 6 in 12, unless told otherwise.
+/// The measures of a new document with a slope of 6 in 12, unless stated otherwise.
 struct ElevationCase {
   Member Type = Member::kCommon;
   int RoofType = 0;
@@ -89,8 +89,8 @@ inline DrawingContext ContextOf(const ElevationCase& c) {
   return context;
 }
 
-/// Calculates and draws. A common on a hip roof is calculated as the hip that the record stands for, as the
-/// document's page does.
+/// Calculates and draws. As on the document's page, a common of a hip roof is calculated with the record of
+/// the hip.
 class DrawnElevation {
  public:
   explicit DrawnElevation(const ElevationCase& c)

@@ -1,4 +1,4 @@
-// The outline against the solid: every stroke is an edge of the wood, and the strokes close.
+// The outline against the solid: every stroke is an edge of the wood, and together they close.
 #include "drawings/rafter_elevation_geometry.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ std::vector<LineOp> OutlineOf(const DrawnElevation& drawn) {
   return outline;
 }
 
-/// Three spots of the stroke have wood on one side and none on the other.
+/// At three places along the stroke there must be wood on exactly one side.
 void ExpectEdgeOfWood(const LineOp& line, const Wood& wood, double scale) {
   const double x1 = line.From.X / scale;
   const double y1 = line.From.Y / scale;
@@ -154,11 +154,10 @@ TEST(ElevationOutline, IsTheWoodInMillimetres) {
   }
 }
 
-// --- The points, one by one
-// --------------------------------------------------------------------------------------------
+// The points, one by one.
 
 TEST(ElevationPoints, LieWhereACarpenterMeasuresThem) {
-  // 6 in 12, 12' run, 10 1/2" overhang, 2x8: the figures of the framing square.
+  // 6 in 12, 12' run, 10 1/2" overhang, 2x8: the numbers on the framing square.
   const DrawnElevation drawn((ElevationCase()));
   const double plumb = 7.25 * std::sqrt(1.25);
   const double heel = plumb * 2 / 3;

@@ -1,5 +1,5 @@
-// Traces of whole drawings. Each was looked at as a picture, and its outline is held against the wood by the
-// geometry tests.
+// Traces of whole drawings. Each was checked by eye as a picture, and the geometry tests compare its outline
+// with the wood.
 #include <gtest/gtest.h>
 
 #include "drawing/text_trace.h"

@@ -1,4 +1,5 @@
-// No text of any rafter at any picture size is struck by a line, lies on another text or stands upside down.
+// For any rafter and any size of picture, no line runs through a text, and no text overlaps another or is
+// upside down.
 #include <gtest/gtest.h>
 
 #include "elevation_case.h"
@@ -104,7 +105,7 @@ TEST(ElevationLegibility, HoldsInMillimetres) {
   });
 }
 
-// The judge itself: it must see what a person sees.
+// Tests the check itself: it must find what a person would see.
 TEST(Legibility, SeesStruckOverlappingAndUpsideDownTexts) {
   const TextOp text{{0, 0}, "12' 6\"", 100, 0, 24, 0, "Arial", false, false};
   TextOp beside = text;

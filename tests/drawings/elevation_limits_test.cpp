@@ -1,4 +1,5 @@
-// Measures that no roof has: a blank and one error, never a freeze, and the next drawing is whole again.
+// Measures that no roof has: they give a blank and one error, never a freeze, and the next drawing is
+// complete again.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -21,7 +22,7 @@ class Hostile : public ::testing::Test {
   Hostile() : board(meter, [](double) { return std::string("x"); }) {
     board.Recorder.SetCanvas({10000, 7000});
   }
-  /// The number of the error that drawing raises; 0 for none.
+  /// The number of the error raised by drawing; 0 if there is none.
   int Draw(const ElevationCase& c) {
     Rafter rafter;
     testing::Fill(rafter, c);

@@ -1,4 +1,4 @@
-// Which measures of the record a member is drawn by.
+// Which measures of the record a member is drawn with.
 #include "drawings/elevation_member.h"
 
 #include <gtest/gtest.h>

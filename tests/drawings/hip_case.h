@@ -1,4 +1,4 @@
-// One hip roof, calculated and drawn: what the tests of plan and layout are made of.
+// One hip roof, calculated and drawn, for the tests of plan and layout.
 #pragma once
 
 #include <cmath>
@@ -16,7 +16,7 @@
 
 namespace pitchcraft::testing {
 
-/// A slope of 6 in 12 all round and 16" on center, unless told otherwise.
+/// A slope of 6 in 12 all around and 16" on center, unless stated otherwise.
 struct HipCase {
   bool Metric = false;
   double Slope = 6;

@@ -1,4 +1,4 @@
-// One hip roof with the fields of its sheet, for the tests of what goes to paper and into files.
+// One hip roof with the fields of its sheet, for the tests of prints and files.
 #pragma once
 
 #include <map>
@@ -31,7 +31,7 @@ class HipOutputs {
       lumber->SetValues(1.5, 7.25);
   }
 
-  /// The file that an export writes.
+  /// The file written by an export.
   template <typename Export>
   std::string Exported(const Export& procedure, double textHeight = 2) {
     DxfWriter writer;
@@ -44,7 +44,7 @@ class HipOutputs {
     return writer.Bytes();
   }
 
-  /// The texts that a sheet prints beside its drawing, each with its left upper corner, y downward.
+  /// The texts printed beside the drawing, each with its left upper corner, y downward.
   template <typename Print>
   std::vector<TextOp> Printed(const Print& procedure, const Paper& paper = kLetterPaper) {
     Printer page(paper, meter_);
@@ -73,7 +73,7 @@ class HipOutputs {
   bool metric_;
 };
 
-/// What stands before " = " in each row.
+/// The text before " = " in each row.
 inline std::vector<std::string> LabelsOf(const std::vector<std::string>& rows) {
   std::vector<std::string> labels;
   for (const std::string& row : rows) labels.push_back(row.substr(0, row.find(" = ")));

@@ -1,4 +1,4 @@
-// Picture files: what is in them, and what happens when they cannot be written.
+// Picture files: their contents, and what happens if they cannot be written.
 #include "platform/picture_files.h"
 
 #include <gmock/gmock.h>
@@ -46,7 +46,7 @@ TEST_F(PictureFiles, PngIs1600WideAndKeepsTheProportions) {
   EXPECT_EQ(image.width(), 1600);
   EXPECT_EQ(image.height(), 800);
   EXPECT_EQ(image.pixel(10, 10) & 0xFFFFFFU, 0xFFFFFFU);
-  // The line runs from left below to right above.
+  // The line runs from the lower left to the upper right.
   EXPECT_LT(qGreen(image.pixel(800, 400)), 60);
   EXPECT_GT(qRed(image.pixel(800, 400)), 200);
 }
