@@ -14,7 +14,7 @@
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 namespace {
@@ -42,9 +42,9 @@ struct Bench {
   QImage image{kImageWidth, kImageHeight, QImage::Format_ARGB32_Premultiplied};
 
   Bench() {
-    document.Window = {0, 0, static_cast<int>(kImageWidth * kTwipsPerPixel),
+    document.window.Place = {0, 0, static_cast<int>(kImageWidth * kTwipsPerPixel),
                        static_cast<int>(kImageHeight * kTwipsPerPixel)};
-    document.Form_Load();
+    Start(document);
     actions.Enter("LWSlope(0)", "6 | 12");
   }
 
@@ -62,7 +62,7 @@ struct Bench {
     QPainter painter(&image);
     PainterCanvas canvas(painter, {kImageWidth * kTwipsPerPixel, kImageHeight * kTwipsPerPixel, false},
                          document.meter, 1 / kTwipsPerPixel);
-    document.board.Recorder.Play(canvas);
+    document.Board().Recorder.Play(canvas);
     painter.end();
     return Seconds(std::chrono::steady_clock::now() - start);
   }
@@ -105,7 +105,7 @@ void CommitsOfAScript() {
   MemoryStore store;
   ScriptDialogs dialogs(output);
   Document document({dialogs, store, {}});
-  document.Form_Load();
+  Start(document);
   Script script(document, dialogs, output, [](const Document&, const std::string&) { return std::nullopt; });
   constexpr int kLines = 20000;
   std::string text;

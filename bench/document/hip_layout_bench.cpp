@@ -26,12 +26,12 @@ struct Layout {
   std::vector<double> seconds;
 
   explicit Layout(int jacks) {
-    document.Form_Load();
+    Start(document);
     actions.Pick("cboType", "Hip");
     actions.Enter("LWSlope(0)", "6 | 12");
     actions.Click("mnuHipLayoutCenter");
     // The last place on each face is at the corner, where no wood is left.
-    const double run = (jacks / 2 + 1) * kSpacing - document.Rafter1.Overhang;
+    const double run = (jacks / 2 + 1) * kSpacing - document.design.Rafter1.Overhang;
     actions.Type("FtSpan(0)", std::to_string(run));
     actions.Page("VSTab(0)", kLayoutPage);
   }
@@ -49,7 +49,7 @@ struct Layout {
   }
 
   int Jacks() const {
-    const HipLayout layout = LayOutHip(document.Rafter1, {});
+    const HipLayout layout = LayOutHip(document.design.Rafter1, {});
     return static_cast<int>(layout.Rafters.size()) - 2;
   }
 };

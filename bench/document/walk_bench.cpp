@@ -28,7 +28,7 @@ int main() {
   constexpr std::size_t kShown = 8;
   NullSurroundings around;
   Document document(around.Get());
-  document.Form_Load();
+  Start(document);
   RandomWalk walk(document, 1);
   std::vector<std::pair<double, std::string>> steps;
   steps.reserve(kSteps);

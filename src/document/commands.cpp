@@ -29,7 +29,7 @@ void ChooseSlopeMode(Design& design, Reply&, int inDegrees) { SetSlopeMode(desig
 
 // Square and level cuts take the fascia height from the rafter, so the field shows none to enter; what it
 // showed is kept for the way back.
-void ChooseFasciaCut(Design& design, Reply&, int cut) {
+void ChooseFasciaCut(Design& design, Reply& reply, int cut) {
   const bool wasPlumb = design.Cut == FasciaCut::kPlumb;
   design.Cut = static_cast<FasciaCut>(cut);
   const bool plumb = design.Cut == FasciaCut::kPlumb;
@@ -40,6 +40,7 @@ void ChooseFasciaCut(Design& design, Reply&, int cut) {
     if (!wasPlumb && plumb && !kept.empty()) fascia.SetRightText(kept);
     fascia.Enabled = plumb;
   }
+  if (design.RoofType == Roof::kGambrel) CalculateNow(design, reply);
 }
 
 void ChooseHipLayout(Design& design, Reply&, int layout) { design.Layout = static_cast<JackLayout>(layout); }
@@ -56,7 +57,9 @@ void ToggleOverhangsEqual(Design& design, Reply& reply, int) {
 }
 
 void ChooseLedger(Design& design, Reply& reply, int row) {
-  if (row == 0 || row == 1) ChooseDutchLedger(design, reply, row == 0);
+  if (row != 0 && row != 1) return;
+  ChooseDutchLedger(design, row == 0);
+  CalculateNow(design, reply);
 }
 
 void LedgerPicked(Design& design, Reply& reply, int) {

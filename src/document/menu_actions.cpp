@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "design/questions.h"
 #include "document/commands.h"
 #include "document/files.h"
 #include "document/forms.h"
@@ -196,8 +197,7 @@ void PressToolButton(Document& document, std::string_view key) {
   const int row = button->RoofListIndex;
   document.Act("tbToolBar_ButtonClick", [row](Design& design, Reply& reply) {
     design.sheet.RoofList.SetListIndex(row);
-    design.sheet.Tabs[1].Page = 0;
-    design.LockRow = 0;
+    if (RowShown(design) != 0) ShowRoof(design, 0);
     SwitchRoof(design, reply, *RoofTypes()[static_cast<std::size_t>(row)]);
   });
 }

@@ -16,12 +16,6 @@ bool Waits(const Design& design, std::string_view name) {
   return std::find(waiting.begin(), waiting.end(), name) != waiting.end();
 }
 
-// The lock items of the Settings menu speak of the row that is shown.
-void ShowRoof(Design& design, int page) {
-  design.sheet.Tabs[1].Page = page;
-  design.LockRow = static_cast<std::size_t>(page);
-}
-
 // The popup offers what the roof type knows: layouts for a hip, the ledger for a Dutch hip, cuts for all but
 // the blind valley. The items of a hip stay as the page set them.
 void ShowPopUp1Items(Design& design) {
@@ -44,6 +38,12 @@ void ShowPopUp1Items(Design& design) {
 }
 
 }  // namespace
+
+// The lock items of the Settings menu speak of the row that is shown.
+void ShowRoof(Design& design, int page) {
+  design.sheet.Tabs[1].Page = page;
+  design.LockRow = static_cast<std::size_t>(page);
+}
 
 void ShowPage(Document& document, int tab, int page) {
   document.Act("VSTab_Switch", [&](Design& design, Reply& reply) {

@@ -12,6 +12,8 @@ inline constexpr int kRightButton = 2;
 
 /// Shows a page of the outer tab (0), or the front or rear roof of the inner one (1).
 void ShowPage(Document& document, int tab, int page);
+/// The same of the inner tab, as a step.
+void ShowRoof(Design& design, int page);
 
 /// The pointer or the focus came to something: the status bar says what it is for.
 void ShowHint(Document& document, std::string_view name);

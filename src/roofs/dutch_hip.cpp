@@ -110,11 +110,10 @@ class DutchHip final : public RoofType {
 
 }  // namespace
 
-void ChooseDutchLedger(Design& design, Reply& reply, bool ledger) {
+void ChooseDutchLedger(Design& design, bool ledger) {
   design.DutchLedger = ledger;
   design.sheet.Ledger.SetListIndex(ledger ? 0 : 1);
   design.Rafter2.RidgeThickness = ledger ? double{design.Rafter1.RidgeThickness} : 0.0;
-  DutchHipRoof().Recalculate(design, reply);
 }
 
 const RoofType& DutchHipRoof() {

@@ -5,7 +5,7 @@
 
 namespace pitchcraft {
 
-/// Whether it hangs on a ledger was chosen.
-void ChooseDutchLedger(Design& design, Reply& reply, bool ledger);
+/// Whether it hangs on a ledger was chosen. Calculates nothing.
+void ChooseDutchLedger(Design& design, bool ledger);
 
 }  // namespace pitchcraft

@@ -174,12 +174,15 @@ class Gambrel final : public RoofType {
 
 }  // namespace
 
+// Choices of its menus belong to a gambrel alone.
 void ChooseGambrelKind(Design& design, Reply& reply, GambrelKind kind) {
+  if (design.RoofType != Roof::kGambrel) return;
   SetKind(design, kind);
   GambrelRoof().Recalculate(design, reply);
 }
 
 void ChooseGambrelSupport(Design& design, Reply& reply, GambrelSupport support) {
+  if (design.RoofType != Roof::kGambrel) return;
   SetSupport(design, support);
   GambrelRoof().Recalculate(design, reply);
 }

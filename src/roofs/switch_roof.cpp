@@ -86,6 +86,7 @@ void ArrangeRoof(Design& design, Reply& reply, const RoofType& type) {
 }
 
 void SwitchRoof(Design& design, Reply& reply, const RoofType& type) {
+  if (!OnDesignPage(design)) TurnPage(design, reply, 0);
   ArrangeRoof(design, reply, type);
   type.Start(design, reply, false);
 }

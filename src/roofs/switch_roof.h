@@ -8,7 +8,7 @@ namespace pitchcraft {
 /// Leaves the present roof type and sets up the other one, on its design page. Calculates nothing but what
 /// setting up needs.
 void ArrangeRoof(Design& design, Reply& reply, const RoofType& type);
-/// The same and its first calculation.
+/// The same from the design page, and its first calculation.
 void SwitchRoof(Design& design, Reply& reply, const RoofType& type);
 
 /// Shows a page of the roof type, with what choosing it leaves behind.

@@ -7,13 +7,25 @@
 
 #include "document/actions.h"
 #include "document/document.h"
+#include "design/questions.h"
+#include "document/commands.h"
+#include "document/fields.h"
+#include "document/files.h"
+#include "document/menu_forms.h"
 #include "document/null_surroundings.h"
+#include "document/output_files.h"
+#include "document/pages.h"
+#include "document/print.h"
+#include "document/session_ends.h"
+#include "document/slopes.h"
+#include "document/units.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 
 class DocumentTest : public testing::Test {
  protected:
-  DocumentTest() { document.Form_Load(); }
+  DocumentTest() { Start(document); }
 
   /// Takes the action and fails the test where it is refused.
   void Type(const char* name, const char* text) { Expect(actions.Type(name, text)); }
@@ -28,9 +40,9 @@ class DocumentTest : public testing::Test {
   NullSurroundings around;
   Document document{around.Get()};
   Actions actions{document};
-  Sheet& sheet = document.sheet;
-  Menus& menus = document.menus;
-  Rafter& rafter = document.Rafter1;
+  Sheet& sheet = document.design.sheet;
+  Menus& menus = document.design.menus;
+  Rafter& rafter = document.design.Rafter1;
 };
 
 }  // namespace pitchcraft

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 namespace {

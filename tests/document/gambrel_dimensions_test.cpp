@@ -8,7 +8,7 @@ namespace {
 class GambrelDimensionsTest : public DocumentTest {
  protected:
   GambrelDimensionsTest() { Pick("cboType", "Gambrel Roof"); }
-  Rafter& top = document.Rafter2;
+  Rafter& top = document.design.Rafter2;
 };
 
 class CustomGambrelTest : public GambrelDimensionsTest {

@@ -6,11 +6,11 @@ namespace {
 
 class ListsOfFieldsTest : public ProjectTest {
  protected:
-  void Start() { document.Form_Load(); }
+  void Start() { Start(document); }
 
   NullSurroundings around;
   Document document{{around.dialogs, around.store, folder}};
-  Sheet& sheet = document.sheet;
+  Sheet& sheet = document.design.sheet;
 };
 
 TEST_F(ListsOfFieldsTest, AFirstStartMakesTheDegreesAlone) {
@@ -35,7 +35,7 @@ TEST_F(ListsOfFieldsTest, FilesReplaceTheUsualRows) {
   }
   for (const PairControl& field : sheet.Slope) EXPECT_EQ(field.List().size(), 1U);
   EXPECT_EQ(sheet.Degrees[2].List(), (std::vector<std::string>{"22.5", "45"}));
-  EXPECT_EQ(double{document.Rafter1.Depth}, 7.25) << "the list changes no size";
+  EXPECT_EQ(double{document.design.Rafter1.Depth}, 7.25) << "the list changes no size";
 }
 
 TEST_F(ListsOfFieldsTest, MetricHasFilesOfItsOwn) {
@@ -43,7 +43,7 @@ TEST_F(ListsOfFieldsTest, MetricHasFilesOfItsOwn) {
   Write("LumberM.dat", "38x184|38|184\r\n");
   Write("SlopeM.dat", "500/1000|500|1000\r\n");
   Start();
-  document.mnuMetric_Click();
+  ToggleUnits(document);
   ASSERT_EQ(sheet.Common[0].List().size(), 1U);
   EXPECT_EQ(sheet.Common[0].List()[0].Right, 184);
   EXPECT_EQ(sheet.Common[0].ListIndex(), 0) << "the rafter has the size of that row";
@@ -66,7 +66,7 @@ TEST_F(ListsOfFieldsTest, AFolderInTheWayIsToldAndTheProgramStarts) {
   ASSERT_FALSE(around.dialogs.messages.empty());
   EXPECT_EQ(around.dialogs.messages[0].second, "Path/File access error - 75");
   EXPECT_EQ(sheet.Degrees[0].List().size(), 80U);
-  EXPECT_GT(double{document.Rafter1.Length1}, 0);
+  EXPECT_GT(double{document.design.Rafter1.Length1}, 0);
 }
 
 TEST_F(ListsOfFieldsTest, AHundredThousandRows) {
@@ -77,7 +77,7 @@ TEST_F(ListsOfFieldsTest, AHundredThousandRows) {
   ASSERT_EQ(sheet.Common[0].List().size(), 100'000U);
   sheet.Common[0].SetListIndex(11);
   document.LWRafter_Commit(0);
-  EXPECT_EQ(double{document.Rafter1.Depth}, 12);
+  EXPECT_EQ(double{document.design.Rafter1.Depth}, 12);
 }
 
 }  // namespace

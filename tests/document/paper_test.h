@@ -46,7 +46,7 @@ struct SheetText {
 
 class PaperTest : public ::testing::Test {
  protected:
-  PaperTest() { document.Form_Load(); }
+  PaperTest() { Start(document); }
 
   void Type(const char* name, const char* text) { Expect(actions.Type(name, text)); }
   void Pick(const char* name, const char* item) { Expect(actions.Pick(name, item)); }

@@ -20,7 +20,7 @@ std::string TextOf(const MemberValue& value) {
 
 int CodeOf(Document& document) {
   return ProjectRoofCode(
-      {document.RoofType, document.Rafter1, document.Rafter2, document.sheet, document.menus});
+      {document.design.RoofType, document.design.Rafter1, document.design.Rafter2, document.design.sheet, document.design.menus});
 }
 
 bool IsListed(int roofCode, const char* member) {

@@ -16,7 +16,7 @@ struct ProjectSession {
   Document document{around.Get()};
   Actions actions{document};
 
-  ProjectSession() { document.Form_Load(); }
+  ProjectSession() { Start(document); }
   void Enter(const ProjectCase& roof) {
     for (const ProjectAction& action : roof.actions) {
       const Refusal refusal = Perform(actions, action);

@@ -63,7 +63,7 @@ TEST_F(SidePrograms, WhatIsNotThereIsAMessage) {
 TEST(NoSidePrograms, AreMessages) {
   NullSurroundings surroundings;
   Document document(surroundings.Get());
-  document.Form_Load();
+  Start(document);
   document.mnuTools_Click();
   document.mnuHelpSearch_Click();
   EXPECT_EQ(surroundings.dialogs.messages.size(), 2U);

@@ -113,7 +113,7 @@ TEST_F(SlopeFieldsTest, SpacingIsShownInInches) {
   Pick("cboType", "Hip");
   Page(3);
   Type("cboSpacing", "2'");
-  EXPECT_EQ(document.Spacing, 24);
+  EXPECT_EQ(document.design.Rafter1.spacing, 24);
   EXPECT_EQ(rafter.spacing, 24);
   EXPECT_EQ(sheet.Spacing.Text(), "24\"");
   EXPECT_EQ(sheet.Spacing.ListIndex(), 3);

@@ -119,9 +119,9 @@ TEST_F(PictureFiles, NameOutsideAsciiIsKept) {
 TEST_F(PictureFiles, DocumentShowsItsDrawing) {
   NullSurroundings surroundings;
   Document document(surroundings.Get());
-  document.Form_Load();
+  Start(document);
   const Picture shown = ShownPicture(document);
-  EXPECT_EQ(shown.Size.ScaleWidth, document.Picture1.Place.Width);
+  EXPECT_EQ(shown.Size.ScaleWidth, document.Layout().picture1.Width);
   EXPECT_EQ(WritePicture(shown, File("roof.png")), std::nullopt);
   const QImage image(QString::fromStdString(File("roof.png").string()));
   int lit = 0;

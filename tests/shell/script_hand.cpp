@@ -55,7 +55,7 @@ bool ScriptHand::PerformOnName(const std::string& verb, std::string_view rest) {
 }
 
 void ScriptHand::Click(const std::string& name) {
-  if (Document().menus.Find(name) == nullptr) {
+  if (Document().design.menus.Find(name) == nullptr) {
     auto& button = Find<QAbstractButton>(name);
     EXPECT_TRUE(button.isVisible() && button.isEnabled()) << name;
     return QTest::mouseClick(&button, Qt::LeftButton);

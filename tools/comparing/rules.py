@@ -14,6 +14,7 @@ import struct
 from comparing.reasons import Reason
 
 HIP, DUTCH_HIP, UNEQUAL_SPAN_VALLEY, BLIND_VALLEY = 1, 8, 10, 11
+GAMBREL = 13
 BASTARD_HIP = 16
 OVERHANG_ENTRY = re.compile(r"(type|enter) FtOverhang\(0\)|spin Spin\(1\) ")
 RIDGE_ENTRY = re.compile(r"(type|enter) FtRidge\(\d\)|spin Spin\([34]\) ")
@@ -198,6 +199,41 @@ def FileWorkFailed(situation, difference):
     return any(event["title"] in FILE_TROUBLE or event["title"].startswith(("Print", "Export")) for event in events)
 
 
+# R14, R16: what a line no longer does
+
+CUT_OR_SIZE = re.compile(r"size |click mnu(Settings|Gambrel|PopUp[12])(Plumb|Square|Level)|press (Plumb|Square|Level)$"
+                         r"|click mnuView|click mnu(ViewOptions|FileDXFSettings|PopUp[12]DXFSettings)")
+PAGE_LEAVES = re.compile(r"menus\.mnu(PopUp1Layout|PopUp1OverhangsEqual|HipLayoutOverhangsEqual|Separator1[579])"
+                         r"|Rafter[12]\.|drawing|sheet\.")
+
+
+def ValueAt(dump, path):
+    for name in re.findall(r"[^.\[\]()]+(?:\([^)]*\))?", path):
+        if not isinstance(dump, dict) or name not in dump:
+            return None
+        dump = dump[name]
+    return dump
+
+
+def LeftAlone(situation, difference):
+    """The line left the value as it was in the new driver."""
+    return bool(situation.newBefore) and ValueAt(situation.newBefore, difference.path) == difference.new
+
+
+def NoPageTurn(situation, difference):
+    return bool(CUT_OR_SIZE.match(situation.line) and PAGE_LEAVES.match(difference.path)
+                and LeftAlone(situation, difference))
+
+
+def NoGambrel(situation, difference):
+    return (situation.line.startswith("click mnuPopup2Gambrel") and situation.roof != GAMBREL
+            and (IsDrawing(difference) or difference.path.startswith("event") or LeftAlone(situation, difference)))
+
+
+def BetterWords(situation, difference):
+    return difference.path == "event error.text" and "there is no control named" in str(difference.new)
+
+
 REASONS = [
     Reason("R2", "a roof picked from the list on a later page turns to the first page",
            TurnedToFirstPage, instead=TurnToFirstPage, taints=True),
@@ -214,4 +250,7 @@ REASONS = [
     Reason("R9", "a print or an export leaves the rafter's type alone", JobKeepsType, taints=True),
     Reason("R11", "the status line tells of an entry that waits", EntryWaits),
     Reason("R12", "a save, open, export or print that failed gives status 1", FileWorkFailed),
+    Reason("R14", "another size or another cut is no page turn", NoPageTurn, taints=True),
+    Reason("R15", "a control that is not there is told in plain words", BetterWords),
+    Reason("R16", "the popup of a gambrel does nothing on another roof", NoGambrel, taints=True),
 ]
