@@ -57,7 +57,7 @@ void ToggleOverhangsEqual(Design& design, Reply& reply, int) {
 }
 
 void ChooseLedger(Design& design, Reply& reply, int row) {
-  if (row != 0 && row != 1) return;
+  if (design.RoofType != Roof::kDutchHip || (row != 0 && row != 1)) return;
   ChooseDutchLedger(design, row == 0);
   CalculateNow(design, reply);
 }

@@ -37,7 +37,8 @@ void ShowFront(Design& design) {
     // The solver has written the other fields itself.
     design.sheet.Heel[0].SetValue(design.Rafter1.Heel);
     design.sheet.Seat[0].SetValue(design.Rafter1.Seat);
-    design.sheet.Overhang[0].SetValue(design.Rafter1.Overhang);
+    if (design.Rafter1.RafterType == Member::kGambrelBottom)
+      design.sheet.Overhang[0].SetValue(design.Rafter1.Overhang);
     return;
   }
   ShowRow(design, 0, design.Rafter1);

@@ -47,7 +47,10 @@ class UnequalSpanValley final : public RoofType {
   // The run of the main roof waits for the next calculation.
   void ExtraRunEntered(Design& design, Reply& reply) const override {
     design.sheet.Projection.SetValue(design.sheet.Span[2].Value());
-    SolveBay(design, reply);
+    if (SolveBay(design, reply) == BaySolution::kHipsCross) {
+      reply.Say(kHipsCrossText, "Bay Dimensions");
+      ResetBay(design, reply);
+    }
     design.Rafter2.CalculateBay();
   }
 };

@@ -69,6 +69,9 @@ def PageIsDrawn(situation, difference):
         return False
     if IsDrawing(difference):
         return situation.SameDrawing(situation.DrawnAgain()[0])
+    if difference.path == "event message.title":
+        return str(difference.new).startswith("Draw") and difference.new in [
+            message["title"] for message in situation.DrawnAgain()[1]]
     message = difference.old or difference.new
     if difference.path != "event message" or not message["title"].startswith("Draw"):
         return False
@@ -225,8 +228,43 @@ def NoPageTurn(situation, difference):
                 and LeftAlone(situation, difference))
 
 
+OPENS = re.compile(r"click mnuFile(Open|MRU)|press Open$")
+
+
+def OpeningShowsNoLayouts(situation, difference):
+    """A project's cut turned the page in the older driver."""
+    return bool(OPENS.match(situation.line) and difference.path.startswith("menus.") and difference.new is False)
+
+
+def SpacingOnItsPages(situation, difference):
+    if difference.path not in ("sheet.txtSpacing.Visible", "sheet.cboSpacing.Visible"):
+        return False
+    tab = situation.new["tabs"]["VSTab(0)"]
+    caption = tab["Caption"].split("|")[tab["Page"]]
+    return difference.new == (caption in ("Layout", "Longest Jack", "Octagon Layout"))
+
+
+def RowsFromTheRecord(situation, difference):
+    """What was typed and not committed is in the field, not in the rows of a sheet or file."""
+    return (difference.path.startswith("file ") and bool(JOB.match(situation.line))
+            and any(line.startswith("edit ") for line in situation.lines))
+
+
+def SlopesOfTheRecord(situation, difference):
+    """The older driver went by what stands in the two fields, which was not committed."""
+    old, new = situation.old, situation.new
+    if not old or not new or new["document"]["RoofType"] != HIP:
+        return False
+    record = new["Rafter1"]["HipEndSlope"] != new["Rafter1"]["Slope"]
+    fields = old["sheet"]["LWSlope(0)"]["LeftValue"] != old["sheet"]["LWSlope(2)"]["LeftValue"]
+    typed = any(line.startswith("edit LWSlope") for line in situation.lines)
+    return typed and (record == (new["Rafter1"]["RafterType"] == BASTARD_HIP)) and (record != fields or difference.path.startswith(("Rafter1", "sheet", "drawing", "tabs", "event")))
+
+
 def NoGambrel(situation, difference):
-    return (situation.line.startswith("click mnuPopup2Gambrel") and situation.roof != GAMBREL
+    gambrel = situation.line.startswith("click mnuPopup2Gambrel") and situation.roof != GAMBREL
+    ledger = situation.line.startswith("click mnuPopUp1Ledger") and situation.roof != DUTCH_HIP
+    return ((gambrel or ledger)
             and (IsDrawing(difference) or difference.path.startswith("event") or LeftAlone(situation, difference)))
 
 
@@ -252,5 +290,10 @@ REASONS = [
     Reason("R12", "a save, open, export or print that failed gives status 1", FileWorkFailed),
     Reason("R14", "another size or another cut is no page turn", NoPageTurn, taints=True),
     Reason("R15", "a control that is not there is told in plain words", BetterWords),
-    Reason("R16", "the popup of a gambrel does nothing on another roof", NoGambrel, taints=True),
+    Reason("R16", "the popup of a gambrel or a Dutch hip does nothing on another roof", NoGambrel, taints=True),
+    Reason("R17", "the spacing shows on its pages alone", SpacingOnItsPages),
+    Reason("R18", "opening a project turns no page", OpeningShowsNoLayouts, taints=True),
+    Reason("R19", "rows are taken from the record, not from what a field shows", RowsFromTheRecord),
+    Reason("R20", "the unequal hip goes by the record's slopes, not by what is typed and waits", SlopesOfTheRecord,
+           taints=True),
 ]
