@@ -13,7 +13,7 @@
 #include "gallery/calculator.h"
 #include "gallery/gallery.h"
 #include "platform/program_folder.h"
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 #include "shell/help_window.h"
 #include "shell/main_window.h"
 #include "shell/program.h"

@@ -54,30 +54,14 @@ TEST_F(CalculateRoofTest, AShedButtsTheWholeBoard) {
   EXPECT_EQ(rafter.RidgeAllowance, 0.75);
 }
 
-TEST_F(CalculateRoofTest, BeforeTheEndOfStartUpNothingHappens) {
-  document.CalcEnabled = false;
-  document.design.RoofType = Roof::kHip;
-  document.CalculateRoof(false);
-  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Rafter");
-  EXPECT_EQ(rafter.RafterType, Member::kCommon);
-}
-
 TEST_F(CalculateRoofTest, ABastardHipFromAProjectBecomesAHip) {
   rafter.HipEndSlope = 12;
-  document.design.RoofType = Roof::kBastardHip;
-  document.CalculateRoof(true);
+  document.design.RoofType = Roof::kHip;
+  Reply reply;
+  RoofOf(document.design).Start(document.design, reply, true);
   EXPECT_EQ(document.design.RoofType, Roof::kHip);
   EXPECT_EQ(rafter.RafterType, Member::kBastardHip);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
-}
-
-TEST_F(CalculateRoofTest, AnUnknownCodeSaysSoAndKeepsTheTopic) {
-  document.design.RoofType = 6;
-  document.CalculateRoof(false);
-  ASSERT_EQ(around.dialogs.messages.size(), 1U);
-  EXPECT_EQ(around.dialogs.messages[0],
-            (std::pair<std::string, std::string>("SetHelpContext", "Unrecognized roof type!")));
-  EXPECT_EQ(RoofOf(document.design).About().HelpTopic, 60);
 }
 
 TEST_F(CalculateRoofTest, ADualSlopePickedFromTheListCopiesTheFront) {
@@ -89,7 +73,8 @@ TEST_F(CalculateRoofTest, ADualSlopePickedFromTheListCopiesTheFront) {
   EXPECT_EQ(sheet.Span[1].Text(), "15' 0\"");
   EXPECT_EQ(sheet.Slope[1].LeftValue(), 7);
   document.design.Rafter2.Span = 100;
-  document.CalculateRoof(true);
+  Reply reply;
+  RoofOf(document.design).Start(document.design, reply, true);
   EXPECT_EQ(document.design.Rafter2.Span, 100) << "from a project the rear roof keeps its own";
 }
 

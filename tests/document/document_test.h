@@ -5,21 +5,8 @@
 
 #include <string>
 
-#include "document/actions.h"
-#include "document/document.h"
-#include "design/questions.h"
-#include "document/commands.h"
-#include "document/fields.h"
-#include "document/files.h"
-#include "document/menu_forms.h"
 #include "document/null_surroundings.h"
-#include "document/output_files.h"
-#include "document/pages.h"
-#include "document/print.h"
-#include "document/session_ends.h"
-#include "document/slopes.h"
-#include "document/units.h"
-#include "roofs/roof_types.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 

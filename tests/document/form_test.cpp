@@ -16,7 +16,6 @@ TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
   EXPECT_EQ(sheet.Overhang[0].Text(), "10 1/2\"");
   EXPECT_EQ(sheet.Common[0].RightText(), "7 1/4\"");
   EXPECT_EQ(sheet.Fascia[0].RightText(), "5 1/2\"");
-  EXPECT_TRUE(document.CalcEnabled);
   EXPECT_EQ(RoofOf(document.design).About().HelpTopic, 60);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
@@ -86,7 +85,7 @@ TEST_F(FormTest, NoItemIsGreyAtTheStart) {
       EXPECT_TRUE(item->Enabled) << item->Name;
     }
   }
-  EXPECT_TRUE(document.ToolButtonEnabled(document.design.toolBar["Print"]));
+  EXPECT_TRUE(IsToolButtonEnabled(document, document.design.toolBar["Print"]));
 }
 
 TEST(FormUnload, KeepsWhatTheUserChose) {
@@ -95,8 +94,8 @@ TEST(FormUnload, KeepsWhatTheUserChose) {
     Document document(around.Get());
     Start(document);
     ToggleUnits(document);
-    document.mnuHipLayoutCornersFlush_Click();
-    document.mnuSettingsDegrees_Click();
+    ClickMenu(document, document.design.menus.HipLayoutCornersFlush);
+    ClickMenu(document, document.design.menus.SettingsDegrees);
     document.window.Place = {300, 400, 12000, 9000};
     Close(document);
   }

@@ -45,13 +45,6 @@ TEST_F(GambrelDimensionsTest, MetricShowsItsOwnSlopes) {
   EXPECT_NEAR(top.Slope, 414.213562, 1e-4);
 }
 
-TEST_F(GambrelDimensionsTest, ANameOutsideTheTwelveLeavesTheUpperSpanZero) {
-  document.CalculateGambrelDimensions("Chimney");
-  EXPECT_EQ(sheet.Span[2].Value(), 0);
-  EXPECT_EQ(rafter.Span, 72);
-  EXPECT_EQ(top.Span, 0);
-}
-
 TEST_F(GambrelDimensionsTest, RegularLocksWhatItDerives) {
   for (const std::size_t spin : {2, 4, 7}) EXPECT_FALSE(sheet.Spin[spin].Enabled) << spin;
   EXPECT_TRUE(sheet.Spin[3].Enabled);

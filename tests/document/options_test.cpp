@@ -205,7 +205,7 @@ TEST_F(OptionsTest, TheBackupBringsTheListBack) {
   });
   EXPECT_TRUE(sheet.Slope[0].List().empty());
   std::filesystem::rename(folder / "Slope.old", folder / "Slope.dat");
-  document.DefaultSlopeList();
+  FillLists(document);
   ASSERT_EQ(sheet.Slope[2].List().size(), 1U);
   EXPECT_EQ(sheet.Slope[2].List()[0].Left, 6);
 }

@@ -8,8 +8,7 @@
 #include <vector>
 
 #include "answering_dialogs.h"
-#include "document/actions.h"
-#include "document/document.h"
+#include "support/document_api.h"
 #include "support/scratch_folder.h"
 
 namespace pitchcraft {

@@ -276,7 +276,7 @@ TEST_F(PrintTest, TheScreenKeepsItsDrawing) {
   Print();
   EXPECT_EQ(document.Board().Recorder.Operations(), before);
   EXPECT_EQ(document.Board().DimensionPoints.size(), dimensions);
-  EXPECT_TRUE(document.Imperial());
+  EXPECT_TRUE(!document.design.Metric);
 }
 
 TEST_F(PrintTest, APrinterThatIsGoneIsTold) {
@@ -313,9 +313,9 @@ TEST_F(PrintTest, PageSetupAndPopupsReachThePrinter) {
 
 TEST_F(PrintTest, WithoutAPrinterAMessageSaysSo) {
   Document lonely({dialogs, store, folder.Path()});
-  lonely.Form_Load();
-  lonely.mnuFilePageSetup_Click();
-  lonely.mnuFilePrint_Click();
+  Start(lonely);
+  SetUpPage(lonely);
+  PrintPageShown(lonely);
   EXPECT_EQ(dialogs.messages, std::vector<std::string>{"There is no printer."});
 }
 

@@ -56,8 +56,8 @@ TEST_F(RandomWalkTest, TheDocumentStaysInOrder) {
   }
   // Back to plain values: twice, since the units are a toggle.
   ToggleUnits(document);
-  if (UnitRun(document.design) != 12) document.mnuImperial_Click();
-  document.mnuSettingsRiseOverRun_Click();
+  if (UnitRun(document.design) != 12) ClickMenu(document, document.design.menus.Imperial);
+  ClickMenu(document, document.design.menus.SettingsRiseOverRun);
   Type("LWSlope(0)", "6 | 12");
   EXPECT_NEAR(rafter.Length2, 171.898, 0.0005);
 }

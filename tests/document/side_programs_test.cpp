@@ -64,8 +64,8 @@ TEST(NoSidePrograms, AreMessages) {
   NullSurroundings surroundings;
   Document document(surroundings.Get());
   Start(document);
-  document.mnuTools_Click();
-  document.mnuHelpSearch_Click();
+  ClickMenu(document, document.design.menus.Tools);
+  ClickMenu(document, document.design.menus.HelpSearch);
   EXPECT_EQ(surroundings.dialogs.messages.size(), 2U);
 }
 

@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 
 #include "core/run_time_error.h"
-#include "document/document.h"
+#include "support/document_api.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"

@@ -1,4 +1,4 @@
-#include "sheet/row_layouts.h"
+#include "roofs/rows.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +9,11 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kNo = -1;
+constexpr int kNo = kHiddenRow;
 
 struct Row {
   const char* name;
-  int roof;
+  Roof roof;
   int slope2, span0, span2, ridge0, ridge1, overhang, heel, seat, fascia, ridge, rafter, hipVal;
 };
 
@@ -33,15 +33,25 @@ const Row kRows[] = {
     {"gambrel", Roof::kGambrel, 860, 1560, 1200, 1920, 2280, 2640, 3000, 3360, 3750, 4470, 4110, kNo},
 };
 
+/// A sheet laid out for a roof type, on whatever was there before.
+void LayOutFor(Design& design, Roof roof, bool purlins = true) {
+  design.RoofType = roof;
+  design.Support = purlins ? GambrelSupport::kPurlins : GambrelSupport::kWall;
+  RoofTypeByCode(roof)->LayOut(design);
+}
+
+bool HasSecondSlope(Roof roof) { return RoofTypeByCode(roof)->About().Rows.HasSecondSlope(); }
+
 class RowLayoutTest : public testing::TestWithParam<Row> {};
 
 int TopOf(const Control& control) { return control.Visible ? control.Top : kNo; }
 
 TEST_P(RowLayoutTest, FieldsStandWhereTheRoofTypePutsThem) {
   const Row& row = GetParam();
-  Sheet sheet;
-  LayOutRows(sheet, Roof::kGambrel, true);  // whatever stood before leaves nothing behind
-  LayOutRows(sheet, row.roof, true);
+  Design design;
+  Sheet& sheet = design.sheet;
+  LayOutFor(design, Roof::kGambrel);  // whatever stood before leaves nothing behind
+  LayOutFor(design, row.roof);
   EXPECT_EQ(HasSecondSlope(row.roof), row.slope2 != kNo);
   EXPECT_EQ(TopOf(sheet.Span[0]), row.span0);
   EXPECT_EQ(TopOf(sheet.Span[2]), row.span2);
@@ -59,8 +69,9 @@ TEST_P(RowLayoutTest, FieldsStandWhereTheRoofTypePutsThem) {
 
 // A label belongs to the row that begins up to 30 twips above it.
 TEST_P(RowLayoutTest, EveryFieldHasOneLabelAndEveryLabelAField) {
-  Sheet sheet;
-  LayOutRows(sheet, GetParam().roof, true);
+  Design design;
+  Sheet& sheet = design.sheet;
+  LayOutFor(design, GetParam().roof);
   if (HasSecondSlope(GetParam().roof)) sheet.Slope[2].Visible = true;
   sheet.Degrees[0].Visible = false;
   std::vector<int> fieldTops;
@@ -87,8 +98,9 @@ TEST_P(RowLayoutTest, EveryFieldHasOneLabelAndEveryLabelAField) {
 }
 
 TEST_P(RowLayoutTest, NoTwoFieldsShareARow) {
-  Sheet sheet;
-  LayOutRows(sheet, GetParam().roof, true);
+  Design design;
+  Sheet& sheet = design.sheet;
+  LayOutFor(design, GetParam().roof);
   std::vector<int> tops;
   for (const AnyControl& any : sheet.Controls()) {
     const Control& control = ControlOf(any);
@@ -107,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Roofs, RowLayoutTest, testing::ValuesIn(kRows), [](cons
 });
 
 struct CaptionRow {
-  int roof;
+  Roof roof;
   std::size_t label;
   const char* caption;
 };
@@ -150,28 +162,31 @@ const CaptionRow kCaptions[] = {
 
 TEST(RowLayouts, CaptionsFollowTheRoofType) {
   for (const CaptionRow& row : kCaptions) {
-    Sheet sheet;
-    LayOutRows(sheet, row.roof, true);
-    EXPECT_EQ(sheet.Label[row.label].Caption, row.caption) << row.roof;
-    EXPECT_TRUE(sheet.Label[row.label].Visible) << row.roof << " " << row.caption;
+    Design design;
+  Sheet& sheet = design.sheet;
+    LayOutFor(design, row.roof);
+    EXPECT_EQ(sheet.Label[row.label].Caption, row.caption) << static_cast<int>(row.roof);
+    EXPECT_TRUE(sheet.Label[row.label].Visible) << static_cast<int>(row.roof) << " " << row.caption;
   }
 }
 
 TEST(RowLayouts, AGambrelWithoutPurlinsHasARidge) {
-  Sheet sheet;
-  LayOutRows(sheet, Roof::kGambrel, false);
+  Design design;
+  Sheet& sheet = design.sheet;
+  LayOutFor(design, Roof::kGambrel, false);
   EXPECT_EQ(sheet.Label[22].Caption, "Ridge:");
 }
 
 TEST(RowLayouts, KneewallAndLastCommonRows) {
-  Sheet sheet;
-  LayOutRows(sheet, Roof::kDualSlope, true);
+  Design design;
+  Sheet& sheet = design.sheet;
+  LayOutFor(design, Roof::kDualSlope);
   EXPECT_TRUE(sheet.Kneewall[0].Visible && sheet.Kneewall[1].Visible);
-  LayOutRows(sheet, Roof::kShed, true);
+  LayOutFor(design, Roof::kShed);
   EXPECT_TRUE(sheet.Kneewall[0].Visible);
   EXPECT_FALSE(sheet.Kneewall[1].Visible);
   EXPECT_FALSE(sheet.LastCommon.Visible);
-  LayOutRows(sheet, Roof::kHip, true);
+  LayOutFor(design, Roof::kHip);
   EXPECT_FALSE(sheet.Kneewall[0].Visible);
   EXPECT_TRUE(sheet.LastCommon.Visible && sheet.HasLastCommon.Visible && sheet.Label[23].Visible);
 }

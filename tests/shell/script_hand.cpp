@@ -126,10 +126,10 @@ void ScriptHand::Resize(std::string_view size) {
 
 HandAndDriver::HandAndDriver() {
   OpenForTest(window);
-  driven.Form_Load();
+  Start(driven);
   driven.Window.Width = window.width() * kTwipsPerPixel;
   driven.Window.Height = window.height() * kTwipsPerPixel;
-  driven.Form_Resize();
+  FollowSize(driven);
   Compare("start");
 }
 

@@ -5,8 +5,7 @@
 #include <random>
 #include <string>
 
-#include "document/actions.h"
-#include "document/document.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 
