@@ -12,7 +12,7 @@ install(FILES packaging/pitchcraft.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icon
 # packaging/pitchcraft.svg
 install(FILES packaging/pitchcraft-128.png DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/128x128/apps
   RENAME pitchcraft.png)
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN help EXCLUDE)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 

@@ -25,7 +25,7 @@ contents=$(dpkg-deb -c "$package" | awk '{print $6}')
 for file in bin/pitchcraft bin/pitchcraft-cli bin/ftcalc share/applications/pitchcraft.desktop \
   share/applications/ftcalc.desktop share/mime/packages/pitchcraft.xml share/pitchcraft/help/index.html \
   share/icons/hicolor/scalable/apps/pitchcraft.svg share/icons/hicolor/128x128/apps/pitchcraft.png \
-  share/doc/pitchcraft/README.md; do
+  share/doc/pitchcraft/README.md share/doc/pitchcraft/CONTRIBUTING.md; do
   grep -qxF "./usr/$file" <<<"$contents" || fail "usr/$file is missing"
 done
 while IFS= read -r page; do
