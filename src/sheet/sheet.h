@@ -25,7 +25,7 @@ Control& ControlOf(const AnyControl& any);
 
 /// The sheet as a copyable value. Index 0 of an array is the front or only roof, 1 the rear roof, 2 the extra
 /// field of the front page. No row is ever made or destroyed: rows are moved, renamed, shown and hidden
-/// (row_layouts.h).
+/// by the roof type.
 class Sheet {
  public:
   Sheet();
