@@ -22,7 +22,7 @@ platform : core measure drawing output files sheet storage document Qt
 shell    : core measure drawing sheet design storage document platform Qt
 cli      : drawing files document session platform Qt
 ftcalc   : core measure Qt
-gallery  : core sheet document platform shell ftcalc Qt
+gallery  : core sheet roofs document platform shell ftcalc Qt
 "
 
 # Rooms whose sources form no circle; a header and the source of the same name count as one. Still to be untangled: drawing, output,
