@@ -10,8 +10,8 @@ using Type = Member;
 
 }  // namespace
 
-bool Rafter::CalculateBay() {
-  if (Projection * Face * Back * BayAngle == 0) return false;
+void Rafter::CalculateBay() {
+  if (!HasBay()) return;
   AdjFasciaHeight = FasciaHeight;
   CalculateBaySlopes();
   CalculateBayAllowancesAndDrops();
@@ -24,7 +24,6 @@ bool Rafter::CalculateBay() {
   CalculateBayRisesAndLengths();
   CalculateBayJackDifferences();
   WriteBayTexts();
-  return true;
 }
 
 void Rafter::CalculateBaySlopes() {

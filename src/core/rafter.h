@@ -35,8 +35,10 @@ class Rafter {
   void CalculateGambrel();
 
   /// All members of a bay or of a Dutch hip end at once. A bay that lacks a dimension is left alone: no
-  /// member changes, and false comes back.
-  bool CalculateBay();
+  /// member changes.
+  void CalculateBay();
+  /// All four dimensions of the bay are known.
+  bool HasBay() const { return Projection * Face * Back * BayAngle != 0; }
 
   /// Hip and longest jack of a regular octagon. Of Span and HipValSpan the one that is 0 follows from the
   /// other.

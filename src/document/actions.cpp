@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "design/questions.h"
+#include "document/calculate.h"
 #include "document/commands.h"
 #include "document/fields.h"
 #include "document/menu_actions.h"

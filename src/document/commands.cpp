@@ -1,6 +1,7 @@
 #include "document/commands.h"
 
 #include "design/questions.h"
+#include "document/calculate.h"
 #include "document/fields.h"
 #include "roofs/dutch_hip.h"
 #include "roofs/gambrel.h"
@@ -16,14 +17,6 @@ void SetSlopeMode(Design& design, bool inDegrees) {
     if (design.sheet.Slope[row].Visible || design.sheet.Degrees[row].Visible) ShowSlopeRow(design, row);
   }
 }
-
-void SetSpacing(Design& design, Single spacing) {
-  for (Rafter* record : {&design.Rafter1, &design.Rafter2, &design.Calculated1, &design.Calculated2}) {
-    record->spacing = spacing;
-  }
-}
-
-void CalculateNow(Design& design, Reply& reply, int) { RoofOf(design).Recalculate(design, reply); }
 
 void ChooseSlopeMode(Design& design, Reply&, int inDegrees) { SetSlopeMode(design, inDegrees != 0); }
 

@@ -8,12 +8,6 @@ namespace pitchcraft {
 /// Of slope and degrees rows 1 and 2 follow only while one of their two boxes shows, so that a row not in use
 /// stays hidden.
 void SetSlopeMode(Design& design, bool inDegrees);
-/// The spacing of rafters and jacks.
-void SetSpacing(Design& design, Single spacing);
-
-/// Calculates the roof with every entry that waits.
-void CalculateNow(Design& design, Reply& reply, int = 0);
-
 // Commands of menu items, tool buttons and boxes. The index says which of several it is.
 void ChooseSlopeMode(Design& design, Reply& reply, int inDegrees);
 void ChooseFasciaCut(Design& design, Reply& reply, int cut);     ///< a FasciaCut

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "design/questions.h"
-#include "document/commands.h"
+#include "document/calculate.h"
 #include "roofs/bay.h"
 #include "roofs/bay_dimensions.h"
 #include "roofs/gambrel.h"

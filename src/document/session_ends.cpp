@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "design/questions.h"
+#include "document/calculate.h"
 #include "document/commands.h"
 #include "document/menu_actions.h"
 #include "document/units.h"

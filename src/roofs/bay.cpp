@@ -50,7 +50,9 @@ class Bay final : public RoofType {
   }
 
   void Recalculate(Design& design, Reply&) const override {
-    if (design.Rafter1.CalculateBay()) ShowFront(design);
+    if (!design.Rafter1.HasBay()) return;
+    design.Rafter1.CalculateBay();
+    ShowFront(design);
   }
 
   void TurnPage(Design& design, Reply& reply, int page) const override {

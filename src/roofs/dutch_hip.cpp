@@ -37,7 +37,9 @@ void SolveEnd(Design& design, Reply& reply) {
 
 void CalculateEnd(Design& design, Reply& reply) {
   SolveEnd(design, reply);
-  if (design.Rafter2.CalculateBay()) KeepRear(design);
+  if (!design.Rafter2.HasBay()) return;
+  design.Rafter2.CalculateBay();
+  KeepRear(design);
 }
 
 class DutchHip final : public RoofType {

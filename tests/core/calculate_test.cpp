@@ -247,14 +247,5 @@ TEST(Calculate, ResetsTheKindsOfBevel) {
   EXPECT_EQ(rafter.BottomBevelType, 0);
 }
 
-TEST(Calculate, RaisesItsEventAfterTheLastStore) {
-  Rafter rafter;
-  SmallHouse(rafter);
-  std::string pitch;
-  rafter.Calculated = [&] { pitch = rafter.HipPitch; };
-  rafter.Calculate();
-  EXPECT_EQ(pitch, " 4.24/12");
-}
-
 }  // namespace
 }  // namespace pitchcraft

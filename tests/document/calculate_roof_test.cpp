@@ -39,7 +39,7 @@ const RoofRow kRoofs[] = {
 TEST_F(CalculateRoofTest, EveryTypeHasItsRafterItsPagesAndItsHelp) {
   for (const RoofRow& row : kRoofs) {
     Pick("cboType", row.item);
-    EXPECT_EQ(document.design.RoofType, row.code) << row.item;
+    EXPECT_EQ(static_cast<int>(document.design.RoofType), row.code) << row.item;
     EXPECT_EQ(static_cast<int>(rafter.RafterType), row.rafter1) << row.item;
     EXPECT_EQ(sheet.Tabs[0].Caption(), row.pages);
     EXPECT_EQ(RoofOf(document.design).About().HelpTopic, row.help) << row.item;

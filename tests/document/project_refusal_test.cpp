@@ -61,7 +61,7 @@ TEST_F(RefusalTest, AHundredMegabytes) {
 
 TEST_F(RefusalTest, UnitsAreAppliedBeforeARoofIsRefused) {
   ExpectRefused(Write("metric.pcf", "[Settings]\r\nUnits=1\r\nRafterType=7\r\n"), kNoRoof);
-  EXPECT_EQ(session.document.UnitRun, 1000) << "a refused file leaves the sheet as far as it got";
+  EXPECT_TRUE(session.document.design.Metric) << "a refused file leaves the sheet as far as it got";
 }
 
 TEST_F(RefusalTest, OldCodeOfTheBayIsRead) {

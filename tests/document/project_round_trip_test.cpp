@@ -18,12 +18,9 @@ std::string TextOf(const MemberValue& value) {
   return text.str();
 }
 
-int CodeOf(Document& document) {
-  return ProjectRoofCode(
-      {document.design.RoofType, document.design.Rafter1, document.design.Rafter2, document.design.sheet, document.design.menus});
-}
+Roof CodeOf(const Document& document) { return RoofKind(document.design); }
 
-bool IsListed(int roofCode, const char* member) {
+bool IsListed(Roof roofCode, const char* member) {
   for (const ProjectLoss& loss : ProjectLosses()) {
     if (loss.Roofs.Has(roofCode) && loss.Names(member)) return true;
   }
@@ -40,14 +37,14 @@ std::set<std::string> Differences(const Rafter& one, const Rafter& other) {
   return names;
 }
 
-void ExpectOnlyListed(const Rafter& before, const Rafter& after, int roofCode, const char* which) {
+void ExpectOnlyListed(const Rafter& before, const Rafter& after, Roof roofCode, const char* which) {
   for (const std::string& name : Differences(before, after)) {
     EXPECT_TRUE(IsListed(roofCode, name.c_str())) << which << "." << name << " came back different";
   }
 }
 
 /// The text without the key that a Dutch hip writes and does not read.
-std::string WithoutIgnoredKey(const std::string& text, int roofCode) {
+std::string WithoutIgnoredKey(const std::string& text, Roof roofCode) {
   const std::size_t start = roofCode == Roof::kDutchHip ? text.find("Span2=") : std::string::npos;
   return start == std::string::npos ? text : text.substr(0, start);
 }
@@ -79,10 +76,10 @@ TEST_P(RoundTripTest, SavesTheSameBytesAndHoldsTheSameRafters) {
   EXPECT_EQ(second.around.dialogs.messages.size(), 0U) << second.LastMessage();
   EXPECT_EQ(second.document.design.Loading, 0);
   EXPECT_EQ(second.document.design.RoofType, first.document.design.RoofType);
-  EXPECT_EQ(second.document.UnitRun, first.document.UnitRun);
+  EXPECT_EQ(second.document.design.Metric, first.document.design.Metric);
   ExpectSameFields(first.document.design.sheet, second.document.design.sheet);
   ASSERT_TRUE(SaveProject(second.document, PathOf("second.pcf")));
-  const int code = CodeOf(first.document);
+  const Roof code = CodeOf(first.document);
   EXPECT_EQ(WithoutIgnoredKey(Read("first.pcf"), code), WithoutIgnoredKey(Read("second.pcf"), code));
   ExpectOnlyListed(first.document.design.Rafter1, second.document.design.Rafter1, code, "Rafter1");
   if (GetParam().twoRafters)
@@ -193,7 +190,7 @@ TEST_F(LossTest, TheFrontKneewallBoxFollowsTheRearOne) {
 
 TEST_F(LossTest, SpacingOfRoofsWithoutLayoutIsTheUsualOne) {
   before.document.design.sheet.Spacing.SetText("24\"");
-  before.document.cboSpacing_Click();
+  before.document.Act("cboSpacing_Click", &SpacingEntered);
   Take({});
   EXPECT_EQ(double{before.document.design.Rafter1.spacing}, 24);
   EXPECT_EQ(double{after.document.design.Rafter1.spacing}, 16);

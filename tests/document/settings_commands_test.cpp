@@ -29,7 +29,7 @@ TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
     EXPECT_EQ(each->spacing, 400);
   }
   EXPECT_EQ(UnitHipRun(document.design), 1414.2135);
-  EXPECT_EQ(document.DrawScale(), 1);
+  EXPECT_EQ(DrawScale(document.design), 1);
   EXPECT_EQ(sheet.Span[0].Text(), "3600 mm");
   EXPECT_EQ(sheet.Slope[0].LeftText(), "100");
   EXPECT_EQ(sheet.Slope[0].List().front().Caption, "100/1000");

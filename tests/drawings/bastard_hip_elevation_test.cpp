@@ -42,7 +42,7 @@ class DrawnMember {
     rafter.RafterType = c.Type;
     DrawingContext context = testing::ContextOf(c, rafter);
     context.SquareCut = c.SquareCut;
-    context.CurrentTab = c.Tab;
+    context.OnDesignPage = c.Tab == 0;
     board.DrawScale = c.Metric ? 1 : 10;
     board.Recorder.SetCanvas({c.Width, c.Height});
     DrawBastardHipRafters(board, rafter, context);

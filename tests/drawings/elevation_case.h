@@ -80,10 +80,10 @@ inline void Fill(Rafter& rafter, const ElevationCase& c) {
 
 inline DrawingContext ContextOf(const ElevationCase& c) {
   DrawingContext context;
-  context.RoofType = c.RoofType;
+  context.RoofType = static_cast<Roof>(c.RoofType);
   context.UnitRun = c.Metric ? 1000 : 12;
   context.UnitHipRun = c.Metric ? 1414.2135 : 16.970562;
-  context.CurrentTab = c.Tab;
+  context.OnDesignPage = c.Tab == 0;
   context.SquareCut = c.SquareCut;
   context.RiseOverRun = c.RiseOverRun;
   return context;

@@ -10,20 +10,20 @@ namespace {
 
 using testing::ElevationCase;
 
-class Member : public ::testing::Test {
+class ElevationMemberTest : public ::testing::Test {
  protected:
   ElevationMember Choose(Member type) {
     rafter.RafterType = type;
     rafter.Calculate();
     return ChooseElevationMember(rafter, context);
   }
-  Member() { testing::Fill(rafter, ElevationCase()); }
+  ElevationMemberTest() { testing::Fill(rafter, ElevationCase()); }
 
   Rafter rafter;
   DrawingContext context;
 };
 
-TEST_F(Member, TakesTheCommonsMeasures) {
+TEST_F(ElevationMemberTest, TakesTheCommonsMeasures) {
   for (const Member type : {Member::kCommon, Member::kShed}) {
     const ElevationMember member = Choose(type);
     EXPECT_TRUE(member.IsCommon());
@@ -38,7 +38,7 @@ TEST_F(Member, TakesTheCommonsMeasures) {
   }
 }
 
-TEST_F(Member, TakesTheHipsMeasures) {
+TEST_F(ElevationMemberTest, TakesTheHipsMeasures) {
   const ElevationMember member = Choose(Member::kHip);
   EXPECT_EQ(member.Run, rafter.AdjHipSpan);
   EXPECT_NEAR(member.RunWithOverhang, rafter.AdjHipSpanWithOverhang, 1e-4);
@@ -52,7 +52,7 @@ TEST_F(Member, TakesTheHipsMeasures) {
   EXPECT_EQ(member.SlopeText, " 4.24/12");
 }
 
-TEST_F(Member, TakesTheValleysMeasures) {
+TEST_F(ElevationMemberTest, TakesTheValleysMeasures) {
   for (const Member type : {Member::kValley, Member::kLongValley, Member::kShortValley}) {
     const ElevationMember member = Choose(type);
     EXPECT_EQ(member.Run, rafter.AdjValSpan);
@@ -62,23 +62,23 @@ TEST_F(Member, TakesTheValleysMeasures) {
   }
 }
 
-TEST_F(Member, NamesTheSlopeInDegreesWhenAsked) {
+TEST_F(ElevationMemberTest, NamesTheSlopeInDegreesWhenAsked) {
   context.RiseOverRun = false;
   EXPECT_EQ(Choose(Member::kCommon).SlopeText, "26.57\u00BA");
   EXPECT_EQ(Choose(Member::kHip).SlopeText, "19.47\u00BA");
 }
 
-TEST_F(Member, StandsOnAKneewallUnderThreeRoofsOnly) {
+TEST_F(ElevationMemberTest, StandsOnAKneewallUnderThreeRoofsOnly) {
   rafter.Kneewall = 60;
   for (const int roof : {0, 3, 4}) {
-    context.RoofType = roof;
+    context.RoofType = static_cast<Roof>(roof);
     EXPECT_EQ(Choose(Member::kCommon).Kneewall, 60) << roof;
   }
   for (const int roof : {1, 2, 5, 8, 10}) {
-    context.RoofType = roof;
+    context.RoofType = static_cast<Roof>(roof);
     EXPECT_EQ(Choose(Member::kCommon).Kneewall, 0) << roof;
   }
-  context.RoofType = 0;
+  context.RoofType = Roof::kGable;
   EXPECT_EQ(Choose(Member::kHip).Kneewall, 0);
   rafter.Kneewall = 143.25;
   EXPECT_EQ(Choose(Member::kCommon).Kneewall, 0) << "beyond the ridge";
@@ -86,7 +86,7 @@ TEST_F(Member, StandsOnAKneewallUnderThreeRoofsOnly) {
   EXPECT_EQ(Choose(Member::kCommon).Kneewall, 0);
 }
 
-TEST_F(Member, StaysWithinItsLumber) {
+TEST_F(ElevationMemberTest, StaysWithinItsLumber) {
   rafter.HipValDepth = 3.5;
   const ElevationMember hip = Choose(Member::kHip);
   EXPECT_EQ(hip.Fascia, hip.PlumbCut) << "a fascia that is taller than the hip ends at its underside";

@@ -85,10 +85,10 @@ inline void CalculateHip(Rafter& rafter, const HipCase& c) {
 
 inline DrawingContext ContextOf(const HipCase& c, const Rafter& rafter) {
   DrawingContext context;
-  context.RoofType = 1;
+  context.RoofType = Roof::kHip;
   context.UnitRun = c.Base();
   context.UnitHipRun = c.Metric ? 1414.2135 : 16.970562;
-  context.CurrentTab = c.IsBastard() ? 4 : 3;
+  context.OnDesignPage = false;
   context.RiseOverRun = c.RiseOverRun;
   context.HipLayout.Layout = c.Layout;
   context.HipLayout.WithOverhang = c.WithOverhang;

@@ -243,7 +243,7 @@ TEST(BastardHipExport, Members) {
     c.Width = 20000;  // room for the view from below
     HipOutputs outputs(c);
     outputs.drawn.rafter.RafterType = type;
-    outputs.context.Drawing.CurrentTab = 3;
+    outputs.context.Drawing.OnDesignPage = false;
     DrawBastardHipRafters(outputs.drawn.board, outputs.drawn.rafter, outputs.context.Drawing);
     const DxfContent file(outputs.Exported(&ExportBastardHipRafter));
     const DraftingBoard& board = outputs.drawn.board;

@@ -16,19 +16,12 @@ class HipOutputs {
  public:
   explicit HipOutputs(const HipCase& c, DrawnHip::Procedure draw = &DrawHipLayout)
       : drawn(c, draw),
-        context{drawn.context, fields, 0, "Barn", "1/2/2003", drawn.board.LengthText},
         metric_(c.Metric) {
-    if (c.Metric) {
-      for (MeasureControl* field : {&fields.Span[0], &fields.Overhang[0]}) {
-        field->Format.Units = kMillimetres;
-        field->Format.BaseUnits = kBaseMillimetres;
-      }
-    }
-    fields.Span[0].SetValue(c.Run);
-    fields.Overhang[0].SetValue(c.Overhang);
-    fields.Spacing.SetText(c.Metric ? "400" : "16\"");
-    for (PairControl* lumber : {&fields.Common[0], &fields.HipOrValley, &fields.Ridge, &fields.Fascia[0]})
-      lumber->SetValues(1.5, 7.25);
+    context.Drawing = drawn.context;
+    context.Spacing = c.Metric ? "400" : "16\"";
+    context.ProjectName = "Barn";
+    context.Date = "1/2/2003";
+    context.LengthText = drawn.board.LengthText;
   }
 
   /// The file written by an export.
@@ -63,7 +56,6 @@ class HipOutputs {
     return texts;
   }
 
-  Sheet fields;
   DrawnHip drawn;
   PrintContext context;
   Recording Figure;  ///< of the last sheet

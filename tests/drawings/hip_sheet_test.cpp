@@ -161,7 +161,7 @@ TEST(HipPaper, NothingLiesOnAnything) {
         SCOPED_TRACE(::testing::Message() << c);
         HipOutputs outputs(c);
         outputs.context.Drawing.SquareCut = true;
-        outputs.context.Drawing.CurrentTab = c.IsBastard() ? 3 : 0;
+        outputs.context.Drawing.OnDesignPage = !c.IsBastard();
         ExpectReadable(outputs.Printed(print, paper), paper);
         EXPECT_THAT(testing::UnreadableTexts(outputs.Figure, 0xFFFFFF), ::testing::IsEmpty());
       }

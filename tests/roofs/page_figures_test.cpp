@@ -60,6 +60,16 @@ TEST(PageFigures, EachPageShowsItsMember) {
   }
 }
 
+TEST(RoofTypes, CodesAndPositions) {
+  EXPECT_EQ(RoofTypes().size(), 11U);
+  EXPECT_EQ(ListIndexOfRoof(Roof::kGambrel), 10);
+  EXPECT_EQ(ListIndexOfRoof(Roof::kBastardHip), 3) << "a bastard hip stands under Hip";
+  EXPECT_EQ(ListIndexOfRoof(static_cast<Roof>(6)), -1);
+  EXPECT_EQ(RoofTypeByCode(static_cast<Roof>(7)), nullptr);
+  EXPECT_EQ(RoofTypeByItem("hip"), nullptr) << "compared exactly";
+  EXPECT_EQ(RoofTypeByItem("Hip")->About().HelpTopic, 400);
+}
+
 // What a job or a click left in the record would otherwise decide what is drawn.
 TEST(PageFigures, TheTypeLeftInTheRecordDecidesNothing) {
   for (const RoofType* type : RoofTypes()) {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 namespace {

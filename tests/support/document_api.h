@@ -3,6 +3,7 @@
 
 #include "design/questions.h"
 #include "document/actions.h"
+#include "document/calculate.h"
 #include "document/commands.h"
 #include "document/document.h"
 #include "document/fields.h"

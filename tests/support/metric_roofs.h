@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft::testing {
 
