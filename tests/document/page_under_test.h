@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -49,11 +50,11 @@ class PageUnderTest {
   }
 
   testing::PageFacts Facts() const {
-    const IndexTab& tab = document_.sheet.VSTab[0];
-    return {document_.sheet.cboType.Text(), tab.Pages(), static_cast<std::size_t>(tab.Page),
+    const IndexTab& tab = document_.sheet.Tabs[0];
+    return {document_.sheet.RoofList.Text(), tab.Pages(), static_cast<std::size_t>(tab.Page),
             !document_.Imperial()};
   }
-  const Recording& Screen() const { return document_.board.MetaCanvas.Operations(); }
+  const Recording& Screen() const { return document_.board.Recorder.Operations(); }
   /// Drawing units for an inch or a millimetre.
   double DrawScale() const { return document_.DrawScale(); }
 
@@ -95,7 +96,7 @@ class PageUnderTest {
   AnsweringDialogs dialogs_;
   MemoryStore store_;
   RecordingPrinter printer_;
-  frmDocument document_;
+  Document document_;
   Actions actions_{document_};
 };
 

@@ -7,6 +7,8 @@
 #include <random>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace pitchcraft {
 

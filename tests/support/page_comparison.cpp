@@ -1,21 +1,17 @@
 // What must agree between the three forms of a page, and what each must hold by itself.
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <sstream>
 
-#include "core/number_text.h"
-#include "measure/ft_in_converter.h"
 #include "page_forms.h"
+#include "page_words.h"
 
 namespace pitchcraft::testing {
 namespace {
 
-constexpr const char* kDegreeSign = "\u00BA";
-constexpr double kDegrees = 57.29577951308232;
 constexpr double kSinglePrecision = 5e-7;  // of a coordinate's size, after a few sums
-constexpr double kHalfHundredth = 0.0051;  // angles are rounded to hundredths
 /// A point of a recording is off by half a grain either way in x and y: a distance by the diagonal of a
 /// grain.
 constexpr double kRounded = 1.5;
@@ -25,14 +21,7 @@ const char* NameOf(FormKind kind) {
   return kind == FormKind::kPaper ? "paper" : "file";
 }
 
-template <typename... Parts>
-std::string Said(const Parts&... parts) {
-  std::ostringstream words;
-  (words << ... << parts);
-  return words.str();
-}
-
-std::string Said(const FormStroke& stroke) {
+std::string EndsOf(const FormStroke& stroke) {
   return Said("(", stroke.From.X, ", ", stroke.From.Y, ")-(", stroke.To.X, ", ", stroke.To.Y, ")");
 }
 
@@ -41,8 +30,6 @@ double Cross(FormPoint a, FormPoint b) { return a.X * b.Y - a.Y * b.X; }
 FormPoint operator-(FormPoint a, FormPoint b) { return {a.X - b.X, a.Y - b.Y}; }
 double Length(FormPoint a) { return std::hypot(a.X, a.Y); }
 double Length(const FormStroke& stroke) { return Length(stroke.To - stroke.From); }
-
-// --- Strokes
 
 /// The left lower corner of the wood, to which a drawing is brought: a form may stand anywhere.
 FormPoint CornerOf(const PageForm& form) {
@@ -86,7 +73,7 @@ void MatchStrokes(const char* what, const PageForm& a, std::vector<FormStroke> o
   const auto missing = [&](const PageForm& has, const PageForm& lacks, const FormStroke& stroke) {
     if (Length(stroke) <= tolerance) return;
     found.push_back(
-        Said(what, ": ", NameOf(has.Kind), " has ", Said(stroke), ", ", NameOf(lacks.Kind), " does not"));
+        Said(what, ": ", NameOf(has.Kind), " has ", EndsOf(stroke), ", ", NameOf(lacks.Kind), " does not"));
   };
   for (const FormStroke& stroke : ofA) {
     const auto partner = std::find_if(ofB.begin(), ofB.end(), [&](const FormStroke& candidate) {
@@ -101,8 +88,6 @@ void MatchStrokes(const char* what, const PageForm& a, std::vector<FormStroke> o
   for (const FormStroke& stroke : ofB) missing(b, a, stroke);
 }
 
-// --- Words
-
 /// The letters of some CAD programs lack the degree sign, so a file writes "63.4" and "45d bevels".
 std::string WithoutSigns(std::string text) {
   for (const std::string sign : {kDegreeSign, "d bevel"}) {
@@ -110,13 +95,6 @@ std::string WithoutSigns(std::string text) {
     if (at != std::string::npos) text.replace(at, sign.size(), sign == kDegreeSign ? "" : " bevel");
   }
   return text;
-}
-
-std::string OneBlankBetweenWords(const std::string& text) {
-  std::istringstream words(text);
-  std::string joined;
-  for (std::string word; words >> word;) joined += joined.empty() ? word : ' ' + word;
-  return joined;
 }
 
 /// Two notes are worded differently in a file; what they say is where the layout starts.
@@ -152,8 +130,6 @@ std::vector<std::string> TextsOf(const std::vector<FormDimension>& dimensions) {
   for (const FormDimension& dimension : dimensions) texts.push_back(dimension.Text);
   return texts;
 }
-
-// --- Dimensions
 
 /// How far a dimension's direction may be off, in lengths across for one along: two rounded tips give it.
 double TiltOf(const FormDimension& dimension, double grain) {
@@ -205,12 +181,24 @@ void MatchMeasures(const PageForm& a, const PageForm& b, double tolerance, Disag
   }
 }
 
-double ValueOf(const std::string& text, bool metric) {
-  FtInConverter reader;
-  reader.Imperial = !metric;
-  reader.Units = metric ? kMillimetres : kFeetAndInches;
-  reader.BaseUnits = metric ? kBaseMillimetres : kBaseInches;
-  return reader.ToValue(text);
+/// `12' 6 1/2"` or `3600 mm` as a number; not a number where it is neither.
+double ValueOf(const std::string& text) {
+  constexpr double kInchesPerFoot = 12;
+  std::istringstream words(text);
+  double value = 0;
+  double sign = 1;
+  for (std::string word; words >> word;) {
+    if (word == "mm") continue;
+    double number = 0;
+    std::size_t at = 0;
+    if (!ReadNumber(word, at, number)) return std::numeric_limits<double>::quiet_NaN();
+    if (word.starts_with('-')) sign = -1;
+    double divisor = 1;
+    if (word.compare(at, 1, "/") == 0) ReadNumber(word, ++at, divisor);
+    const bool feet = word.compare(at, 1, "'") == 0;
+    value += std::fabs(number) / divisor * (feet ? kInchesPerFoot : 1);
+  }
+  return sign * value;
 }
 
 /// The corners that a measure can begin at. In an elevation the heel's line counts: where the wood has no
@@ -236,8 +224,6 @@ double DistanceTo(const FormStroke& stroke, FormPoint point) {
   const double share = square == 0 ? 0 : std::clamp(Dot(point - stroke.From, way) / square, 0.0, 1.0);
   return Length(point - FormPoint{stroke.From.X + share * way.X, stroke.From.Y + share * way.Y});
 }
-
-// --- The end view
 
 /// One end of the rafter from below, seen from that end and in heights of the view.
 std::vector<FormStroke> InHeights(const FormEndView& view) {
@@ -274,125 +260,6 @@ void CompareEndViews(const PageForm& a, const PageForm& b, double tolerance, Dis
   scaledA.Strokes = InHeights(viewA);
   scaledB.Strokes = InHeights(viewB);
   MatchStrokes("end view", a, scaledA.Strokes, b, scaledB.Strokes, inHeights, found);
-}
-
-// --- Words of the sheet
-
-struct TitleRow {
-  const char* Roof;
-  const char* Caption;
-  const char* Title;
-  const char* SlopeRow;  ///< the row that states the slope of the member drawn; null where it is a plan
-};
-
-// The end of a title may say more: the spacing, that overhangs were made equal.
-constexpr TitleRow kTitles[] = {
-    {"Common Gable", "Design", "Gable Roof - Common Rafter", "Slope"},
-    {"Common Gable", "Rafter", "Gable Roof - Common Rafter", "Slope"},
-    {"Common Shed", "Design", "Shed Roof - Rafter", "Slope"},
-    {"Common Shed", "Shed Rafter", "Shed Roof - Rafter", "Slope"},
-    {"Dual Slope", "Front Rafter", "Dual Slope Roof - Front Rafter", "Slope"},
-    {"Dual Slope", "Rear Rafter", "Dual Slope Roof - Rear Rafter", "Slope"},
-    {"Hip", "Design", "Hip Roof - Plan View", nullptr},
-    {"Hip", "Common", "Hip Roof - Common Rafter", "Slope"},
-    {"Hip", "Hip Rafter", "Hip Roof - Hip Rafter", "Hip Slope"},
-    {"Hip", "Layout", "Hip Roof - Layout", nullptr},
-    {"Bastard Hip", "Design", "Bastard Hip Roof - Plan View", nullptr},
-    {"Bastard Hip", "Common", "Bastard Hip Roof - Common Rafter", "Main Slope"},
-    {"Bastard Hip", "Hip End Common", "Bastard Hip Roof - Hip End Common Rafter", "Hip End Slope"},
-    {"Bastard Hip", "Hip Rafter", "Bastard Hip Roof - Bastard Hip Rafter", "Hip Rafter Slope"},
-    {"Bastard Hip", "Layout", "Bastard Hip Roof - Layout", nullptr},
-    {"Valley", "Design", "Valley - Valley Rafter", "Valley Slope"},
-    {"Valley", "Valley Rafter", "Valley - Valley Rafter", "Valley Slope"},
-    {"Unequal Span Valley", "Short Valley", "Unequal Span Valley - Short Valley Rafter", "Valley Slope"},
-    {"Unequal Span Valley", "Long Valley", "Unequal Span Valley - Long Valley Rafter", "Valley Slope"},
-    {"Dutch Hip", "Common", "Dutch Hip Roof - Common Rafter", "Slope"},
-};
-
-/// A hip roof whose two slopes differ has a page more, and its sheets have another name.
-const TitleRow* TitleOf(const PageFacts& facts) {
-  constexpr std::size_t kBastardPages = 5;
-  const bool bastard = facts.Roof == "Hip" && facts.Pages.size() == kBastardPages;
-  const std::string roof = bastard ? "Bastard Hip" : facts.Roof;
-  for (const TitleRow& row : kTitles) {
-    if (row.Roof == roof && facts.Page < facts.Pages.size() && row.Caption == facts.Pages[facts.Page])
-      return &row;
-  }
-  return nullptr;
-}
-
-std::string LabelOf(const std::string& row) { return row.substr(0, row.find(" =")); }
-
-std::string StatedBy(const std::string& row) {
-  const std::size_t sign = row.find(" =");
-  return sign == std::string::npos ? "" : std::string(Trimmed(std::string_view(row).substr(sign + 2)));
-}
-
-bool SaysNothing(const std::string& row) {
-  const std::string value = StatedBy(row);
-  if (value.empty()) return true;
-  const bool pair = value == "x" || value.starts_with("x ") || value.ends_with(" x");
-  return pair;
-}
-
-/// "6/12 (26.57º)".
-struct SlopeValue {
-  double LeastRise = 0;
-  double MostRise = 0;
-  double Run = 0;
-  double Angle = 0;
-};
-
-bool Read(const std::string& text, std::size_t& at, double& number) {
-  const auto result = std::from_chars(text.data() + at, text.data() + text.size(), number);
-  at = static_cast<std::size_t>(result.ptr - text.data());
-  return result.ec == std::errc();
-}
-
-/// The rise of a hip or valley is cut, not rounded, after its second decimal; in millimetres every rise is
-/// rounded to a whole one.
-std::optional<SlopeValue> ReadSlope(const std::string& text, bool metric) {
-  SlopeValue slope;
-  std::size_t at = 0;
-  double rise = 0;
-  const auto skip = [&](const std::string& sign) {
-    if (text.compare(at, sign.size(), sign) != 0) return false;
-    at += sign.size();
-    return true;
-  };
-  const bool read = Read(text, at, rise) && skip("/") && Read(text, at, slope.Run) && skip(" (") &&
-                    Read(text, at, slope.Angle) && skip(std::string(kDegreeSign) + ")");
-  if (!read) return std::nullopt;
-  const std::string digits = text.substr(0, text.find('/'));
-  const std::size_t point = digits.find('.');
-  const double cut = point == std::string::npos ? 0 : std::pow(10, -double(digits.size() - point - 1));
-  const double rounded = metric ? 0.5 : 0;
-  slope.LeastRise = rise - std::max(rounded, rise < 0 ? cut : 0);
-  slope.MostRise = rise + std::max(rounded, rise > 0 ? cut : 0);
-  return slope;
-}
-
-bool IsSlopeRow(const std::string& row) { return LabelOf(row).ends_with("Slope"); }
-
-void CheckSlopeRow(const std::string& row, bool metric, Disagreements& found) {
-  const std::optional<SlopeValue> slope = ReadSlope(StatedBy(row), metric);
-  if (!slope) {
-    found.push_back("slope row: cannot be read: " + row);
-    return;
-  }
-  const double low = std::atan(slope->LeastRise / slope->Run) * kDegrees;
-  const double high = std::atan(slope->MostRise / slope->Run) * kDegrees;
-  if (slope->Angle < low - kHalfHundredth || slope->Angle > high + kHalfHundredth)
-    found.push_back(Said("slope row: ", row, " should be ", low, " to ", high));
-}
-
-/// A text that was too wide for its place is cut.
-bool SameWords(const std::string& paper, const std::string& file) {
-  const std::string shown = OneBlankBetweenWords(paper);
-  const std::string whole = OneBlankBetweenWords(file);
-  const std::string ellipsis = "\u2026";
-  if (!shown.ends_with(ellipsis)) return shown == whole;
-  return whole.starts_with(shown.substr(0, shown.size() - ellipsis.size()));
 }
 
 }  // namespace
@@ -437,7 +304,7 @@ Disagreements CheckDimensions(const PageForm& form, bool metric) {
   for (const FormDimension& dimension : Measures(form)) {
     const double tilt = TiltOf(dimension, form.Grain);
     const double measure = std::fabs(Dot(dimension.P2 - dimension.P1, dimension.Along));
-    if (std::fabs(ValueOf(dimension.Text, metric) - measure) > rounded + off)
+    if (!(std::fabs(ValueOf(dimension.Text) - measure) <= rounded + off))
       found.push_back(Said("measure: ", dimension.Text, " is written over ", measure, " on ", name));
     for (const FormPoint point : {dimension.P1, dimension.P2}) {
       const bool level = std::any_of(corners.begin(), corners.end(), [&](FormPoint corner) {
@@ -457,66 +324,14 @@ Disagreements CheckDimensions(const PageForm& form, bool metric) {
   return found;
 }
 
-Disagreements CheckSheet(const PageFacts& facts, const PageSheet& sheet) {
-  Disagreements found;
-  if (const TitleRow* row = TitleOf(facts)) {
-    const std::string title = row->Title;
-    if (sheet.Title != title && !sheet.Title.starts_with(title + " "))
-      found.push_back("title: " + sheet.Title + " instead of " + title);
-  } else {
-    found.push_back("title: no row of the table for page " + std::to_string(facts.Page) + " of " +
-                    facts.Roof);
-  }
-  if (sheet.Rows.empty()) found.emplace_back("rows: there are none");
-  for (const std::string& row : sheet.Rows) {
-    if (SaysNothing(row)) found.push_back("empty row: " + row);
-    if (IsSlopeRow(row)) CheckSlopeRow(row, facts.Metric, found);
-  }
-  return found;
-}
-
-/// The slope over an elevation is that of the row which names the member.
-Disagreements CheckHeading(const PageFacts& facts, const PageForm& form, const PageSheet& sheet) {
-  const TitleRow* title = TitleOf(facts);
-  if (title == nullptr) return {};
-  if (title->SlopeRow == nullptr) {
-    if (form.Heading) return {"heading: a plan has none: " + *form.Heading};
-    return {};
-  }
-  const std::string heading(Trimmed(form.Heading.value_or("")));
-  for (const std::string& row : sheet.Rows) {
-    if (LabelOf(row) != title->SlopeRow) continue;
-    const std::string value = StatedBy(row);
-    if (value.starts_with(heading + " (") && !heading.empty()) return {};
-    const std::optional<SlopeValue> slope = ReadSlope(value, facts.Metric);
-    std::size_t at = 0;
-    double angle = 0;
-    const bool degrees = heading.ends_with(kDegreeSign) && Read(heading, at, angle);
-    if (slope && degrees && std::fabs(slope->Angle - angle) <= kHalfHundredth) return {};
-    return {Said("heading: ", heading, " over ", row)};
-  }
-  return {Said("heading: no row ", title->SlopeRow)};
-}
-
-Disagreements CompareSheets(const PageSheet& paper, const PageSheet& file) {
-  Disagreements found;
-  if (!SameWords(paper.Title, file.Title))
-    found.push_back("title: " + paper.Title + " on paper, " + file.Title + " in the file");
-  if (paper.Rows.size() != file.Rows.size()) {
-    found.push_back(Said("rows: ", paper.Rows.size(), " on paper, ", file.Rows.size(), " in the file"));
-    return found;
-  }
-  for (std::size_t i = 0; i < paper.Rows.size(); ++i) {
-    if (!SameWords(paper.Rows[i], file.Rows[i]))
-      found.push_back("rows: " + paper.Rows[i] + " on paper, " + file.Rows[i] + " in the file");
-  }
-  return found;
-}
-
 Disagreements Compare(const PageFacts& facts, const PageForm& screen, const SheetForm* paper,
                       const SheetForm* file) {
   Disagreements found;
-  const auto add = [&](const Disagreements& more) { found.insert(found.end(), more.begin(), more.end()); };
+  const auto add = [&](const Disagreements& more) {
+    for (const std::string& line : more) {  // what is wrong on paper and in the file is told once
+      if (std::find(found.begin(), found.end(), line) == found.end()) found.push_back(line);
+    }
+  };
   const auto unknown = [&](const PageForm& form) {
     for (const std::string& what : form.Unknown)
       found.push_back(Said("unknown: ", what, " on ", NameOf(form.Kind)));

@@ -8,6 +8,7 @@
 #include <numeric>
 
 #include "../output/dxf_reading.h"
+#include "page_words.h"
 
 namespace pitchcraft::testing {
 namespace {
@@ -22,7 +23,6 @@ constexpr Colors kScreenColors{0xFFFFFF, 0xFF, 0};
 constexpr Colors kPaperColors{0, 0xFF, 0xFFFFFF};
 
 constexpr double kFileGrain = 1e-3;
-constexpr const char* kDegreeSign = "\u00BA";
 
 double Distance(FormPoint a, FormPoint b) { return std::hypot(b.X - a.X, b.Y - a.Y); }
 
