@@ -55,6 +55,14 @@ QColor SwitchedOff(const QColor& text, const QColor& ground) {
   return text;
 }
 
+QColor WaitingColor(const QColor& ground) {
+  const QColor light(0xFF, 0xB3, 0x2E);
+  const QColor dark(0x9A, 0x58, 0x00);
+  const QColor amber = Contrast(light, ground) >= Contrast(dark, ground) ? light : dark;
+  if (Contrast(amber, ground) >= kLeastForMarks) return amber;
+  return Contrast(Qt::white, ground) >= Contrast(Qt::black, ground) ? Qt::white : Qt::black;
+}
+
 QColor ColorOf(std::uint32_t value, const QPalette& desktop) {
   switch (value) {
     case 0x80000005: return desktop.color(QPalette::Active, QPalette::Base);

@@ -20,6 +20,9 @@ QColor SwitchedOff(const QColor& text, const QColor& ground);
 /// The palette of a field with those colours; a disabled field is grey on the colour of the window.
 QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop);
 
+/// The mark of a field whose entry waits: amber, light or dark, or white or black where amber is not seen.
+QColor WaitingColor(const QColor& ground);
+
 /// The colours of one field. Setting a palette costs far more than comparing what it is made of.
 class FieldColors {
  public:

@@ -64,6 +64,16 @@ void MeasureField::ShowState() {
   }
   if (isReadOnly() != field_.ReadOnly) setReadOnly(field_.ReadOnly);
   ShowText(field_.Text());
+  TellWhetherItWaits(!Modified() && pitchcraft::Waits(TheSession().Document().design, Name()));
+}
+
+// What is still being typed does not wait yet.
+void MeasureField::TellWhetherItWaits(bool waits) {
+  if (waits == Waits()) return;
+  ShowWaiting(waits);
+  const QString tip = waits ? tr(kWaits) : QString::fromStdString(field_.ToolTip);
+  setToolTip(tip);
+  setAccessibleDescription(tip);
 }
 
 void MeasureField::FitTo(const QRect& place) {
