@@ -1,5 +1,6 @@
 #include "shell/entry_box.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -36,6 +37,16 @@ void EntryBox::ShowText(const std::string& text) {
   showing_ = false;
 }
 
+void EntryBox::SetTakesEntry(bool takes) {
+  if (isReadOnly() != takes) return;
+  setReadOnly(!takes);
+  QAccessible::State changed;
+  changed.readOnly = true;
+  changed.editable = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
 // The text keeps clear of the clock.
 void EntryBox::ShowWaiting(bool waits) {
   if (waits_ == waits) return;
@@ -54,7 +65,8 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
   const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
   const int key = event->key();
   if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-    emit Entered();
+    // Where nothing can be typed, the rounded text must not come in as a number.
+    if (!isReadOnly()) emit Entered();
     selectAll();
   } else if (key == Qt::Key_F4 || (key == Qt::Key_Down && modifiers == Qt::AltModifier)) {
     emit ListAsked();

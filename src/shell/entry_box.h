@@ -21,6 +21,8 @@ class EntryBox : public QLineEdit {
   /// Shows a text of the program; nothing is signalled.
   void ShowText(const std::string& text);
   std::string Entry() const { return text().toStdString(); }
+  /// A box that takes no entry is read and copied from.
+  void SetTakesEntry(bool takes);
   /// Marks the box with a small clock: its entry waits for the next calculation.
   void ShowWaiting(bool waits);
   bool Waits() const { return waits_; }

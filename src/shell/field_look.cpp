@@ -77,10 +77,12 @@ QColor ColorOf(std::uint32_t value, const QPalette& desktop) {
   return {rgb.Red, rgb.Green, rgb.Blue};
 }
 
-QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop) {
+QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop, bool takesEntry) {
   QPalette palette = desktop;
-  const QColor text = ColorOf(fore, desktop);
-  const QColor ground = ColorOf(back, desktop);
+  const QColor off = desktop.color(QPalette::Active, QPalette::Window).darker(106);
+  const QColor grey = SwitchedOff(desktop.color(QPalette::Active, QPalette::WindowText), off);
+  const QColor text = takesEntry ? ColorOf(fore, desktop) : grey;
+  const QColor ground = takesEntry ? ColorOf(back, desktop) : off;
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     palette.setColor(group, QPalette::Base, ground);
     palette.setColor(group, QPalette::Button, ground);
@@ -88,8 +90,6 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
     palette.setColor(group, QPalette::ButtonText, text);
   }
   SetHighlight(palette, text, ground);
-  const QColor off = desktop.color(QPalette::Active, QPalette::Window).darker(106);
-  const QColor grey = SwitchedOff(desktop.color(QPalette::Active, QPalette::WindowText), off);
   palette.setColor(QPalette::Disabled, QPalette::Base, off);
   palette.setColor(QPalette::Disabled, QPalette::Button, off);
   palette.setColor(QPalette::Disabled, QPalette::Text, grey);
@@ -97,11 +97,11 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
   return palette;
 }
 
-bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop) {
-  const Origin origin{fore, back, desktop.cacheKey()};
+bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop, bool takesEntry) {
+  const Origin origin{fore, back, desktop.cacheKey(), takesEntry};
   if (origin == origin_) return false;
   origin_ = origin;
-  palette_ = FieldPalette(fore, back, desktop);
+  palette_ = FieldPalette(fore, back, desktop, takesEntry);
   return true;
 }
 
