@@ -3,6 +3,8 @@
 
 #include <QLineEdit>
 
+class QPainter;
+
 namespace pitchcraft {
 
 /// Modified means: typed into since the last text that the program showed. A modified box keeps what was
@@ -19,6 +21,11 @@ class EntryBox : public QLineEdit {
   /// Shows a text of the program; nothing is signalled.
   void ShowText(const std::string& text);
   std::string Entry() const { return text().toStdString(); }
+  /// A box that takes no entry is read and copied from.
+  void SetTakesEntry(bool takes);
+  /// Marks the box with a small clock: its entry waits for the next calculation.
+  void ShowWaiting(bool waits);
+  bool Waits() const { return waits_; }
 
   /// Leaves the box that has the focus, without moving the focus: before a menu item, a tool button or a page
   /// acts, what was typed counts.
@@ -40,7 +47,10 @@ class EntryBox : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintClock(QPainter& painter) const;
+
   bool modified_ = false;
+  bool waits_ = false;
   bool showing_ = false;
 };
 

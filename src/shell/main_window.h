@@ -48,6 +48,8 @@ class MainWindow : public QWidget {
   void SyncStatus();
   PictureView& ShownView();
   void AddViewCommands();
+  void AddCalculateCommand();
+  void CalculateNow();
   void PlaceParts();
   void FitToScreens();
   void ChainTabOrder();
