@@ -84,6 +84,7 @@ class Document : public Preferences {
   bool CloseRequested = false;  ///< the window is to close
   bool DialogIsActive = false;  ///< another window has the focus and must keep it
   Area Window{1000, 1000, 6500, 6500};  ///< place and size, twips
+  WordRoom Words;                       ///< what the window's font needs; the driver has none
 
   bool Imperial() const { return UnitRun == 12; }
   double DrawScale() const { return Imperial() ? 10.0 : 1.0; }

@@ -23,7 +23,7 @@ Document::Document(const Surroundings& surroundings)
 FormLayout Document::Layout() const {
   return LayOutForm(Window.Width, Window.Height,
                     {menus.ViewToolbar.Checked, menus.ViewStatusBar.Checked, sheet.DimensionStrip.Visible,
-                     RoofType == roof::kDualSlope});
+                     RoofType == roof::kDualSlope, Words});
 }
 
 void Document::Form_Load() {

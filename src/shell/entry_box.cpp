@@ -3,17 +3,33 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOption>
 
 namespace pitchcraft {
+namespace {
+
+constexpr int kTextMargin = 2;
+constexpr int kBesideText = 3;  // what the toolkit leaves beside the margin, with the line of the cursor
+
+}  // namespace
 
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
-  setTextMargins(2, 0, 2, 0);
+  setTextMargins(kTextMargin, 0, kTextMargin, 0);
   // Not textEdited: assistive programs put their text in as a whole.
   connect(this, &QLineEdit::textChanged, this, [this] {
     if (showing_) return;
     modified_ = true;
     emit Edited();
   });
+}
+
+QSize EntryBox::SizeFor(const QString& text) const {
+  QStyleOptionFrame frame;
+  initStyleOption(&frame);
+  const QFontMetrics words = fontMetrics();
+  const QSize inside(words.horizontalAdvance(text) + 2 * (kTextMargin + kBesideText), words.height());
+  const QSize outside = style()->sizeFromContents(QStyle::CT_LineEdit, &frame, inside, this);
+  return {outside.width(), words.height() + kAboveAndBelowText};
 }
 
 void EntryBox::ShowText(const std::string& text) {

@@ -5,6 +5,12 @@
 
 namespace pitchcraft {
 
+/// Measures that the fields have room for, whatever the font: of a long roof, and of a board.
+inline constexpr const char* kLongMeasure = "100' 10 15/16\"";
+inline constexpr const char* kShortMeasure = "11 15/16\"";
+/// Of any box in a row of the sheet: the frame and what stands free inside of it.
+inline constexpr int kAboveAndBelowText = 6;
+
 /// Modified means: typed into since the last text that the program showed. A modified box keeps what was
 /// typed until its owner has taken it.
 class EntryBox : public QLineEdit {
@@ -19,6 +25,8 @@ class EntryBox : public QLineEdit {
   /// Shows a text of the program; nothing is signalled.
   void ShowText(const std::string& text);
   std::string Entry() const { return text().toStdString(); }
+  /// Of a box in which all of the text can be read.
+  QSize SizeFor(const QString& text) const;
 
   /// Leaves the box that has the focus, without moving the focus: before a menu item, a tool button or a page
   /// acts, what was typed counts.

@@ -66,8 +66,8 @@ void MeasureField::ShowState() {
   ShowText(field_.Text());
 }
 
-void MeasureField::FitTo(const QRect& place) {
-  setFont(FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6));
+QSize MeasureField::SizeForWords() const {
+  return SizeFor(field_.Format.Units == kPlainNumber ? "157.5" : kLongMeasure);
 }
 
 void MeasureField::contextMenuEvent(QContextMenuEvent* event) {
