@@ -62,6 +62,7 @@ OptionsDialog::OptionsDialog(OptionsForm& form, std::function<void()> applied, Q
   setWindowTitle(OptionsForm::kTitle);
   setAccessibleName(OptionsForm::kTitle);
   tabs_->setObjectName("tbsOptions");
+  tabs_->setUsesScrollButtons(false);  // the dialog is as wide as all captions
   QWidget* const pages[] = {MakeColorPage(), new ListPage(form_.SlopeList, {"Name", "Rise", "Run"}, 0, tabs_),
                             new ListPage(form_.LumberList, {"Name", "Thickness", "Depth"}, 1, tabs_),
                             MakePrintPage(), MakeDxfPage()};

@@ -14,6 +14,8 @@ struct Case {
   QSize size;  ///< never below the least
 };
 
+void PrintTo(const Case& row, std::ostream* out) { *out << row.face.name << row.sizeName; }
+
 std::vector<Case> AllCases() {
   std::vector<Case> cases;
   for (const Face& face : AllFaces()) {

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontInfo>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ struct Face {
     return font;
   }
 };
+
+inline void PrintTo(const Face& face, std::ostream* out) { *out << face.name; }
 
 /// Usual letters, letters of equal width, and letters wider than those of any desktop's own face; each as
 /// most people have them and as people do who see badly.
