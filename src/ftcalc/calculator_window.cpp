@@ -18,8 +18,8 @@ struct KeyRow {
   char key;
 };
 
-constexpr int kUsualWidth = 600;
-constexpr int kUsualHeight = 400;
+constexpr int kLettersAcross = 100;
+constexpr int kLinesDown = 28;
 constexpr int kTapeLetters = 24;
 constexpr int kBesideCaption = 6;
 constexpr int kKeysAcross = 5;
@@ -101,7 +101,7 @@ CalculatorWindow::CalculatorWindow(bool metric, QWidget* parent) : QWidget(paren
   auto* whole = new QHBoxLayout(this);
   whole->addLayout(left, 2);
   whole->addWidget(tape_, 1);
-  resize(sizeHint().expandedTo(QSize(kUsualWidth, kUsualHeight)));
+  resize(kLettersAcross * fontMetrics().averageCharWidth(), kLinesDown * fontMetrics().lineSpacing());
   display_->setFocus();
   Sync();
 }

@@ -51,6 +51,7 @@ constexpr int kNoteLines = 6;
 QLabel* MakeLabel(const char* name, const char* text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   label->setObjectName(name);
+  label->setContentsMargins(0, 0, 1, 0);  // a letter may reach out of its advance
   return label;
 }
 
