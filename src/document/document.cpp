@@ -82,7 +82,7 @@ void Document::ShowState() {
 FormLayout Document::Layout() const {
   return LayOutForm(window.Place.Width, window.Place.Height,
                     {window.ToolBar, window.StatusBar, design.sheet.DimensionStrip.Visible,
-                     design.RoofType == Roof::kDualSlope});
+                     design.RoofType == Roof::kDualSlope, window.Words});
 }
 
 Area Document::FigureArea() const {

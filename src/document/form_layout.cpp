@@ -22,11 +22,22 @@ constexpr double kMostAir = 1.2;
 // Screen pixels are 15 twips: a picture that begins and ends on one is sharp.
 int ToPixel(int twips) { return twips / 15 * 15; }
 
+// A share of exactly 1 leaves every length as it is.
+int Scaled(int twips, double share) { return static_cast<int>(twips * share); }
+
 }  // namespace
 
+// The drawing keeps the width that it has beside the usual sheet.
+Area LeastForm(const WordRoom& words) {
+  const int widerSheet = Scaled(kSheetWidth, words.across) - kSheetWidth;
+  return {0, 0, std::max(kMinimumWidth + widerSheet, words.widestStrip), Scaled(kMinimumHeight, words.down)};
+}
+
 FormLayout LayOutForm(int width, int height, const FormParts& parts) {
-  width = ToPixel(std::max(width, kMinimumWidth));
-  height = ToPixel(std::max(height, kMinimumHeight));
+  const WordRoom& words = parts.words;
+  const Area least = LeastForm(words);
+  width = ToPixel(std::max(width, least.Width));
+  height = ToPixel(std::max(height, least.Height));
   FormLayout layout;
   int top = 0;
   const auto strip = [&](bool shown, int stripHeight) {
@@ -34,20 +45,23 @@ FormLayout LayOutForm(int width, int height, const FormParts& parts) {
     top = area.Bottom();
     return area;
   };
-  layout.menuBar = strip(true, kMenuBarHeight);
-  layout.toolBar = strip(parts.toolBar, kToolBarHeight);
-  layout.bayStrip = strip(parts.bayStrip, kBayStripHeight);
-  layout.tabStrip = strip(true, kTabStripHeight);
-  const int statusHeight = parts.statusBar ? kStatusBarHeight : 0;
+  const auto forWords = [&](int usual) { return ToPixel(Scaled(usual, words.down)); };
+  layout.menuBar = strip(true, forWords(kMenuBarHeight));
+  layout.toolBar = strip(parts.toolBar, kToolBarHeight);  // pictures alone
+  layout.bayStrip = strip(parts.bayStrip, forWords(kBayStripHeight));
+  layout.tabStrip = strip(true, forWords(kTabStripHeight));
+  const int statusHeight = parts.statusBar ? forWords(kStatusBarHeight) : 0;
   layout.statusBar = {0, height - statusHeight, width, statusHeight};
   const int bodyHeight = layout.statusBar.Top - top;
 
-  layout.sheetScale =
-      std::clamp(static_cast<double>(bodyHeight) / (kSheetHeight + kTypeRowHeight), 1.0, kMostAir);
-  const int sheetWidth = ToPixel(static_cast<int>(kSheetWidth * layout.sheetScale));
+  const double air = std::clamp(
+      static_cast<double>(bodyHeight) / ((kSheetHeight + kTypeRowHeight) * words.down), 1.0, kMostAir);
+  layout.sheetAcross = air * words.across;
+  layout.sheetDown = air * words.down;
+  const int sheetWidth = ToPixel(Scaled(kSheetWidth, layout.sheetAcross));
   layout.sheet = {0, top, sheetWidth, bodyHeight};
-  const int typeRow = static_cast<int>(kTypeRowHeight * layout.sheetScale);
-  layout.roofTabs = {0, top + typeRow, sheetWidth, parts.rearRoof ? kRoofTabsHeight : 0};
+  layout.roofTabs = {0, top + Scaled(kTypeRowHeight, layout.sheetDown), sheetWidth,
+                     parts.rearRoof ? forWords(kRoofTabsHeight) : 0};
   // Row 0 of the sheet stands just under the roof type, or under the captions of the two roofs.
   layout.sheetOrigin =
       kTypeRowHeight + kMargin - kFirstRowTop + (parts.rearRoof ? kRoofTabsHeight + kMargin : 0);

@@ -1,5 +1,5 @@
-// Where the parts of the window stand, computed from its size alone, so that window and driver draw on the
-// same areas.
+// Where the parts of the window stand, computed from its size and from the room that its words need. With the
+// usual letters window and driver draw on the same areas.
 #pragma once
 
 namespace pitchcraft {
@@ -13,12 +13,26 @@ struct Area {
   bool operator==(const Area&) const = default;
 };
 
+inline constexpr int kMinimumWidth = 9400;
+inline constexpr int kMinimumHeight = 7000;
+
+/// How much room words need where a font is wider or higher than the usual one: shares of the usual lengths,
+/// never below 1. The driver has no font and keeps to the usual.
+struct WordRoom {
+  double across = 1.0;              ///< of the columns of the sheet
+  double down = 1.0;                ///< of the rows of the sheet and of the strips that hold words
+  int widestStrip = kMinimumWidth;  ///< twips
+
+  bool operator==(const WordRoom&) const = default;
+};
+
 /// What the layout depends on beside the size.
 struct FormParts {
   bool toolBar = true;
   bool statusBar = true;
   bool bayStrip = false;
   bool rearRoof = false;  ///< the captions of front and rear roof show
+  WordRoom words = {};
 };
 
 struct FormLayout {
@@ -32,14 +46,16 @@ struct FormLayout {
   Area picture3;        ///< the drawing of every other page
   Area statusBar;       ///< height 0 while it is hidden
   int sheetOrigin = 0;  ///< added to a control's Top to get its place below the sheet's top, before scaling
-  double sheetScale = 1.0;  ///< 1 in a small window; a larger one gives the rows more air
+  /// A control's place and size on the sheet are its own times these. A larger window gives the rows more
+  /// air, a larger font more room.
+  double sheetAcross = 1.0;
+  double sheetDown = 1.0;
 };
 
-inline constexpr int kMinimumWidth = 9400;
-inline constexpr int kMinimumHeight = 7000;
+/// The least client area of a window with those words; its Left and Top are 0.
+Area LeastForm(const WordRoom& words);
 
-/// `width`, `height`: client area of the window in twips; anything below the minimum is laid out at the
-/// minimum.
+/// `width`, `height`: client area of the window in twips; anything below the least is laid out at the least.
 FormLayout LayOutForm(int width, int height, const FormParts& parts);
 
 }  // namespace pitchcraft

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -17,6 +18,10 @@ struct KeyRow {
   char key;
 };
 
+constexpr int kLettersAcross = 100;
+constexpr int kLinesDown = 28;
+constexpr int kTapeLetters = 24;
+constexpr int kBesideCaption = 6;
 constexpr int kKeysAcross = 5;
 constexpr KeyRow kKeys[] = {
     {"7", "7", '7'},
@@ -54,7 +59,7 @@ CalculatorWindow::CalculatorWindow(bool metric, QWidget* parent) : QWidget(paren
   display_->setReadOnly(true);
   display_->setAlignment(Qt::AlignRight);
   QFont large = display_->font();
-  large.setPointSizeF(large.pointSizeF() * 1.6);
+  large.setPixelSize(qRound(QFontInfo(large).pixelSize() * 1.6));
   display_->setFont(large);
   display_->installEventFilter(this);
 
@@ -80,7 +85,7 @@ CalculatorWindow::CalculatorWindow(bool metric, QWidget* parent) : QWidget(paren
   tape_->setObjectName("Tape");
   tape_->setAccessibleName(tr("Tape"));
   tape_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  tape_->setMinimumWidth(170);
+  tape_->setMinimumWidth(kTapeLetters * tape_->fontMetrics().averageCharWidth());
 
   keys_ = new QWidget(this);
   AddKeys();
@@ -96,7 +101,7 @@ CalculatorWindow::CalculatorWindow(bool metric, QWidget* parent) : QWidget(paren
   auto* whole = new QHBoxLayout(this);
   whole->addLayout(left, 2);
   whole->addWidget(tape_, 1);
-  resize(600, 400);
+  resize(kLettersAcross * fontMetrics().averageCharWidth(), kLinesDown * fontMetrics().lineSpacing());
   display_->setFocus();
   Sync();
 }
@@ -107,7 +112,9 @@ void CalculatorWindow::AddButton(const QString& caption, const QString& name, co
   button->setObjectName(name);
   button->setAccessibleName(name);
   button->setToolTip(hint);
-  button->setMinimumWidth(1);
+  // The style's least width of a button is for dialogs; a key is as narrow as its caption.
+  button->setMinimumWidth(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() +
+                          2 * kBesideCaption);
   button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Do(action); });
   static_cast<QGridLayout*>(keys_->layout())->addWidget(button, row, column);

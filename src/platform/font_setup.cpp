@@ -29,6 +29,13 @@ QFont DrawingFont() {
   font.setKerning(false);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleHint(QFont::SansSerif);
+  // What a font leaves open it takes from the desktop's, whose letters may be wide, heavy or spaced.
+  font.setStretch(QFont::Unstretched);
+  font.setWeight(QFont::Normal);
+  font.setStyle(QFont::StyleNormal);
+  font.setLetterSpacing(QFont::PercentageSpacing, 100);
+  font.setWordSpacing(0);
+  font.setCapitalization(QFont::MixedCase);
   return font;
 }
 

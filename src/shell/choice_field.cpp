@@ -1,8 +1,11 @@
 #include "shell/choice_field.h"
 
 #include <QSignalBlocker>
+#include <QStyleOption>
 #include <QWheelEvent>
+#include <algorithm>
 
+#include "shell/entry_box.h"
 #include "shell/field_look.h"
 
 namespace pitchcraft {
@@ -32,8 +35,17 @@ void ChoiceField::ShowState() {
   if (currentIndex() != combo_.ListIndex()) setCurrentIndex(combo_.ListIndex());
 }
 
-void ChoiceField::FitTo(const QRect& place) {
-  setFont(FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6));
+QSize ChoiceField::SizeForWords() const {
+  const QFontMetrics words = fontMetrics();
+  int widest = 0;
+  for (const std::string& row : combo_.List()) {
+    widest = std::max(widest, words.horizontalAdvance(QString::fromStdString(row)));
+  }
+  QStyleOptionComboBox box;
+  initStyleOption(&box);
+  const QSize text(widest, words.height());
+  const QSize outside = style()->sizeFromContents(QStyle::CT_ComboBox, &box, text, this);
+  return {outside.width(), words.height() + kAboveAndBelowText};
 }
 
 // A wheel that only passes over must not change the roof.

@@ -16,13 +16,13 @@ class ChoiceField : public QComboBox, public ControlView {
 
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {this}; }
+  QSize SizeForWords() const override;
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
 
  private:
   void ShowState() override;
-  void FitTo(const QRect& place) override;
 
   ComboControl& combo_;
   std::vector<std::string> rows_;

@@ -8,10 +8,9 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kNameWidth = 150;
-constexpr int kColorWidth = 170;
 constexpr int kSwatch = 16;
 constexpr int kArrowWidth = 20;
+constexpr int kAfterName = 12;
 
 QIcon Swatch(const QColor& color) {
   QPixmap pixmap(kSwatch, kSwatch);
@@ -32,8 +31,6 @@ ColorGrid::ColorGrid(const QStringList& rows, std::vector<Offer> offers, QWidget
       list_(new DropList(cell_)) {
   horizontalHeader()->hide();
   verticalHeader()->hide();
-  setColumnWidth(0, kNameWidth);
-  setColumnWidth(1, kColorWidth);
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
@@ -45,8 +42,9 @@ ColorGrid::ColorGrid(const QStringList& rows, std::vector<Offer> offers, QWidget
     setItem(row, 0, new QTableWidgetItem(rows[row]));
     setItem(row, 1, new QTableWidgetItem);
   }
-  const int height = rowCount() * rowHeight(0) + 2 * frameWidth();
-  setFixedSize(kNameWidth + kColorWidth + 2 * frameWidth(), height);
+  FitColumns();
+  setFixedSize(columnWidth(0) + columnWidth(1) + 2 * frameWidth(),
+               rowCount() * rowHeight(0) + 2 * frameWidth());
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   cell_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -63,6 +61,18 @@ ColorGrid::ColorGrid(const QStringList& rows, std::vector<Offer> offers, QWidget
   PlaceArrow();
 }
 
+// Any of the colours may come to stand in any row.
+void ColorGrid::FitColumns() {
+  const QFontMetrics words = fontMetrics();
+  const auto wider = [&](const Offer& a, const Offer& b) {
+    return words.horizontalAdvance(a.name) < words.horizontalAdvance(b.name);
+  };
+  const auto widest = std::max_element(offers_.begin(), offers_.end(), wider);
+  if (widest != offers_.end()) ShowColor(0, widest->name, widest->color);
+  setColumnWidth(0, sizeHintForColumn(0) + kAfterName);
+  setColumnWidth(1, sizeHintForColumn(1) + kArrowWidth + 1);  // with the line of the grid
+}
+
 void ColorGrid::ShowColor(int row, const QString& name, const QColor& color) {
   item(row, 1)->setIcon(Swatch(color));
   item(row, 1)->setText(name);
@@ -71,13 +81,14 @@ void ColorGrid::ShowColor(int row, const QString& name, const QColor& color) {
 
 void ColorGrid::OpenList() {
   QStringList names;
-  for (const Offer& offer : offers_) names << offer.name;
+  QList<QIcon> swatches;
+  for (const Offer& offer : offers_) {
+    names << offer.name;
+    swatches << Swatch(offer.color);
+  }
   const QTableWidgetItem* shown = currentRow() < 0 ? nullptr : item(currentRow(), 1);
   if (shown == nullptr) return;
-  list_->Open(names, static_cast<int>(names.indexOf(shown->text())), palette(), font());
-  for (int row = 0; row < list_->count(); ++row) {
-    list_->item(row)->setIcon(Swatch(offers_[static_cast<std::size_t>(row)].color));
-  }
+  list_->Open(names, static_cast<int>(names.indexOf(shown->text())), palette(), font(), swatches);
 }
 
 void ColorGrid::PlaceArrow() {

@@ -33,6 +33,7 @@ class ColorGrid : public QTableWidget {
 
  private:
   void PlaceArrow();
+  void FitColumns();
 
   std::vector<Offer> offers_;
   QWidget* cell_;

@@ -9,6 +9,11 @@
 namespace pitchcraft {
 namespace {
 
+constexpr int kLeastWidth = 220;
+constexpr int kDrawingHeight = 98;
+constexpr int kAroundText = 5;
+constexpr int kBesideText = 8;
+
 QColor Shown(const OptionsForm& form, ColorRow row) {
   return ColorOf(form.ShownColor(row), QGuiApplication::palette());
 }
@@ -20,6 +25,7 @@ QLineEdit* MakeSample(const char* name, const char* text, const char* hint, QWid
   box->setToolTip(hint);
   box->setReadOnly(true);
   box->setFocusPolicy(Qt::NoFocus);
+  box->setMinimumWidth(box->fontMetrics().horizontalAdvance(text) + 2 * kBesideText);
   return box;
 }
 
@@ -36,13 +42,16 @@ ColorPreview::ColorPreview(const OptionsForm& form, QWidget* parent)
   setObjectName("Picture1");
   setAccessibleName("Preview of the colors");
   setToolTip("Preview your new color selections here");
-  setMinimumSize(220, 210);
+  setMinimumWidth(kLeastWidth);
   auto* column = new QVBoxLayout(this);
+  column->addSpacing(kDrawingHeight + TextHeight());
   column->addStretch();
   column->addWidget(control_);
   column->addWidget(calculated_);
   ShowColors();
 }
+
+int ColorPreview::TextHeight() const { return fontMetrics().height() + 2 * kAroundText; }
 
 void ColorPreview::ShowColors() {
   const QPalette desktop = QGuiApplication::palette();
@@ -66,7 +75,7 @@ void ColorPreview::paintEvent(QPaintEvent*) {
   painter.drawLine(left, 86, left, 98);
   painter.drawLine(right, 86, right, 98);
   painter.setPen(Shown(form_, kText));
-  painter.drawText(QRect(0, 98, width(), 24), Qt::AlignCenter, "Sample Text");
+  painter.drawText(QRect(0, kDrawingHeight, width(), TextHeight()), Qt::AlignCenter, "Sample Text");
 }
 
 }  // namespace pitchcraft

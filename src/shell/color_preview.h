@@ -17,6 +17,8 @@ class ColorPreview : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  int TextHeight() const;
+
   const OptionsForm& form_;
   QLineEdit* control_;
   QLineEdit* calculated_;

@@ -22,6 +22,9 @@ class ControlView {
   virtual QWidget& Widget() = 0;
   /// The parts that Tab stops at, in order.
   virtual std::vector<QWidget*> TabStops() { return {}; }
+  /// What the words that it is made for take in its font. Longer ones can be typed; of those the beginning
+  /// shows. Empty where it holds no words.
+  virtual QSize SizeForWords() const { return {0, 0}; }
   /// Takes over the place, what the control is called, and its state. A hidden control costs nothing.
   void Sync(bool shown, const QRect& place);
 
@@ -32,7 +35,7 @@ class ControlView {
   virtual void ShowState() = 0;
   /// Names the widget's parts for assistive programs.
   virtual void ShowName(const QString& name) { Widget().setAccessibleName(name); }
-  /// The place changed: parts and fonts follow.
+  /// The place changed: parts follow.
   virtual void FitTo(const QRect&) {}
 
  private:

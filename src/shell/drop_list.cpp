@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace pitchcraft {
@@ -21,20 +22,25 @@ DropList::DropList(QWidget* field) : QListWidget(field) {
   connect(this, &QListWidget::itemEntered, this, [this](QListWidgetItem* item) { setCurrentItem(item); });
 }
 
-void DropList::Open(const QStringList& rows, int row, const QPalette& palette, const QFont& font) {
+void DropList::Open(const QStringList& rows, int row, const QPalette& palette, const QFont& font,
+                    const QList<QIcon>& icons) {
   clear();
   setPalette(palette);
   setFont(font);
   addItems(rows);
+  for (int i = 0; i < icons.size(); ++i) item(i)->setIcon(icons[i]);
   setCurrentRow(row);
   const QWidget* field = parentWidget();
   const int shownRows = std::min(static_cast<int>(rows.size()), kMostRows);
   const int height = shownRows * sizeHintForRow(0) + 2 * frameWidth();
+  const int bar = shownRows < rows.size() ? verticalScrollBar()->sizeHint().width() : 0;
+  const int width = std::max(field->width(), sizeHintForColumn(0) + bar + 2 * frameWidth());
   QPoint place = field->mapToGlobal(QPoint(0, field->height()));
   const QRect free = field->screen()->availableGeometry();
-  if (place.y() + height > free.bottom()) place = field->mapToGlobal(QPoint(0, -height));
+  place.setX(std::max(free.left(), std::min(place.x(), free.right() + 1 - width)));
+  if (place.y() + height > free.bottom()) place.setY(field->mapToGlobal(QPoint(0, -height)).y());
   place.setY(std::max(place.y(), free.top()));
-  setGeometry(QRect(place, QSize(field->width(), height)));
+  setGeometry(QRect(place, QSize(width, height)));
   show();
   setFocus(Qt::PopupFocusReason);
   if (row >= 0) scrollToItem(item(row), QAbstractItemView::PositionAtCenter);

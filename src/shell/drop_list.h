@@ -11,8 +11,10 @@ class DropList : public QListWidget {
  public:
   explicit DropList(QWidget* field);
 
-  /// Shows the rows below the field, or above it where there is more room.
-  void Open(const QStringList& rows, int row, const QPalette& palette, const QFont& font);
+  /// Shows the rows below the field, or above it where there is more room; wider than the field where the
+  /// words ask for it. `icons` are empty or one for each row.
+  void Open(const QStringList& rows, int row, const QPalette& palette, const QFont& font,
+            const QList<QIcon>& icons = {});
 
  signals:
   void Picked(int row);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOption>
 
 #include "shell/field_look.h"
 
@@ -13,6 +14,7 @@ namespace {
 constexpr int kTextMargin = 2;
 constexpr double kClockSize = 10;
 constexpr double kClockMargin = 5;
+constexpr int kBesideText = 3;  // what the toolkit leaves beside the margin, with the line of the cursor
 
 }  // namespace
 
@@ -24,6 +26,15 @@ EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
     modified_ = true;
     emit Edited();
   });
+}
+
+QSize EntryBox::SizeFor(const QString& text) const {
+  QStyleOptionFrame frame;
+  initStyleOption(&frame);
+  const QFontMetrics words = fontMetrics();
+  const QSize inside(words.horizontalAdvance(text) + 2 * (kTextMargin + kBesideText), words.height());
+  const QSize outside = style()->sizeFromContents(QStyle::CT_LineEdit, &frame, inside, this);
+  return {outside.width(), words.height() + kAboveAndBelowText};
 }
 
 void EntryBox::ShowText(const std::string& text) {

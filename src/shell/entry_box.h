@@ -7,6 +7,12 @@ class QPainter;
 
 namespace pitchcraft {
 
+/// Measures that the fields have room for, whatever the font: of a long roof, and of a board.
+inline constexpr const char* kLongMeasure = "100' 10 15/16\"";
+inline constexpr const char* kShortMeasure = "11 15/16\"";
+/// Of any box in a row of the sheet: the frame and what stands free inside of it.
+inline constexpr int kAboveAndBelowText = 6;
+
 /// Modified means: typed into since the last text that the program showed. A modified box keeps what was
 /// typed until its owner has taken it.
 class EntryBox : public QLineEdit {
@@ -26,6 +32,8 @@ class EntryBox : public QLineEdit {
   /// Marks the box with a small clock: its entry waits for the next calculation.
   void ShowWaiting(bool waits);
   bool Waits() const { return waits_; }
+  /// Of a box in which all of the text can be read.
+  QSize SizeFor(const QString& text) const;
 
   /// Leaves the box that has the focus, without moving the focus: before a menu item, a tool button or a page
   /// acts, what was typed counts.

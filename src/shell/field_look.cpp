@@ -1,7 +1,5 @@
 #include "shell/field_look.h"
 
-#include <QFontInfo>
-#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 
@@ -103,16 +101,6 @@ bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& d
   origin_ = origin;
   palette_ = FieldPalette(fore, back, desktop, takesEntry);
   return true;
-}
-
-QFont FittedFont(QFont font, const QString& text, int width, int height) {
-  const QFontMetricsF metrics(font);
-  const double across = text.isEmpty() ? 1 : width / std::max(1.0, metrics.horizontalAdvance(text));
-  const double share = std::min(across, height / std::max(1.0, metrics.height()));
-  if (share >= 1) return font;
-  const int pixels = QFontInfo(font).pixelSize();
-  font.setPixelSize(std::max(7, static_cast<int>(std::floor(pixels * share))));
-  return font;
 }
 
 }  // namespace pitchcraft

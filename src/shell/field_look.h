@@ -44,7 +44,4 @@ class FieldColors {
   QPalette palette_;
 };
 
-/// `font`, made smaller as far as the text would not fit into the width or the height otherwise.
-QFont FittedFont(QFont font, const QString& text, int width, int height);
-
 }  // namespace pitchcraft

@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -13,6 +15,9 @@ namespace pitchcraft {
 namespace {
 
 constexpr int kFileRole = Qt::UserRole;
+constexpr int kLettersInLine = 100;
+constexpr int kLines = 45;
+constexpr int kAroundParts = 30;
 
 QListWidgetItem* RowOf(const HelpPage& page) {
   auto* row = new QListWidgetItem(page.title);
@@ -60,14 +65,12 @@ HelpWindow::HelpWindow(const QString& folder) : pages_(folder) {
   left->addWidget(search_);
   left->addWidget(count_);
   left->addWidget(list_, 1);
-  auto* parts = new QSplitter(this);
-  parts->addWidget(side);
-  parts->addWidget(view_);
-  parts->setStretchFactor(1, 1);
-  parts->setSizes({230, 620});
+  parts_ = new QSplitter(this);
+  parts_->addWidget(side);
+  parts_->addWidget(view_);
+  parts_->setStretchFactor(1, 1);
   auto* whole = new QHBoxLayout(this);
-  whole->addWidget(parts);
-  resize(860, 640);
+  whole->addWidget(parts_);
 
   connect(search_, &QLineEdit::textChanged, this, &HelpWindow::Search);
   connect(search_, &QLineEdit::returnPressed, this, [this] {
@@ -86,6 +89,17 @@ HelpWindow::HelpWindow(const QString& folder) : pages_(folder) {
     ShowPage("index.html");
   });
   ListPages();
+  FitWords();
+}
+
+// Every title can be read, and a page has lines as long as a book's.
+void HelpWindow::FitWords() {
+  const int bar = list_->verticalScrollBar()->sizeHint().width();
+  const int titles = list_->sizeHintForColumn(0) + bar + 2 * list_->frameWidth();
+  const int text = kLettersInLine * fontMetrics().averageCharWidth();
+  const QSize wanted(titles + text + kAroundParts, kLines * fontMetrics().lineSpacing());
+  resize(wanted.boundedTo(screen()->availableSize()));
+  parts_->setSizes({titles, text});
 }
 
 void HelpWindow::ListPages() {

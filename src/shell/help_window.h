@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSplitter>
 #include <QTextBrowser>
 #include <QWidget>
 
@@ -30,12 +31,14 @@ class HelpWindow : public QWidget {
  private:
   void Search(const QString& words);
   void ListPages();
+  void FitWords();
   void Choose(const QListWidgetItem& item);
 
   HelpPages pages_;
   QLineEdit* search_;
   QListWidget* list_;
   QLabel* count_;
+  QSplitter* parts_;
   QTextBrowser* view_;
 };
 

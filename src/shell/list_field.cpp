@@ -111,16 +111,21 @@ void ListField::ShowName(const QString& name) {
   arrow_->setAccessibleName(tr("%1, open the list").arg(name));
 }
 
+QSize ListField::SizeForWords() const {
+  QSize box(0, 0);
+  for (const QString& text : Words()) box = box.expandedTo(boxes_.front()->SizeFor(text));
+  const int count = static_cast<int>(boxes_.size());
+  return {count * (box.width() + kGap) + kArrowWidth, box.height()};
+}
+
 void ListField::FitTo(const QRect& place) {
   const int count = static_cast<int>(boxes_.size());
   const int room = place.width() - kArrowWidth - kGap * count;
-  const QFont fitted = FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6);
   int left = 0;
   for (int i = 0; i < count; ++i) {
     const int right = room * (i + 1) / count + kGap * i;
     EntryBox& box = *boxes_[static_cast<std::size_t>(i)];
     box.setGeometry(left, 0, right - left, place.height());
-    box.setFont(fitted);
     left = right + kGap;
   }
   arrow_->setGeometry(place.width() - kArrowWidth, 0, kArrowWidth, place.height());

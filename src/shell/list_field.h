@@ -23,6 +23,7 @@ class ListField : public QWidget, public ControlView {
  public:
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {boxes_.begin(), boxes_.end()}; }
+  QSize SizeForWords() const override;
 
  protected:
   /// Names the field and its arrow; the boxes have names of their own.
@@ -38,6 +39,8 @@ class ListField : public QWidget, public ControlView {
 
   virtual std::string Entry() const = 0;
   virtual QStringList Rows() const = 0;
+  /// The texts that each of the boxes has room for.
+  virtual QStringList Words() const = 0;
   virtual int Row() const = 0;
   /// Keeps the control as it is before an entry, for Escape.
   virtual void Remember() = 0;
@@ -74,6 +77,7 @@ class PairField : public ListField {
   void ShowName(const QString& name) override;
   std::string Entry() const override;
   QStringList Rows() const override;
+  QStringList Words() const override { return {kShortMeasure}; }
   int Row() const override { return pair_.ListIndex(); }
   void Remember() override { before_ = pair_; }
   void Restore() override { pair_ = before_; }
@@ -96,6 +100,7 @@ class ComboField : public ListField {
   void ShowName(const QString& name) override;
   std::string Entry() const override { return TextOf(0); }
   QStringList Rows() const override;
+  QStringList Words() const override { return Rows() + QStringList{kShortMeasure}; }
   int Row() const override { return combo_.ListIndex(); }
   void Remember() override { before_ = combo_.Text(); }
   void Restore() override { combo_.SetText(before_); }

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QFontInfo>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
@@ -26,6 +27,11 @@ namespace {
 constexpr int kNormal = 0;
 constexpr int kMinimized = 1;
 constexpr int kMaximized = 2;
+
+// Pixels.
+constexpr int kBesideStatus = 4;
+constexpr int kAboveAndBelowStatus = 4;
+constexpr int kLeastFont = 7;
 
 // Twips inside a screen: a window whose corner stands nearer to the edge leaves nothing to take hold of.
 constexpr int kReach = 500;
@@ -55,11 +61,11 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   status_->setObjectName("StatusBar");
   status_->setAccessibleName(tr("Status"));
   status_->setTextFormat(Qt::PlainText);
-  status_->setMargin(4);
+  status_->setContentsMargins(kBesideStatus, 0, kBesideStatus, 0);
   AddViewCommands();
   AddCalculateCommand();
   setWindowIcon(ProgramIcon());
-  setMinimumSize(ToPixels(kMinimumWidth), ToPixels(kMinimumHeight));
+  FitWords();
   resize(ToPixels(Document().window.Place.Width), ToPixels(Document().window.Place.Height));
   ChainTabOrder();
   TakeDroppedProjects();
@@ -81,6 +87,48 @@ void MainWindow::FitToScreens() {
   place.Width = std::min(place.Width, room.width());
   place.Height = std::min(place.Height, room.height());
   pitchcraft::FollowSize(Document());
+}
+
+// --- The font at hand
+// -------------------------------------------------------------------------------------------------
+
+WordRoom MainWindow::RoomForWords() const {
+  WordRoom words = sheet_->Words();
+  const FormLayout usual = LayOutForm(0, 0, {});
+  const auto holdIn = [&words](int needed, const Area& strip) {
+    words.down = std::max(words.down, static_cast<double>(needed) / ToPixels(strip.Height));
+  };
+  holdIn(menus_->sizeHint().height(), usual.menuBar);
+  holdIn(tabs_->LeastHeight(), usual.tabStrip);
+  holdIn(status_->fontMetrics().height() + kAboveAndBelowStatus, usual.statusBar);
+  const int widest = std::max({menus_->LeastWidth(), bay_->LeastWidth(), tabs_->LeastWidth()});
+  words.widestStrip = std::max(words.widestStrip, widest * kTwipsPerPixel);
+  return words;
+}
+
+// The font is the desktop's, made smaller only where not even the least window would fit on the screen.
+void MainWindow::FitWords() {
+  if (std::exchange(fitsWords_, true)) return;
+  setFont(QFont());
+  const QSize screen = this->screen()->availableSize();
+  WordRoom words = RoomForWords();
+  const auto shareOfScreen = [&] {
+    const QSizeF least = ToRect(LeastForm(words)).size();
+    return std::min(screen.width() / least.width(), screen.height() / least.height());
+  };
+  // Not all of the window grows with its letters, so the share of them that fits is smaller yet.
+  int pixels = static_cast<int>(QFontInfo(font()).pixelSize() * shareOfScreen());
+  for (; shareOfScreen() < 1 && pixels >= kLeastFont; --pixels) {
+    QFont smaller = font();
+    smaller.setPixelSize(pixels);
+    setFont(smaller);
+    words = RoomForWords();
+  }
+  fitsWords_ = false;
+  const bool changed = words != Document().window.Words;
+  Document().window.Words = words;
+  setMinimumSize(ToRect(LeastForm(words)).size());
+  if (changed) LayOut();
 }
 
 template <typename Action>
@@ -313,6 +361,16 @@ void MainWindow::changeEvent(QEvent* event) {
     QMetaObject::invokeMethod(this, &MainWindow::Sync, Qt::QueuedConnection);
   }
   QWidget::changeEvent(event);
+}
+
+// The parts take the desktop's new letters over after the window.
+bool MainWindow::event(QEvent* event) {
+  const bool letters = event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange;
+  if (letters && !fitsWords_) {
+    QMetaObject::invokeMethod(
+        this, [this] { FitWords(), Sync(); }, Qt::QueuedConnection);
+  }
+  return QWidget::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

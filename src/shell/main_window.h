@@ -38,6 +38,7 @@ class MainWindow : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -52,6 +53,8 @@ class MainWindow : public QWidget {
   void CalculateNow();
   void PlaceParts();
   void FitToScreens();
+  void FitWords();
+  WordRoom RoomForWords() const;
   void ChainTabOrder();
   void TakeDroppedProjects();
   void GiveFocus();
@@ -74,6 +77,7 @@ class MainWindow : public QWidget {
   bool syncing_ = false;
   bool again_ = false;
   bool closed_ = false;
+  bool fitsWords_ = false;    ///< the font is being set
   bool layoutIsDue_ = false;  ///< the size changed while a form was open
 };
 

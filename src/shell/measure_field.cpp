@@ -79,8 +79,8 @@ void MeasureField::TellWhetherItWaits(bool waits) {
   setAccessibleDescription(tip);
 }
 
-void MeasureField::FitTo(const QRect& place) {
-  setFont(FittedFont(parentWidget()->font(), {}, place.width(), place.height() - 6));
+QSize MeasureField::SizeForWords() const {
+  return SizeFor(field_.Format.Units == kPlainNumber ? "157.5" : kLongMeasure);
 }
 
 void MeasureField::contextMenuEvent(QContextMenuEvent* event) {

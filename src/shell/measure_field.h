@@ -16,13 +16,13 @@ class MeasureField : public EntryBox, public ControlView {
 
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {this}; }
+  QSize SizeForWords() const override;
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void ShowState() override;
-  void FitTo(const QRect& place) override;
   void TellWhetherItWaits(bool waits);
   void EndEntry();
   void Step(bool up);

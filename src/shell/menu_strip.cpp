@@ -1,5 +1,7 @@
 #include "shell/menu_strip.h"
 
+#include <QStyleOption>
+
 #include "shell/popup_menu.h"
 
 namespace pitchcraft {
@@ -26,6 +28,21 @@ MenuStrip::MenuStrip(Session& session, QWidget* window) : QMenuBar(window) {
 
 void MenuStrip::Sync() {
   for (const auto& [item, action] : rows_) SyncMenuAction(*action, *item);
+}
+
+int MenuStrip::LeastWidth() const {
+  QStyleOptionMenuItem option;
+  option.initFrom(this);
+  const int spacing = style()->pixelMetric(QStyle::PM_MenuBarItemSpacing, &option, this);
+  const int side = style()->pixelMetric(QStyle::PM_MenuBarPanelWidth, &option, this) +
+                   style()->pixelMetric(QStyle::PM_MenuBarHMargin, &option, this);
+  int width = 2 * side;
+  for (const QAction* action : actions()) {
+    const QSize words = fontMetrics().size(Qt::TextShowMnemonic, action->text());
+    option.text = action->text();
+    width += style()->sizeFromContents(QStyle::CT_MenuBarItem, &option, words, this).width() + spacing;
+  }
+  return width;
 }
 
 void MenuStrip::Append(const QString& menu, const QList<QAction*>& commands) {

@@ -11,6 +11,8 @@ class MenuStrip : public QMenuBar {
  public:
   MenuStrip(Session& session, QWidget* window);
   void Sync();
+  /// In which every menu shows, also those that belong to one roof alone.
+  int LeastWidth() const;
   /// Puts more commands at the end of a menu: those of the window itself.
   void Append(const QString& menu, const QList<QAction*>& commands);
 

@@ -51,6 +51,7 @@ constexpr int kNoteLines = 6;
 QLabel* MakeLabel(const char* name, const char* text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   label->setObjectName(name);
+  label->setContentsMargins(0, 0, 1, 0);  // a letter may reach out of its advance
   return label;
 }
 
@@ -62,6 +63,7 @@ OptionsDialog::OptionsDialog(OptionsForm& form, std::function<void()> applied, Q
   setWindowTitle(OptionsForm::kTitle);
   setAccessibleName(OptionsForm::kTitle);
   tabs_->setObjectName("tbsOptions");
+  tabs_->setUsesScrollButtons(false);  // the dialog is as wide as all captions
   QWidget* const pages[] = {MakeColorPage(), new ListPage(form_.SlopeList, {"Name", "Rise", "Run"}, 0, tabs_),
                             new ListPage(form_.LumberList, {"Name", "Thickness", "Depth"}, 1, tabs_),
                             MakePrintPage(), MakeDxfPage()};

@@ -1,6 +1,7 @@
 #include "shell/page_tabs.h"
 
 #include <QSignalBlocker>
+#include <QStyleOption>
 #include <QToolButton>
 
 #include "shell/entry_box.h"
@@ -38,6 +39,20 @@ void PageTabs::Sync() {
     }
   }
   if (currentIndex() != tab.Page) setCurrentIndex(tab.Page);
+}
+
+int PageTabs::WidthFor(std::string_view captions) const {
+  const QStringList texts = QString::fromUtf8(captions.data(), qsizetype(captions.size())).split('|');
+  const QFontMetrics words = fontMetrics();
+  QStyleOptionTab tab;
+  tab.initFrom(this);
+  const int beside = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, &tab, this);
+  int width = 0;
+  for (const QString& text : texts) {
+    const QSize inside(words.size(Qt::TextShowMnemonic, text).width() + beside, words.height());
+    width += style()->sizeFromContents(QStyle::CT_TabBarTab, &tab, inside, this).width();
+  }
+  return width;
 }
 
 // As high as the strip that it stands in.

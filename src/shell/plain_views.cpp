@@ -8,6 +8,13 @@
 #include "shell/field_look.h"
 
 namespace pitchcraft {
+namespace {
+
+constexpr int kBesideCaption = 1;  // a letter may reach out of its advance
+constexpr int kBesideButtonText = 8;
+
+}  // namespace
+
 // --- Label
 // ----------------------------------------------------------------------------------------------------------
 
@@ -34,9 +41,10 @@ void LabelView::ShowState() {
   if (caption != text()) setText(caption);
 }
 
-int LabelView::NeededWidth() {
-  ShowState();
-  return sizeHint().width();
+QSize LabelView::SizeForWords() const { return SizeFor(QString::fromStdString(label_.Caption)); }
+
+QSize LabelView::SizeFor(const QString& caption) const {
+  return {fontMetrics().horizontalAdvance(caption) + kBesideCaption, fontMetrics().height()};
 }
 
 // --- Check box
@@ -97,6 +105,12 @@ ButtonView::ButtonView(Session& session, ButtonControl& button, QWidget* host)
     EntryBox::CommitFocused();
     TheSession().Do([this](Actions& actions) { actions.Click(Name()); });
   });
+}
+
+QSize ButtonView::SizeForWords() const {
+  const QString caption = QString::fromStdString(button_.Caption);
+  const QSize words = fontMetrics().size(Qt::TextShowMnemonic, caption);
+  return {words.width() + 2 * kBesideButtonText, words.height() + kAboveAndBelowText};
 }
 
 void ButtonView::ShowState() {

@@ -12,9 +12,10 @@ namespace pitchcraft {
 class LabelView : public QLabel, public ControlView {
  public:
   LabelView(Session& session, LabelControl& label, QWidget* host);
-  /// Of the caption as it is now, which need not show yet.
-  int NeededWidth();
   QWidget& Widget() override { return *this; }
+  /// Of the caption as it is now, which need not show yet.
+  QSize SizeForWords() const override;
+  QSize SizeFor(const QString& caption) const;
 
  private:
   void ShowState() override;
@@ -51,6 +52,7 @@ class ButtonView : public QPushButton, public ControlView {
   ButtonView(Session& session, ButtonControl& button, QWidget* host);
   QWidget& Widget() override { return *this; }
   std::vector<QWidget*> TabStops() override { return {this}; }
+  QSize SizeForWords() const override;
 
  private:
   void ShowState() override;

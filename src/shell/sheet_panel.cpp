@@ -1,11 +1,12 @@
 #include "shell/sheet_panel.h"
 
-#include <QFontInfo>
 #include <algorithm>
+#include <set>
 #include <tuple>
 #include <utility>
 
-#include "shell/field_look.h"
+#include "sheet/roof_types.h"
+#include "sheet/row_layouts.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -13,6 +14,30 @@ namespace {
 
 constexpr int kTabsLeft = 4;
 constexpr int kCaptionDrop = 30;  // twips
+
+// Rounded down: parts that stand close beside each other would overlap otherwise. What is a hair below a
+// whole pixel is one.
+int WholePixels(double pixels) { return static_cast<int>(pixels + 1e-6); }
+
+/// In pixels, where the layout gives the sheet the usual columns and rows.
+QSize UsualSize(const ControlView& view) {
+  const QSize size(ToPixels(view.Of().Width), ToPixels(view.Of().Height));
+  // A caption stands lower than its field, and is as much less high: their middles are level.
+  const bool isCaption = dynamic_cast<const LabelView*>(&view) != nullptr;
+  return isCaption ? size - QSize(0, 2 * ToPixels(kCaptionDrop)) : size;
+}
+
+std::set<std::string> CaptionsOfAllRoofs() {
+  std::set<std::string> captions;
+  const auto sheet = std::make_unique<Sheet>();
+  for (const RoofTypeRow& roof : RoofTypes()) {
+    for (const bool purlins : {false, true}) {
+      LayOutRows(*sheet, roof.Code, purlins);
+      for (const LabelControl& label : sheet->Label) captions.insert(label.Caption);
+    }
+  }
+  return captions;
+}
 
 }  // namespace
 
@@ -38,17 +63,19 @@ bool SheetPanel::IsShown(const Control& control) const {
   return control.Visible;
 }
 
-// All captions have one size: the one in which the longest fits.
-void SheetPanel::FitCaptions() {
-  QFont smallest = font();
-  for (const LabelView* caption : captions_) {
-    if (caption->isHidden()) continue;
-    const QFont fitted = FittedFont(font(), caption->text(), caption->width(), caption->height() + 4);
-    if (QFontInfo(fitted).pixelSize() < QFontInfo(smallest).pixelSize()) smallest = fitted;
+// A caption belongs to a row, and each roof calls its rows otherwise: the column has room for all of them.
+WordRoom SheetPanel::Words() const {
+  WordRoom words;
+  const auto hold = [&words](const QSize& text, const QSize& usual) {
+    words.across = std::max(words.across, static_cast<double>(text.width()) / usual.width());
+    words.down = std::max(words.down, static_cast<double>(text.height()) / usual.height());
+  };
+  for (const auto& view : views_) hold(view->SizeForWords(), UsualSize(*view));
+  const LabelView& caption = *captions_.front();
+  for (const std::string& text : CaptionsOfAllRoofs()) {
+    hold(caption.SizeFor(QString::fromStdString(text)), UsualSize(caption));
   }
-  for (LabelView* caption : captions_) {
-    if (caption->font() != smallest) caption->setFont(smallest);
-  }
+  return words;
 }
 
 // Tab goes as the eye does: rows from the top, each from the left. A roof type has its rows in an order of
@@ -80,17 +107,14 @@ void SheetPanel::Sync(const FormLayout& layout) {
   roofTabs_->setVisible(twoRoofs);
   for (const auto& view : views_) {
     const Control& control = view->Of();
-    const double scale = layout.sheetScale;
     const int origin = control.Host == Host::kSheet ? 0 : layout.sheetOrigin;
-    QRect place(ToPixels(control.Left * scale), ToPixels((origin + control.Top) * scale),
-                ToPixels(control.Width * scale), ToPixels(control.Height * scale));
-    // A caption stands lower than its field, and is as much less high: their middles are level.
-    if (std::find(captions_.begin(), captions_.end(), view.get()) != captions_.end()) {
-      place.setHeight(place.height() - 2 * ToPixels(kCaptionDrop * scale));
-    }
-    view->Sync(IsShown(control), place);
+    const QPoint corner(ToPixels(control.Left * layout.sheetAcross),
+                        ToPixels((origin + control.Top) * layout.sheetDown));
+    const QSize usual = UsualSize(*view);
+    const QSize size(WholePixels(usual.width() * layout.sheetAcross),
+                     WholePixels(usual.height() * layout.sheetDown));
+    view->Sync(IsShown(control), QRect(corner, size));
   }
-  FitCaptions();
   ChainTabOrder();
 }
 

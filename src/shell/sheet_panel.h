@@ -15,12 +15,13 @@ class SheetPanel : public QWidget {
 
   const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
   PageTabs& RoofTabs() { return *roofTabs_; }
+  /// The shares of the usual columns and rows that its words need, in every roof.
+  WordRoom Words() const;
   /// The panel itself stands where the layout says; its rows follow the layout's scale and origin.
   void Sync(const FormLayout& layout);
 
  private:
   bool IsShown(const Control& control) const;
-  void FitCaptions();
   void ChainTabOrder();
 
   Session& session_;

@@ -1,5 +1,6 @@
 #include "shell/small_dialogs.h"
 
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QPlainTextEdit>
@@ -12,7 +13,7 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kTextWidth = 420;
+constexpr int kLettersInLine = 70;
 constexpr int kIconSide = 56;
 
 QLabel* MakeText(const char* name, const std::string& text, QWidget* parent) {
@@ -20,7 +21,7 @@ QLabel* MakeText(const char* name, const std::string& text, QWidget* parent) {
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
-  label->setMinimumWidth(kTextWidth);
+  label->setMinimumWidth(kLettersInLine * label->fontMetrics().averageCharWidth());
   return label;
 }
 
@@ -29,7 +30,7 @@ QLabel* MakeHeading(const char* name, const char* text, QWidget* parent) {
   label->setObjectName(name);
   QFont font = label->font();
   font.setBold(true);
-  font.setPointSizeF(font.pointSizeF() * 1.3);
+  font.setPixelSize(qRound(QFontInfo(font).pixelSize() * 1.3));
   label->setFont(font);
   return label;
 }
@@ -101,7 +102,10 @@ AboutDialog::AboutDialog(const AboutForm& form, QWidget* parent) : QDialog(paren
   QPushButton* more = MakeButton("cmdSysInfo", "&System Info...", this);
   QPushButton* ok = MakeButton("cmdOK", "OK", this);
   ok->setDefault(true);
-  connect(more, &QPushButton::clicked, this, [info] { info->setVisible(info->isHidden()); });
+  connect(more, &QPushButton::clicked, this, [this, info] {
+    info->setVisible(info->isHidden());
+    adjustSize();
+  });
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   auto* head = new QHBoxLayout;
   head->addWidget(MakeLogo(this));

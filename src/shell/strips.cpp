@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "shell/plain_views.h"
+#include "sheet/roof_types.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -11,7 +11,8 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
-constexpr int kFieldGap = 16;
+constexpr int kFieldGap = 12;
+constexpr int kAboveAndBelowPage = 10;
 
 std::vector<std::unique_ptr<ControlView>> ViewsOn(Host host, Session& session, QWidget* strip) {
   std::vector<std::unique_ptr<ControlView>> views;
@@ -22,7 +23,15 @@ std::vector<std::unique_ptr<ControlView>> ViewsOn(Host host, Session& session, Q
   return views;
 }
 
-int HeightOf(const Control& control) { return ToPixels(control.Height); }
+/// The usual size, or what the font asks for.
+QSize SizeOf(const ControlView& view) {
+  const Control& control = view.Of();
+  return QSize(ToPixels(control.Width), ToPixels(control.Height)).expandedTo(view.SizeForWords());
+}
+
+QRect Beside(int left, const QSize& size, int stripHeight) {
+  return {QPoint(left, (stripHeight - size.height()) / 2), size};
+}
 
 }  // namespace
 
@@ -39,19 +48,28 @@ BayStrip::BayStrip(Session& session, QWidget* window)
   }
 }
 
+// The caption's width with the gap behind it.
+int BayStrip::CaptionRoom(std::size_t view) const {
+  return captions_[view] == nullptr ? 0 : captions_[view]->sizeHint().width() + kGap;
+}
+
+int BayStrip::LeastWidth() const {
+  int width = 2 * kMargin - kFieldGap;
+  for (std::size_t i = 0; i < views_.size(); ++i) {
+    width += CaptionRoom(i) + SizeOf(*views_[i]).width() + kFieldGap;
+  }
+  return width;
+}
+
 void BayStrip::Sync() {
   if (isHidden()) return;
   int left = kMargin;
   for (std::size_t i = 0; i < views_.size(); ++i) {
-    const Control& control = views_[i]->Of();
-    if (captions_[i] != nullptr) {
-      const int width = captions_[i]->sizeHint().width();
-      captions_[i]->setGeometry(left, 0, width, height());
-      left += width + kGap;
-    }
-    const QRect place(left, (height() - HeightOf(control)) / 2, ToPixels(control.Width), HeightOf(control));
-    views_[i]->Sync(control.Visible, place);
-    left = place.right() + kFieldGap;
+    const int room = CaptionRoom(i);
+    if (room > 0) captions_[i]->setGeometry(left, 0, room - kGap, height());
+    const QRect place = Beside(left + room, SizeOf(*views_[i]), height());
+    views_[i]->Sync(views_[i]->Of().Visible, place);
+    left += room + place.width() + kFieldGap;
   }
 }
 
@@ -63,20 +81,29 @@ TabStrip::TabStrip(Session& session, QWidget* window)
   setAccessibleName(tr("Pages and settings"));
 }
 
+// A field has its caption before it.
+int TabStrip::LeastWidth() const {
+  int pages = pages_->WidthFor(kBastardHipPages);
+  for (const RoofTypeRow& row : RoofTypes()) pages = std::max(pages, pages_->WidthFor(row.Pages));
+  int field = 0;
+  for (std::size_t i = 1; i < views_.size(); i += 2) {
+    field = std::max(field, SizeOf(*views_[i - 1]).width() + kGap + SizeOf(*views_[i]).width());
+  }
+  return kMargin / 2 + pages + kGap + field + kMargin;
+}
+
+int TabStrip::LeastHeight() const { return pages_->fontMetrics().height() + kAboveAndBelowPage; }
+
 void TabStrip::Sync() {
   int right = width() - kMargin;
   // From the right: each field, then the caption that stands before it.
   for (auto view = views_.rbegin(); view != views_.rend(); ++view) {
-    const Control& control = (*view)->Of();
-    // A caption takes what its text needs.
-    auto* caption = dynamic_cast<LabelView*>(view->get());
-    const int needed = caption == nullptr ? 0 : caption->NeededWidth();
-    const int fieldWidth = std::max(ToPixels(control.Width), needed);
-    const QRect place(right - fieldWidth, (height() - HeightOf(control)) / 2, fieldWidth, HeightOf(control));
-    (*view)->Sync(control.Visible, place);
-    if (control.Visible) right = place.left() - kGap;
+    const QSize size = SizeOf(**view);
+    const bool shown = (*view)->Of().Visible;
+    (*view)->Sync(shown, Beside(right - size.width(), size, height()));
+    if (shown) right -= size.width() + kGap;
   }
-  pages_->setGeometry(kMargin / 2, 2, std::max(right - kMargin, 0), height() - 2);
+  pages_->setGeometry(kMargin / 2, 2, std::max(right - kMargin / 2, 0), height() - 2);
   pages_->Sync();
 }
 

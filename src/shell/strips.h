@@ -15,9 +15,13 @@ class BayStrip : public QWidget {
  public:
   BayStrip(Session& session, QWidget* window);
   const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
+  /// In which all of it can be read.
+  int LeastWidth() const;
   void Sync();
 
  private:
+  int CaptionRoom(std::size_t view) const;
+
   std::vector<std::unique_ptr<ControlView>> views_;
   std::vector<QLabel*> captions_;  ///< one a view; null before the button
 };
@@ -28,6 +32,9 @@ class TabStrip : public QWidget {
   TabStrip(Session& session, QWidget* window);
   const std::vector<std::unique_ptr<ControlView>>& Views() const { return views_; }
   PageTabs& Pages() { return *pages_; }
+  /// In which the pages of every roof can be read, with the widest of the fields beside them.
+  int LeastWidth() const;
+  int LeastHeight() const;
   void Sync();
 
  protected:

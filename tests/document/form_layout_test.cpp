@@ -48,6 +48,41 @@ TEST(FormLayout, EveryEdgeStandsOnAPixel) {
   }
 }
 
+TEST(FormLayout, WiderAndHigherWordsGetWiderColumnsAndHigherRows) {
+  const WordRoom words{1.5, 1.25, 13000};
+  const FormLayout usual = LayOutForm(24000, 18000, {.bayStrip = true});
+  const FormLayout large = LayOutForm(24000, 18000, {.bayStrip = true, .words = words});
+  EXPECT_DOUBLE_EQ(large.sheetAcross, usual.sheetAcross * 1.5);
+  EXPECT_DOUBLE_EQ(large.sheetDown, usual.sheetDown * 1.25);
+  EXPECT_NEAR(large.sheet.Width, usual.sheet.Width * 1.5, 15);
+  EXPECT_EQ(large.toolBar.Height, usual.toolBar.Height) << "it holds no words";
+  for (const auto part :
+       {&FormLayout::menuBar, &FormLayout::bayStrip, &FormLayout::tabStrip, &FormLayout::statusBar}) {
+    const int wanted = (usual.*part).Height * 5 / 4;
+    EXPECT_GT((large.*part).Height, wanted - 15) << "a whole pixel";
+    EXPECT_LE((large.*part).Height, wanted);
+  }
+}
+
+// The sheet has the rows of a gambrel, the longest, and a picture beside it as wide as ever.
+TEST(FormLayout, TheLeastWindowHoldsAllWords) {
+  for (const double across : {1.0, 1.3, 2.5}) {
+    for (const double down : {1.0, 1.2, 2.0}) {
+      for (const int strip : {0, kMinimumWidth, 20000}) {
+        const FormParts parts{true, true, true, true, {across, down, strip}};
+        const Area least = LeastForm(parts.words);
+        const FormLayout layout = LayOutForm(0, 0, parts);
+        EXPECT_GE(least.Width, strip);
+        EXPECT_GE(layout.menuBar.Width, least.Width / 15 * 15);
+        EXPECT_GE(layout.picture1.Width, LayOutForm(0, 0, {}).picture1.Width - 15);
+        EXPECT_GE(layout.picture1.Height, 15);
+        EXPECT_LE(layout.sheet.Right(), layout.picture1.Left);
+        EXPECT_GE(layout.sheet.Bottom() - layout.sheet.Top, static_cast<int>(4785 * down));
+      }
+    }
+  }
+}
+
 TEST(FormLayout, AWindowTooSmallIsLaidOutAtTheMinimum) {
   EXPECT_EQ(LayOutForm(0, -5, {}).picture1, LayOutForm(kMinimumWidth, kMinimumHeight, {}).picture1);
 }

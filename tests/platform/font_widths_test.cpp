@@ -3,6 +3,9 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 
 #include "drawing/arial_meter.h"
 #include "platform/font_setup.h"
@@ -14,6 +17,28 @@ TEST(DrawingFont, IsThere) {
   EXPECT_TRUE(EnsureDrawingFont());
   EXPECT_EQ(QFontInfo(DrawingFont()).family().toStdString(), "Liberation Sans");
   EXPECT_FALSE(DrawingFont().kerning());
+}
+
+QImage Painted() {
+  QImage image(600, 160, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setFont(DrawingFont());
+  painter.drawText(QPointF(5, 120), "12' 6 1/2\"");
+  return image;
+}
+
+TEST(DrawingFont, IsTheSameWhateverLettersTheDesktopHas) {
+  const QImage usual = Painted();
+  const QFont before = QGuiApplication::font();
+  QFont odd("Liberation Serif", 20, QFont::Black, true);
+  odd.setStretch(150);
+  odd.setLetterSpacing(QFont::AbsoluteSpacing, 5);
+  odd.setWordSpacing(30);
+  odd.setCapitalization(QFont::SmallCaps);
+  QGuiApplication::setFont(odd);
+  EXPECT_EQ(Painted(), usual);
+  QGuiApplication::setFont(before);
 }
 
 struct Face {

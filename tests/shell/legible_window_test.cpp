@@ -1,7 +1,7 @@
-// Nothing in the window is cut off or covers something else: each roof, each page, small and large.
-#include <QAbstractButton>
-#include <QLabel>
-
+// Nothing in the window is cut off or covers something else: each roof, each page, small and large, in the
+// letters of any desktop.
+#include "../support/faces.h"
+#include "../support/legible_words.h"
 #include "roofs/roof_types.h"
 #include "window_test.h"
 
@@ -9,16 +9,34 @@ namespace pitchcraft::testing {
 namespace {
 
 struct Case {
-  const char* name;
-  QSize size;
+  Face face;
+  std::string sizeName;
+  QSize size;  ///< never below the least
 };
 
-class LegibleWindow : public WindowTest, public ::testing::WithParamInterface<Case> {
+void PrintTo(const Case& row, std::ostream* out) { *out << row.face.name << row.sizeName; }
+
+std::vector<Case> AllCases() {
+  std::vector<Case> cases;
+  for (const Face& face : AllFaces()) {
+    cases.push_back({face, "Smallest", {1, 1}});
+    cases.push_back({face, "Common", {1280, 720}});
+    cases.push_back({face, "Large", {1920, 1080}});
+  }
+  return cases;
+}
+
+class LegibleWindow : public ::testing::WithParamInterface<Case>, WithFace, public WindowTest {
  protected:
+  LegibleWindow() : WithFace(GetParam().face) {
+    window_.resize(GetParam().size);
+    QApplication::processEvents();
+  }
+
   /// Everything that stands by itself and shows: a field of two boxes counts as one.
   std::vector<QWidget*> ShownParts() {
     std::vector<QWidget*> parts;
-    for (const char* host : {"Sheet", "TabStrip", "Toolbar1"}) {
+    for (const char* host : {"Sheet", "TabStrip", "Toolbar1", "tbToolBar"}) {
       for (QObject* child : Find(host).children()) {
         auto* widget = qobject_cast<QWidget*>(child);
         if (widget != nullptr && widget->isVisible()) parts.push_back(widget);
@@ -28,15 +46,11 @@ class LegibleWindow : public WindowTest, public ::testing::WithParamInterface<Ca
   }
 
   void ExpectLegible(const std::string& where) {
+    ExpectWordsFit(window_, where);
     const std::vector<QWidget*> parts = ShownParts();
     EXPECT_GE(parts.size(), 1U) << where;
     for (const QWidget* part : parts) {
-      const auto* caption = qobject_cast<const QLabel*>(part);
       const std::string name = part->objectName().toStdString();
-      if (caption != nullptr) {
-        EXPECT_LE(caption->fontMetrics().horizontalAdvance(caption->text()), caption->contentsRect().width())
-            << where << ": " << caption->text().toStdString() << " is cut off";
-      }
       EXPECT_TRUE(part->parentWidget()->rect().contains(part->geometry()))
           << where << ": " << name << " reaches out of its place";
       for (const QWidget* other : parts) {
@@ -46,10 +60,24 @@ class LegibleWindow : public WindowTest, public ::testing::WithParamInterface<Ca
       }
     }
   }
+
+  /// What the status bar says of every part that shows, and of every menu.
+  void ExpectLegibleStatus(const std::string& where) {
+    const auto& status = Find<QLabel>("StatusBar");
+    const auto fits = [&](const std::string& text) {
+      EXPECT_LE(status.fontMetrics().horizontalAdvance(QString::fromStdString(text)),
+                status.contentsRect().width())
+          << where << ": " << text;
+    };
+    for (const QWidget* part : ShownParts()) {
+      Document().Hint(part->objectName().toStdString());
+      fits(Document().StatusText);
+    }
+    for (const MenuItem* item : Document().menus.Items()) fits(item->StatusText);
+  }
 };
 
 TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
-  window_.resize(GetParam().size);
   for (const RoofTypeRow& row : RoofTypes()) {
     Press(std::string(row.ToolButton));
     for (int page = 0; page < Document().design.sheet.Tabs[0].PageCount(); ++page) {
@@ -57,31 +85,87 @@ TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
       ExpectLegible(std::string(row.Item) + ", page " + std::to_string(page));
     }
     Find<PageTabs>("VSTab(0)").setCurrentIndex(0);
+    ExpectLegibleStatus(std::string(row.Item));
   }
 }
 
 TEST_P(LegibleWindow, OnBothRoofsOfADualSlopeAndInMillimetres) {
-  window_.resize(GetParam().size);
   Press("Dual");
   Find<PageTabs>("VSTab(1)").setCurrentIndex(1);
   ExpectLegible("rear roof");
   Trigger("mnuMetric");
+  Press("Dual");
+  ExpectLegible("front roof in millimetres");
+  Find<PageTabs>("VSTab(1)").setCurrentIndex(1);
   ExpectLegible("rear roof in millimetres");
 }
 
-// The first page that has a caption beside its list: the caption's width is taken before it shows.
-TEST_P(LegibleWindow, OnTheLayoutComingFromTheDesign) {
-  window_.resize(GetParam().size);
+TEST_P(LegibleWindow, WithAFieldBesideThePages) {
   Press("Hip");
-  Find<PageTabs>("VSTab(0)").setCurrentIndex(3);
+  Type("LWSlope(2).Left", "9");
+  Key(Qt::Key_Return);
+  Find<PageTabs>("VSTab(0)").setCurrentIndex(4);
   ASSERT_TRUE(Find("cboSpacing").isVisible());
-  ExpectLegible("layout");
+  ExpectLegible("layout of unequal slopes");
+  Press("Gambrel");
+  Trigger("mnuGambrelCustom");
+  Trigger("mnuGambrelWallSupportRaised");
+  ASSERT_TRUE(Find("FTUpperFascia").isVisible());
+  ExpectLegible("gambrel with a raised upper roof");
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, LegibleWindow,
-                         ::testing::Values(Case{"Smallest", {627, 467}}, Case{"Common", {1280, 720}},
-                                           Case{"Large", {1920, 1080}}),
-                         [](const auto& row) { return row.param.name; });
+TEST_P(LegibleWindow, WithSlopesInDegrees) {
+  Trigger("mnuSettingsDegrees");
+  for (const char* roof : {"Gable", "Hip", "Blind Valley"}) {
+    Press(roof);
+    ExpectLegible(roof);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Faces, LegibleWindow, ::testing::ValuesIn(AllCases()),
+                         [](const auto& row) { return row.param.face.name + row.param.sizeName; });
+
+// --- The font of the window itself
+// ------------------------------------------------------------------------------------------
+
+class WindowFont : public WindowTest {
+ protected:
+  void UseFont(const QFont& font) {
+    QApplication::setFont(font);
+    // The news goes to the window, from there to its parts, and then the window looks at them.
+    for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+  }
+  ~WindowFont() override { QApplication::setFont(UsualFont()); }
+};
+
+TEST_F(WindowFont, UsualLettersNeedNoMoreThanTheDriverHas) { EXPECT_EQ(Document().Words, WordRoom()); }
+
+TEST_F(WindowFont, AChangeOfTheDesktopsLettersIsFollowedAndTakenBack) {
+  const QSize least = window_.minimumSize();
+  const QRect sheet = Find("Sheet").geometry();
+  UseFont(AllFaces().back().Font());
+  EXPECT_GT(window_.minimumWidth(), least.width());
+  EXPECT_GT(window_.minimumHeight(), least.height());
+  EXPECT_GT(Find("Sheet").width(), sheet.width());
+  EXPECT_EQ(Find("Picture1").width() * 15, Document().Picture1.Place.Width) << "drawn for the place it has";
+  ExpectWordsFit(window_, "larger letters");
+  UseFont(UsualFont());
+  EXPECT_EQ(window_.minimumSize(), least);
+  EXPECT_EQ(Find("Sheet").geometry(), sheet);
+}
+
+TEST_F(WindowFont, LettersTooLargeForTheScreenAreTakenSmaller) {
+  QFont huge = UsualFont();
+  huge.setPixelSize(80);
+  UseFont(huge);
+  const QSize screen = window_.screen()->availableSize();
+  EXPECT_LE(window_.minimumWidth(), screen.width());
+  EXPECT_LE(window_.minimumHeight(), screen.height());
+  const int shown = QFontInfo(window_.font()).pixelSize();
+  EXPECT_LT(shown, 80);
+  EXPECT_GT(shown, QFontInfo(UsualFont()).pixelSize());
+  ExpectWordsFit(window_, "huge letters");
+}
 
 }  // namespace
 }  // namespace pitchcraft::testing
