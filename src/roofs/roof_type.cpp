@@ -49,13 +49,17 @@ void FocusSlope(const Design& design, Reply& reply, std::size_t row) {
   }
 }
 
-void NamePages(Design& design, std::span<const RoofPage> pages) {
+std::string CaptionsOf(std::span<const RoofPage> pages) {
   std::string captions;
   for (const RoofPage& page : pages) {
     if (!captions.empty()) captions += '|';
     captions += page.Caption;
   }
-  design.sheet.Tabs[0].SetCaption(captions);
+  return captions;
+}
+
+void NamePages(Design& design, std::span<const RoofPage> pages) {
+  design.sheet.Tabs[0].SetCaption(CaptionsOf(pages));
 }
 
 }  // namespace pitchcraft

@@ -93,7 +93,9 @@ class RoofType {
 /// The slope's field has the focus next, in the form in which slopes are entered.
 void FocusSlope(const Design& design, Reply& reply, std::size_t row);
 
-/// The captions of the pages as the index tab takes them.
+/// The captions of the pages as the index tab takes them: "Design|Rafter".
+std::string CaptionsOf(std::span<const RoofPage> pages);
+/// Names the pages of the design's roof.
 void NamePages(Design& design, std::span<const RoofPage> pages);
 
 }  // namespace pitchcraft

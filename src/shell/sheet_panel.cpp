@@ -5,8 +5,7 @@
 #include <tuple>
 #include <utility>
 
-#include "sheet/roof_types.h"
-#include "sheet/row_layouts.h"
+#include "roofs/roof_types.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -29,11 +28,12 @@ QSize UsualSize(const ControlView& view) {
 
 std::set<std::string> CaptionsOfAllRoofs() {
   std::set<std::string> captions;
-  const auto sheet = std::make_unique<Sheet>();
-  for (const RoofTypeRow& roof : RoofTypes()) {
-    for (const bool purlins : {false, true}) {
-      LayOutRows(*sheet, roof.Code, purlins);
-      for (const LabelControl& label : sheet->Label) captions.insert(label.Caption);
+  const auto design = std::make_unique<Design>();
+  for (const RoofType* type : RoofTypes()) {
+    for (const GambrelSupport support : {GambrelSupport::kPurlins, GambrelSupport::kWall}) {
+      design->Support = support;
+      type->LayOut(*design);
+      for (const LabelControl& label : design->sheet.Label) captions.insert(label.Caption);
     }
   }
   return captions;

@@ -3,11 +3,22 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
 namespace {
+
+/// A hip whose pages are those of two slopes.
+const Design& UnequalHip() {
+  static const Design design = [] {
+    Design hip;
+    hip.RoofType = Roof::kHip;
+    hip.Rafter1.HipEndSlope = 1;
+    return hip;
+  }();
+  return design;
+}
 
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
@@ -83,8 +94,9 @@ TabStrip::TabStrip(Session& session, QWidget* window)
 
 // A field has its caption before it.
 int TabStrip::LeastWidth() const {
-  int pages = pages_->WidthFor(kBastardHipPages);
-  for (const RoofTypeRow& row : RoofTypes()) pages = std::max(pages, pages_->WidthFor(row.Pages));
+  int pages = pages_->WidthFor(CaptionsOf(HipRoof().Pages(UnequalHip())));
+  for (const RoofType* type : RoofTypes())
+    pages = std::max(pages, pages_->WidthFor(CaptionsOf(type->About().Pages)));
   int field = 0;
   for (std::size_t i = 1; i < views_.size(); i += 2) {
     field = std::max(field, SizeOf(*views_[i - 1]).width() + kGap + SizeOf(*views_[i]).width());

@@ -35,7 +35,8 @@ std::vector<std::pair<QString, QString>> NamedBy(const QString& mark) {
 
 TEST(HelpPages, EveryRoofTypeHasOne) {
   const HelpPages pages(kFolder);
-  for (const RoofTypeRow& row : RoofTypes()) {
+  for (const RoofType* type : RoofTypes()) {
+    const RoofType::Facts& row = type->About();
     const QString file = QString::number(row.HelpTopic) + ".html";
     EXPECT_TRUE(pages.Has(file)) << row.Item;
     EXPECT_TRUE(TextOf(file).contains(QString::fromStdString(std::string(row.Item)))) << row.Item;
@@ -43,9 +44,10 @@ TEST(HelpPages, EveryRoofTypeHasOne) {
 }
 
 TEST(HelpPages, NameThePagesOfTheirRoof) {
-  for (const RoofTypeRow& row : RoofTypes()) {
+  for (const RoofType* type : RoofTypes()) {
+    const RoofType::Facts& row = type->About();
     const QString text = TextOf(QString::number(row.HelpTopic) + ".html");
-    const QStringList captions = QString::fromStdString(std::string(row.Pages)).split('|');
+    const QStringList captions = QString::fromStdString(CaptionsOf(row.Pages)).split('|');
     for (const QString& caption : captions.mid(1)) {
       EXPECT_TRUE(text.contains('"' + caption + '"')) << row.Item << ": " << caption.toStdString();
     }

@@ -78,7 +78,8 @@ class LegibleWindow : public ::testing::WithParamInterface<Case>, WithFace, publ
 };
 
 TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
-  for (const RoofTypeRow& row : RoofTypes()) {
+  for (const RoofType* type : RoofTypes()) {
+    const RoofType::Facts& row = type->About();
     Press(std::string(row.ToolButton));
     for (int page = 0; page < Document().design.sheet.Tabs[0].PageCount(); ++page) {
       Find<PageTabs>("VSTab(0)").setCurrentIndex(page);
