@@ -2,4 +2,4 @@
 # Checks every script with shellcheck.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-git ls-files -z run test .ci/run '*.sh' | xargs -0 shellcheck
+git ls-files -z run test gallery .ci/run '*.sh' | xargs -0 shellcheck -x
