@@ -8,10 +8,11 @@ install(FILES packaging/pitchcraft.desktop packaging/ftcalc.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/pitchcraft-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME pitchcraft.xml)
 install(FILES packaging/pitchcraft.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-# Stored, so that a build needs nothing that paints: rsvg-convert -w 128 packaging/pitchcraft.svg makes it.
+# Stored in the repository, so that a build needs no program that paints. Made with: rsvg-convert -w 128
+# packaging/pitchcraft.svg
 install(FILES packaging/pitchcraft-128.png DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/128x128/apps
   RENAME pitchcraft.png)
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs PATTERN help EXCLUDE)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
@@ -23,7 +24,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
-# The libraries are found in the programs themselves; the letters are not.
+# Dependencies on libraries are found in the programs; that on the fonts is not.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-liberation)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Lengths, cuts and dimensioned drawings of rafters for eleven roofs, with a driver

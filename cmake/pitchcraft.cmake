@@ -1,18 +1,19 @@
-# What every target of the project shares: warnings as errors, sanitizers, and the two ways to add one.
+# What all targets share: warnings as errors, sanitizers, and the two functions that add a target.
 
 add_library(pitchcraft_options INTERFACE)
 target_include_directories(pitchcraft_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(pitchcraft_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wcast-qual
   -Wformat=2 -Werror
-  # g++ 12 warns of overlapping copies inside its own string concatenation, which do not exist.
+  # g++ 12 warns of overlapping copies inside its own string concatenation; there are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-  # A product of two numbers is rounded before it is added to: the same figures on every machine.
+  # Rounds a product before anything is added to it, so that results are the same on every machine.
   -ffp-contract=off)
 if(PITCHCRAFT_SANITIZE)
   target_compile_options(pitchcraft_options INTERFACE
     -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # The program runs under the sanitizers at a fair speed; a test runs once and is compiled twice as fast without.
+    # The program should run reasonably fast under the sanitizers; a test runs once and compiles twice as fast
+    # unoptimized.
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:PITCHCRAFT_IS_TEST>>>:-O1>)
   target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
 endif()
@@ -22,7 +23,8 @@ if(PITCHCRAFT_FUZZ)
   target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# pitchcraft_room(NAME SOURCES ... USES room ...): one folder under src/ as a library that sees only the rooms named.
+# pitchcraft_room(NAME SOURCES ... USES room ...): one folder under src/, as a library that sees only the
+# rooms given.
 function(pitchcraft_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
   add_library(pitchcraft_${name} STATIC ${ROOM_SOURCES})
@@ -33,7 +35,8 @@ function(pitchcraft_room name)
   endforeach()
 endfunction()
 
-# pitchcraft_test(NAME SOURCES ... USES lib ...): one test program, run in shuffled order with the seed printed.
+# pitchcraft_test(NAME SOURCES ... USES lib ...): one test program; its tests run in random order, and it
+# prints the seed.
 function(pitchcraft_test name)
   cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})

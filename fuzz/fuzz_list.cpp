@@ -1,4 +1,4 @@
-// Any bytes as the files of the lists: the document starts, and every row that is shown can be picked.
+// Any bytes as list files: the document starts, and every row that it shows can be picked.
 #include <unistd.h>
 
 #include <cstddef>
@@ -35,19 +35,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   NullSurroundings around;
   Document document({around.dialogs, around.store, kFolder.path});
-  document.Form_Load();
-  for (int row = 0; row < static_cast<int>(document.sheet.Slope[0].List().size()); ++row) {
-    document.sheet.Slope[0].SetListIndex(row);
+  Start(document);
+  for (int row = 0; row < static_cast<int>(document.design.sheet.Slope[0].List().size()); ++row) {
+    document.design.sheet.Slope[0].SetListIndex(row);
     document.LWSlope_Click(0);
   }
-  for (int row = 0; row < static_cast<int>(document.sheet.Common[0].List().size()); ++row) {
-    document.sheet.Common[0].SetListIndex(row);
+  for (int row = 0; row < static_cast<int>(document.design.sheet.Common[0].List().size()); ++row) {
+    document.design.sheet.Common[0].SetListIndex(row);
     document.LWRafter_Commit(0);
   }
-  for (int row = 0; row < static_cast<int>(document.sheet.Degrees[0].List().size()); ++row) {
-    document.sheet.Degrees[0].SetListIndex(row);
+  for (int row = 0; row < static_cast<int>(document.design.sheet.Degrees[0].List().size()); ++row) {
+    document.design.sheet.Degrees[0].SetListIndex(row);
     document.cboDegrees_Click(0);
   }
-  document.Form_Unload();
+  Close(document);
   return 0;
 }

@@ -1,4 +1,4 @@
-// Any bytes typed into a measurement field are a finite number, and what is then shown reads back as that
+// Any bytes typed into a measurement field give a finite number, and the text then shown reads back as that
 // number.
 #include <algorithm>
 #include <cmath>
@@ -18,7 +18,7 @@ using pitchcraft::MeasureConverter;
 
 constexpr double kMillimetresPerInch = 25.4;
 constexpr std::size_t kLongestText = 24;
-constexpr double kWellOnTape = 1e7;  // far from where tape measures give way to plain numbers
+constexpr double kWellOnTape = 1e7;  // far below the point where plain numbers replace tape measures
 
 void Require(bool holds, const char* what, double value, const std::string& shown) {
   if (holds) return;
@@ -26,7 +26,7 @@ void Require(bool holds, const char* what, double value, const std::string& show
   std::abort();
 }
 
-// Half a sixteenth, half a millimetre, or the seventh significant digit; plain numbers keep their decimals.
+// Half a sixteenth, half a millimetre, or the seventh significant digit. Plain numbers keep their decimals.
 double Tolerance(const MeasureConverter& converter, double value) {
   const double unit = converter.BaseUnits == pitchcraft::kBaseMillimetres ? kMillimetresPerInch : 1;
   return std::max(unit / 32 * (1 + 1e-9), std::abs(value) * 5.1e-7);

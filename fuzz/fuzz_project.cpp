@@ -1,5 +1,5 @@
-// Any bytes opened as a project: the document answers afterwards, loading has ended, and what is then saved
-// can be opened again.
+// Any bytes opened as a project: afterwards the document still responds, it is no longer loading, and what it
+// saves can be opened again.
 #include <unistd.h>
 
 #include <cstddef>
@@ -35,13 +35,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::ofstream(kFile, std::ios::binary | std::ios::trunc) << std::string(data, data + size);
   NullSurroundings around;
   Document document(around.Get());
-  document.Form_Load();
-  const bool loaded = document.LoadRafter(kFile);
-  Require(document.LoadingProject == 0, "loading did not end");
+  Start(document);
+  const bool loaded = LoadProject(document, kFile);
+  Require(document.design.Loading == 0, "loading did not end");
   Require(loaded || !around.dialogs.messages.empty(), "refused without a word");
-  Require(document.SaveRafter(kFile), "cannot be saved");
-  Require(document.LoadRafter(kFile), "what was saved cannot be opened");
-  document.Form_Unload();
+  Require(SaveProject(document, kFile), "cannot be saved");
+  Require(LoadProject(document, kFile), "what was saved cannot be opened");
+  Close(document);
   std::filesystem::remove(kFile);
   return 0;
 }

@@ -1,5 +1,5 @@
-// Any bytes run as a script: every event is one JSON object on a line, the status is one of three, and the
-// document answers afterwards.
+// Any bytes run as a script: every event is one JSON object on a line, the exit status is one of the three,
+// and the document still responds afterwards.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "cli/script.h"
+#include "session/script.h"
 
 namespace {
 
@@ -26,13 +26,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   MemoryStore store;
   ScriptDialogs dialogs(output);
   Document document({dialogs, store, {}});
-  document.Form_Load();
+  Start(document);
   Script script(document, dialogs, output, [](const Document&, const std::string&) { return std::nullopt; });
   std::istringstream input(std::string(data, data + size));
   const int status = script.Run(input);
   Require(status == kDone || status == kWorkFailed || status == kNotUnderstood, "an exit status of its own");
   script.RunLine("dump");
-  document.Form_Unload();
+  Close(document);
   std::istringstream events(output.str());
   for (std::string line; std::getline(events, line);) {
     const Json event = Json::parse(line, nullptr, /*allow_exceptions=*/false);

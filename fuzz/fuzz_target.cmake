@@ -1,5 +1,5 @@
-# A fuzz target is one source with LLVMFuzzerTestOneInput, and a folder of seeds under fuzz/corpus/. It is built twice:
-# with libFuzzer, to look for new trouble, and with a plain main among the tests, where it replays the seeds.
+# A fuzz target is one source with LLVMFuzzerTestOneInput and a folder of seeds under fuzz/corpus/. It is
+# built twice: with libFuzzer, to look for new faults, and with a plain main as a test that replays the seeds.
 
 set(PITCHCRAFT_FUZZ_DIR ${CMAKE_CURRENT_LIST_DIR})
 
@@ -11,7 +11,7 @@ function(pitchcraft_fuzz name)
   target_link_options(${name} PRIVATE -fsanitize=fuzzer)
 endfunction()
 
-# pitchcraft_corpus_test(NAME CORPUS folder SOURCES ... USES lib ...): the sources stand in fuzz/, the folder in
+# pitchcraft_corpus_test(NAME CORPUS folder SOURCES ... USES lib ...): the sources are in fuzz/, the folder in
 # fuzz/corpus/.
 function(pitchcraft_corpus_test name)
   cmake_parse_arguments(FUZZ "" "CORPUS" "SOURCES;USES" ${ARGN})

@@ -1,4 +1,4 @@
-// Runs a fuzz target over the files of a folder, so that what once went wrong is tried on every build.
+// Runs a fuzz target over the files of a folder, so that every build tries what once went wrong.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""accessibility.py PROGRAM DRIVER: walks the window as an assistive program does, through the accessibility bus.
+"""accessibility.py PROGRAM DRIVER: walks the window like a screen reader, through the accessibility bus.
 
-For each roof type and each of its pages: what shows has a name and a fitting role, every field reads what the driver says that it
-holds, Tab comes to every field, and what takes no focus is there in a menu or a list. Prints a row for each roof type and every
-violation; the exit status is 1 where there is one. tools/check_accessibility.sh provides display, bus and settings.
+Checks for each page of each roof type that everything shown has a name and a fitting role, that every field reads what the driver
+reports for it, that Tab reaches every field, and that what takes no focus is also in a menu or a list. Prints a row for each page and
+every violation; the exit status is 1 if there is any. tools/check_accessibility.sh provides display, bus and settings.
 """
 import json
 import re
@@ -19,7 +19,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 FIELD_ROLES = ("text", "combo box", "check box", "spin button")
 BUTTON_ROLES = ("push button", "radio button")
-# Controls that stand in a strip above the sheet; all others stand in the sheet.
+# Controls in a strip above the sheet; all others are on the sheet itself.
 BAY_STRIP = ("FtProjection", "FtFace", "FtBack", "FtBayAngle", "Command1")
 TAB_STRIP = ("FTUpperFascia", "cboLedger", "cboSpacing")
 DROP_DOWNS = ("cboType", "cboLedger")
@@ -39,17 +39,17 @@ class Violations:
 
 
 def wait_for(condition, what):
-    """Gives the first true answer."""
+    """Returns the first true answer."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
         try:
             answer = condition()
-        except GLib.GError:  # a part that was there went away meanwhile
+        except GLib.GError:  # a part has gone in the meantime
             answer = None
         if answer:
             return answer
         time.sleep(0.02)
-    sys.exit(f"{sys.argv[0]}: waited in vain for {what}")
+    sys.exit(f"{sys.argv[0]}: gave up waiting for {what}")
 
 
 def children(node):
@@ -64,7 +64,7 @@ def has(node, state):
 
 
 def showing(node):
-    """The node and all below it that show."""
+    """The node and everything below it, as far as they are showing."""
     if not has(node, Atspi.StateType.SHOWING):
         return
     yield node
@@ -79,7 +79,7 @@ def text_of(node):
 
 
 def act(node):
-    """Its first action, which is what a click does."""
+    """Performs the first action of the node, which is what a click does."""
     if not Atspi.Action.do_action(node, 0):
         sys.exit(f"{sys.argv[0]}: {node.get_name()} refuses")
 
@@ -89,17 +89,17 @@ def press_tab():
 
 
 def activate(frame):
-    """Nobody manages windows here: a click on a part where it does nothing gives the window the keyboard."""
+    """There is no window manager: a click where it does nothing gives the window the keyboard."""
     bar = next(node for node in showing(frame) if node.get_role_name() == "status bar")
     place = Atspi.Component.get_extents(bar, Atspi.CoordType.SCREEN)
     Atspi.generate_mouse_event(place.x + place.width // 2, place.y + place.height // 2, "b1c")
 
 
-# --- What the driver says
+# What the driver reports
 
 
 def expected_fields(dump):
-    """For each strip: role, value and whether it can be used, in the order of the sheet. A value of None: there is none."""
+    """For each strip, its fields in the order of the sheet: role, value (None without one), and whether enabled."""
     pages = [tab["Page"] for tab in dump["tabs"].values()]
     fields = {"bay": [], "tabs": [], "sheet": []}
     for name, control in dump["sheet"].items():
@@ -136,7 +136,7 @@ def ask_driver(driver, lines):
     return [event for event in map(json.loads, run.stdout.splitlines()) if event["event"] == "dump"]
 
 
-# --- What the bus says
+# What the bus reports
 
 
 def shown_field(node):
@@ -165,7 +165,7 @@ def check_names(nodes, violations):
 
 
 def check_captions(fields, nodes, violations):
-    """A field is called as the eye reads it."""
+    """Checks that the name of a field is the caption beside it."""
     captions = {node.get_name().rstrip(":") for node in nodes if node.get_role_name() == "label"}
     for field in fields:
         called = field.get_name().split(",")[0]
@@ -174,9 +174,9 @@ def check_captions(fields, nodes, violations):
 
 
 def check_tab(fields, nodes, violations):
-    """Tab comes to each field that can be used and starts again. Gives how many."""
+    """Checks that Tab reaches every enabled field before it starts again. Returns their number."""
     stops = [field for field in fields if has(field, Atspi.StateType.FOCUSABLE) and has(field, Atspi.StateType.ENABLED)]
-    # The captions of the pages and the drawing stand between the last field and the first.
+    # The page tabs and the drawing come between the last field and the first.
     places = stops + [node for node in nodes if node.get_role_name() in ("page tab list", "image", "graphic")]
     Atspi.Component.grab_focus(stops[0])
     wait_for(lambda: has(stops[0], Atspi.StateType.FOCUSED), "the focus")
@@ -186,40 +186,40 @@ def check_tab(fields, nodes, violations):
         press_tab()
 
         def moved(before=focused):
-            # The next one first: it is nearly always that.
+            # Nearly always it is the next one, so try that first.
             for step in range(1, len(places)):
                 at = (before + step) % len(places)
                 if has(places[at], Atspi.StateType.FOCUSED):
                     return [at]
             return None
 
-        focused = wait_for(moved, f"Tab behind '{places[focused].get_name()}'")[0]
+        focused = wait_for(moved, f"Tab after '{places[focused].get_name()}'")[0]
         reached.add(focused)
         if focused == 0:
             break
     for at, stop in enumerate(stops):
         if at not in reached:
-            violations.add(f"Tab does not come to '{stop.get_name()}'")
+            violations.add(f"Tab does not reach '{stop.get_name()}'")
     return len(reached & set(range(len(stops))))
 
 
 def check_unfocusable(nodes, ways, violations):
-    """A button without focus is there in a menu or a list, or opens the list of the field that it stands in."""
+    """Checks that a button without focus is also in a menu or a list, or opens the list of its own field."""
     for node in nodes:
         if node.get_role_name() not in FIELD_ROLES + BUTTON_ROLES or has(node, Atspi.StateType.FOCUSABLE):
             continue
         name = node.get_name()
-        # F4 and the arrow keys do the same where the focus is.
+        # F4 and the arrow keys do the same on the focused field.
         beside = name.endswith((", open the list", ", step")) or name.startswith("Scroll ")
         if not beside and name not in ways and name.split()[0] not in ways:
-            violations.add(f"'{name}' is out of the keyboard's reach")
+            violations.add(f"'{name}' cannot be reached by keyboard")
 
 
 class Window:
     def __init__(self, program):
         self.process = subprocess.Popen([program])
-        self.app = wait_for(self.find_app, "the program on the bus")
-        self.app.set_cache_mask(Atspi.Cache.NONE)  # nothing listens here that would keep it right
+        self.app = wait_for(self.find_app, "the program to appear on the bus")
+        self.app.set_cache_mask(Atspi.Cache.NONE)  # nothing listens here to keep a cache up to date
 
     @staticmethod
     def find_app():
@@ -238,7 +238,7 @@ class Window:
         return None
 
     def close_start_forms(self, violations):
-        """The splash goes by itself. Each form is looked at before it is closed; gives how many there were."""
+        """Checks and closes the dialogs at the start and returns their number. The splash closes by itself."""
         closed = 0
         while closed < 2:
             def form():
@@ -248,11 +248,11 @@ class Window:
                             return dialog, node
                 return None
 
-            dialog, button = wait_for(form, "the forms of the start")
+            dialog, button = wait_for(form, "the dialogs at the start")
             check_names(list(showing(dialog)), violations)
             before = dialog.get_child_count(), dialog.get_name()
             act(button)
-            wait_for(lambda: not any((d.get_child_count(), d.get_name()) == before for d in self.dialogs()), "a form to close")
+            wait_for(lambda: not any((d.get_child_count(), d.get_name()) == before for d in self.dialogs()), "a dialog to close")
             closed += 1
         return closed
 
@@ -287,7 +287,7 @@ def menu_items(node):
 
 
 def check_page(window, dump, ways, violations):
-    """Gives the counts: what shows, fields, stops of Tab."""
+    """Returns three counts: what is showing, fields, and Tab stops."""
     frame = wait_for(window.frame, "the window")
     nodes = list(showing(frame))
     strips = {"Bay dimensions": "bay", "Pages and settings": "tabs", "Design sheet": "sheet"}
@@ -318,7 +318,7 @@ def main():
     violations.where = "start"
     window = Window(program)
     try:
-        print(f"{window.close_start_forms(violations)} forms at the start")
+        print(f"{window.close_start_forms(violations)} dialogs at the start")
         activate(wait_for(window.frame, "the window"))
         ways = set(roofs) | set(menu_items(wait_for(lambda: window.part("menu bar"), "the menu bar")))
         print(f"{'roof':<20} {'page':<16} {'shows':>6} {'fields':>7} {'stops':>6}")

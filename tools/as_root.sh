@@ -1,4 +1,4 @@
 #!/usr/bin/env bash
-# Runs a command as root: as it is for root, through sudo for everyone else.
+# Runs a command as root: directly if root runs it, otherwise with sudo.
 set -euo pipefail
 if [ "$(id -u)" = 0 ]; then exec "$@"; else exec sudo "$@"; fi

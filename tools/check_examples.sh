@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# tools/check_examples.sh [DRIVER]: writes every page of every example as DXF, metafile and printed sheet and opens all
-# of them in the programs that people use (tools/check_readers.sh). Pages whose drawing does not exist are left out.
+# tools/check_examples.sh [DRIVER]: writes every page of every example as DXF, metafile and print, and opens
+# all of them in the programs that people use (tools/check_readers.sh). Pages without a drawing are left out.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 driver=$(realpath "${1:-build/asan/pitchcraft-cli}")
-least=50 # files that all examples make at the least
+least=50 # the fewest files that all examples together make
 again=()
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -26,11 +26,11 @@ for example in examples/*.txt; do
       echo "click mnuFilePrint"
     done
   } >"$work/$name.txt"
-  # A page that an example's roof does not have is refused, which is no fault here.
+  # A page that the example's roof does not have is refused, which is no error here.
   "$driver" run --data "$work/$name" "$work/$name.txt" >"$work/$name.json" || [ $? -le 2 ]
 done
 
-# A page that was refused has left the one before it once more.
+# After a refused page, the page before it was written once more.
 for file in "$work/out/"*-[1-4].wmf; do
   page=${file%.wmf}
   before=${page%-*}-$((${page##*-} - 1))
@@ -40,5 +40,5 @@ for page in "${again[@]}"; do rm -f "$page".*; done
 
 count=$(find "$work/out" -type f | wc -l)
 echo "$count files of $(find examples -name '*.txt' | wc -l) examples"
-[ "$count" -ge "$least" ] || { echo "$0: these are too few" >&2; exit 1; }
+[ "$count" -ge "$least" ] || { echo "$0: that is too few" >&2; exit 1; }
 tools/check_readers.sh "$work/out"

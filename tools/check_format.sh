@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every source is laid out as .clang-format says.
+# Checks that every source is formatted by .clang-format.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 git ls-files -z '*.cpp' '*.h' | xargs -0 -r clang-format --dry-run -Werror

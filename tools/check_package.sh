@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tools/check_package.sh [FOLDER]: builds the Debian package in FOLDER (build/package), looks at what is in it, and runs its
-# programs from an unpacked tree.
+# tools/check_package.sh [FOLDER]: builds the Debian package in FOLDER (build/package), checks its contents,
+# and runs its programs from an unpacked tree.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 folder=${1:-build/package}
@@ -25,13 +25,13 @@ contents=$(dpkg-deb -c "$package" | awk '{print $6}')
 for file in bin/pitchcraft bin/pitchcraft-cli bin/ftcalc share/applications/pitchcraft.desktop \
   share/applications/ftcalc.desktop share/mime/packages/pitchcraft.xml share/pitchcraft/help/index.html \
   share/icons/hicolor/scalable/apps/pitchcraft.svg share/icons/hicolor/128x128/apps/pitchcraft.png \
-  share/doc/pitchcraft/README.md; do
+  share/doc/pitchcraft/README.md share/doc/pitchcraft/CONTRIBUTING.md; do
   grep -qxF "./usr/$file" <<<"$contents" || fail "usr/$file is missing"
 done
 while IFS= read -r page; do
   grep -qxF "./usr/share/pitchcraft/help/$page" <<<"$contents" || fail "the page $page is missing"
 done < <(cd docs/help && find . -type f | sed 's|^\./||')
-if grep -vE '^\./(usr/.*)?$' <<<"$contents"; then fail "something stands outside /usr"; fi
+if grep -vE '^\./(usr/.*)?$' <<<"$contents"; then fail "there are files outside /usr"; fi
 
 depends=$(dpkg-deb -f "$package" Depends)
 for library in libc6 libqt6widgets6 libqt6network6 fonts-liberation; do
@@ -40,14 +40,14 @@ done
 
 dpkg-deb -x "$package" "$tree"
 while IFS= read -r file; do
-  if grep -qF -- "$PWD" "$file"; then fail "${file#"$tree"} names the folder that it was built in"; fi
+  if grep -qF -- "$PWD" "$file"; then fail "${file#"$tree"} contains the folder in which it was built"; fi
 done < <(find "$tree" -type f)
 if command -v desktop-file-validate >/dev/null; then
-  desktop-file-validate "$tree"/usr/share/applications/*.desktop || fail "an entry of the menu is not valid"
+  desktop-file-validate "$tree"/usr/share/applications/*.desktop || fail "a menu entry is not valid"
 fi
 if command -v xmllint >/dev/null; then
   xmllint --noout "$tree/usr/share/mime/packages/pitchcraft.xml" \
-    "$tree/usr/share/icons/hicolor/scalable/apps/pitchcraft.svg" || fail "a file is no XML"
+    "$tree/usr/share/icons/hicolor/scalable/apps/pitchcraft.svg" || fail "a file is not valid XML"
 fi
 for program in pitchcraft pitchcraft-cli ftcalc; do
   version=$("$tree/usr/bin/$program" --version) || fail "$program does not run"

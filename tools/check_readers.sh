@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# tools/check_readers.sh FILE|FOLDER...: opens every .dxf, .wmf and .pdf in the programs that people open them with, prints
-# a row for each, and fails if one of them is read wrong. `tools/packages.sh readers` installs the programs.
+# tools/check_readers.sh FILE|FOLDER...: opens every .dxf, .wmf and .pdf in the programs that people use for
+# them, prints a row for each, and fails if any is read wrongly. `tools/packages.sh readers` installs the
+# programs.
 #   dxf: ezdxf finds nothing to repair and measures the dimensions; LibreCAD and LibreOffice show it, with every letter
 #   wmf: wmf2svg and LibreOffice show it, with every letter
 #   pdf: every font is embedded and there is text
@@ -11,7 +12,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 for program in librecad soffice wmf2svg pdftotext pdftoppm pdffonts iconv; do
   command -v "$program" >/dev/null || { echo "$0: $program is missing: tools/packages.sh readers" >&2; exit 2; }
 done
-# The library belongs to the system's Python, which need not be the first on the way.
+# The library belongs to the system's Python, which may not be the first on the path.
 python=""
 for candidate in python3 /usr/bin/python3; do
   if "$candidate" -c 'import ezdxf' 2>/dev/null; then python=$candidate && break; fi
@@ -26,7 +27,7 @@ reader() { timeout --kill-after=5 "$@" >>"$work/log" 2>&1 </dev/null; }
 mapfile -t files < <(find "$@" -type f \( -name '*.dxf' -o -name '*.wmf' -o -name '*.pdf' \) | LC_ALL=C sort)
 [ ${#files[@]} -gt 0 ] || { echo "$0: no .dxf, .wmf or .pdf there" >&2; exit 2; }
 
-# LibreOffice starts slowly: once for all files of a kind, under names that cannot meet.
+# LibreOffice starts slowly, so it runs once for all files of a kind, under names that cannot clash.
 mkdir "$work/in" "$work/dxf" "$work/wmf" "$work/lines"
 for i in "${!files[@]}"; do cp "${files[i]}" "$work/in/$i.${files[i]##*.}"; done
 for kind in dxf wmf; do
@@ -37,22 +38,22 @@ for kind in dxf wmf; do
 done
 
 letters() { pdftotext "$1" - 2>/dev/null || true; }
-# The share of a page's picture that is not its ground.
+# The share of a page's picture that is not background.
 ink() {
   pdftoppm -gray -scale-to 800 -singlefile "$1" "$work/page" 2>/dev/null || { echo 0; return; }
   "$python" "$here/readers.py" ink "$work/page.pgm"
 }
 
-# Each sets `said` and fails where the file is read wrong.
+# Each sets `said` and fails if the file is read wrongly.
 check_dxf() {
   local number=$1 whole=$work/lines/$1 lettersThere=0 ezdxf
   ezdxf=$("$python" "$here/readers.py" dxf "$work/in/$number.dxf" "$whole" 2>>"$work/log") ||
     { said="ezdxf: ${ezdxf:-does not read it}"; return 1; }
   said=$ezdxf
-  # It puts the page beside the file, whatever name it is told.
+  # LibreCAD puts the PDF next to the file, whatever name it is given.
   reader 60 librecad dxf2pdf -a "$work/in/$number.dxf" || true
   [ -s "$work/in/$number.pdf" ] || { said+="; LibreCAD does not read it"; return 1; }
-  # A file without a figure is a blank page, and LibreOffice opens none.
+  # A file without figures is a blank page, which LibreOffice does not open.
   if [[ $ezdxf = *"0 figures"* ]]; then return 0; fi
   said+="; LibreCAD $(ink "$work/in/$number.pdf")% ink"
   [[ $said != *" 0% ink" ]] || return 1
@@ -65,7 +66,7 @@ check_dxf() {
 check_wmf() {
   local number=$1 whole=$work/lines/$1 lettersThere=0
   reader 30 wmf2svg -o "$work/$number.svg" "$work/in/$number.wmf" || { said="wmf2svg does not read it"; return 1; }
-  # It copies the texts as the file has them.
+  # wmf2svg copies the texts in the file's own encoding.
   iconv -f cp1252 -t utf-8 "$work/$number.svg" | "$python" "$here/readers.py" svg "$whole"
   said="wmf2svg $(wc -l <"$whole") texts"
   [ -s "$work/wmf/$number.pdf" ] || { said+="; LibreOffice does not read it"; return 1; }
@@ -77,8 +78,8 @@ check_wmf() {
 
 check_pdf() {
   local fonts loose lettersThere
-  fonts=$(pdffonts "$work/in/$1.pdf" 2>>"$work/log" | tail -n +3) || { said="not to be read"; return 1; }
-  # The columns behind the name count from the end: emb sub uni object ID.
+  fonts=$(pdffonts "$work/in/$1.pdf" 2>>"$work/log" | tail -n +3) || { said="cannot be read"; return 1; }
+  # Columns are counted from the end, because the name may contain blanks: emb sub uni object ID.
   loose=$(awk '$(NF-4) != "yes"' <<<"$fonts" | grep -c . || true)
   lettersThere=$(letters "$work/in/$1.pdf" | tr -d '[:space:]' | wc -m)
   said="$(grep -c . <<<"$fonts" || true) fonts, $loose not embedded; $lettersThere letters"

@@ -1,16 +1,17 @@
 #!/usr/bin/env bash
-# tools/first_rafter.sh DRIVER FOLDER: runs the first rafter of examples/ in the folder and prints what it found.
+# tools/first_rafter.sh DRIVER FOLDER: runs the first rafter of examples/ in the folder and prints its
+# results.
 set -euo pipefail
 driver=$(realpath "$1")
 script=$(realpath "$(dirname "$0")/../examples/first-rafter.txt")
 mkdir -p "$2"
 folder=$(realpath "$2")
 
-# The script's pictures go where the driver stands.
+# The driver writes the script's pictures to the current folder.
 cd "$folder"
 "$driver" run --data "$folder" "$script" >results.jsonl
 
-# The last dump of the rafter, one member a line.
+# The rafter's last dump, one member per line.
 members=$(sed -nE 's/.*"Rafter1": *\{([^}]*)\}.*/\1/p' results.jsonl | tail -n 1 | tr ',' '\n' | tr -d '" ')
 [ -n "$members" ] || { echo "$0: the driver printed no rafter" >&2; exit 1; }
 while read -r member meaning; do

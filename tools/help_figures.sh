@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Paints the figures of the pages of help anew. They are stored, so that the pages need no reader of SVG.
+# Draws the figures of the help pages again. They are stored as PNG, so that the pages need no SVG reader.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 command -v rsvg-convert >/dev/null || { echo "$0: rsvg-convert is missing (package librsvg2-bin)" >&2; exit 2; }

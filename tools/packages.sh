@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tools/packages.sh PURPOSE...: installs the Debian packages for the purposes named, as far as they are missing.
-# With all of them there it only asks dpkg: no network, no root. docs/dependencies.md says why each is needed.
+# tools/packages.sh PURPOSE...: installs the missing Debian packages for the given purposes. If none is
+# missing, it only asks dpkg and needs neither network nor root. docs/dependencies.md says why each is needed.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -16,17 +16,17 @@ declare -A list=(
   [readers]="python3-ezdxf librecad libwmf-bin libreoffice-draw poppler-utils"
 )
 
-[ $# -gt 0 ] || { echo "usage: $0 PURPOSE..., of: ${!list[*]}" >&2; exit 2; }
+[ $# -gt 0 ] || { echo "usage: $0 PURPOSE...; purposes: ${!list[*]}" >&2; exit 2; }
 command -v dpkg-query >/dev/null || { echo "$0: this is for Debian 12; elsewhere see docs/dependencies.md" >&2; exit 1; }
 
 wanted=()
 for purpose in "$@"; do
-  [ -n "${list[$purpose]:-}" ] || { echo "$0: unknown purpose '$purpose', of: ${!list[*]}" >&2; exit 2; }
+  [ -n "${list[$purpose]:-}" ] || { echo "$0: unknown purpose '$purpose'; purposes: ${!list[*]}" >&2; exit 2; }
   read -ra names <<<"${list[$purpose]}"
   wanted+=("${names[@]}")
 done
 
-# dpkg-query fails when it has never heard of a package; what it does print is still right.
+# dpkg-query fails for a package that it does not know; its output is still right.
 installed=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "${wanted[@]}" 2>/dev/null || true)
 missing=()
 for package in "${wanted[@]}"; do
@@ -36,6 +36,6 @@ done
 
 echo "Installing ${missing[*]}"
 ./as_root.sh apt-get -qq update
-# What it unpacks is of no interest; its errors are, and go to standard error.
+# Shows errors, but not the progress of unpacking.
 ./as_root.sh env DEBIAN_FRONTEND=noninteractive \
   apt-get -qq -y --no-install-recommends install "${missing[@]}" >/dev/null

@@ -1,9 +1,9 @@
 """The steps of check_readers.sh that need more than a shell.
 
-dxf FILE TEXTS    audits a DXF file, prints what is in it, and puts its texts into TEXTS, a line each
-svg TEXTS         puts the texts of the SVG on standard input into TEXTS, a line each
-letters TEXTS     compares the letters on standard input with those of TEXTS, in any order: turned texts come out in pieces
-ink FILE.pgm      prints the share of the picture, in per cent, that has not the commonest grey
+dxf FILE TEXTS    audits a DXF file, prints what is in it, and writes its texts to TEXTS, one per line
+svg TEXTS         writes the texts of the SVG on standard input to TEXTS, one per line
+letters TEXTS     compares the letters on standard input with those of TEXTS, in any order, because rotated texts come out in pieces
+ink FILE.pgm      prints how much of the picture, in per cent, is not in its most common grey
 """
 
 import collections
@@ -32,7 +32,7 @@ def dxf(path, texts_path):
             if not shown:
                 print(f"dimension {len(measures)} shows nothing")
                 return 1
-    # Codes of single characters are left to whoever draws.
+    # ezdxf leaves the codes of single characters to the program that draws.
     texts = [re.sub(r"\\U\+([0-9A-F]{4})", lambda code: chr(int(code[1], 16)), text) for text in texts]
     with open(texts_path, "w", encoding="utf-8") as out:
         out.writelines(text + "\n" for text in texts)

@@ -1,4 +1,4 @@
-// How fast each calculation of the record is beside the same formulas in a plain loop. Both are timed in one
+// Compares each calculation of the record with the same formulas in a plain loop. Both are timed in the same
 // run; what counts is their ratio, printed last.
 #include <benchmark/benchmark.h>
 
@@ -20,18 +20,18 @@ constexpr int kRoofs = 64;
 
 struct Procedure {
   const char* Name;
-  RafterType Type;
+  Member Type;
   void (Rafter::*Record)();
   void (*Plain)(PlainRafter&);
 };
 
 const Procedure kProcedures[] = {
-    {"Calculate, common", RafterType::kCommon, &Rafter::Calculate, PlainCalculate},
-    {"Calculate, hip", RafterType::kHip, &Rafter::Calculate, PlainCalculate},
-    {"CalculateBastardHip", RafterType::kBastardHip, &Rafter::CalculateBastardHip, PlainBastardHip},
-    {"CalculateGambrel", RafterType::kGambrelBottom, &Rafter::CalculateGambrel, PlainGambrel},
-    {"CalculateBay", RafterType::kBayCommon, &Rafter::CalculateBay, PlainBay},
-    {"CalculateOctagon", RafterType::kOctagonHip, &Rafter::CalculateOctagon, PlainOctagon},
+    {"Calculate, common", Member::kCommon, &Rafter::Calculate, PlainCalculate},
+    {"Calculate, hip", Member::kHip, &Rafter::Calculate, PlainCalculate},
+    {"CalculateBastardHip", Member::kBastardHip, &Rafter::CalculateBastardHip, PlainBastardHip},
+    {"CalculateGambrel", Member::kGambrelBottom, &Rafter::CalculateGambrel, PlainGambrel},
+    {"CalculateBay", Member::kBayCommon, &Rafter::CalculateBay, PlainBay},
+    {"CalculateOctagon", Member::kOctagonHip, &Rafter::CalculateOctagon, PlainOctagon},
 };
 
 constexpr double kBayDegrees = 45;
@@ -45,7 +45,7 @@ void SetUp(Rafter& r, const Procedure& procedure, int roof) {
   r.RafterType = procedure.Type;
   r.Slope = SlopeOf(roof);
   r.HipEndSlope = SlopeOf(roof) + 1;
-  if (procedure.Type == RafterType::kGambrelBottom) r.HipValSlope = SlopeOf(roof) / 4;
+  if (procedure.Type == Member::kGambrelBottom) r.HipValSlope = SlopeOf(roof) / 4;
   r.Span = SpanOf(roof);
   r.Overhang = 10.5;
   r.Thickness = 1.5;
@@ -71,7 +71,7 @@ void SetUp(PlainRafter& r, const Procedure& procedure, int roof) {
   r.type = static_cast<int>(procedure.Type);
   r.slope = static_cast<float>(SlopeOf(roof));
   r.endSlope = static_cast<float>(SlopeOf(roof) + 1);
-  if (procedure.Type == RafterType::kGambrelBottom) r.hipSlope = static_cast<float>(SlopeOf(roof) / 4);
+  if (procedure.Type == Member::kGambrelBottom) r.hipSlope = static_cast<float>(SlopeOf(roof) / 4);
   r.span = static_cast<float>(SpanOf(roof));
   r.overhang = 10.5F;
   r.thickness = r.ridge = r.hipThickness = 1.5F;
@@ -115,7 +115,7 @@ void RunPlain(benchmark::State& state, const Procedure& procedure) {
   state.SetItemsProcessed(state.iterations() * kRoofs);
 }
 
-// A yardstick that reckoned something else would be worth nothing.
+// A comparison is worth nothing if the two calculate different things.
 void CheckThatBothAgree(const Procedure& procedure) {
   for (int roof = 0; roof < kRoofs; ++roof) {
     Rafter record;
@@ -135,7 +135,7 @@ void CheckThatBothAgree(const Procedure& procedure) {
   }
 }
 
-// Collects the times, and at the end prints each procedure's beside that of its loop.
+// Collects the times and finally prints those of each procedure next to those of its loop.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {

@@ -1,4 +1,4 @@
-// The yardstick of the core's benchmark: the same formulas, written straight down over a struct of floats.
+// What the core's benchmark compares with: the same formulas, written out over a struct of floats.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ struct PlainRafter {
   double base = 12;
   double hipRun = 16.970562;
   double hipFactor = 16.970562 / 12;
-  // What goes in.
+  // Inputs.
   float slope, span, overhang, thickness, depth, fascia, ridge, ridgeDepth, hipThickness, hipDepth, spacing,
       kneewall, degrees, endSlope, back, face, projection, bayAngle, hipRunFactor, ledgerRunFactor;
   float heel, seat;
   bool heelLocked, seatLocked, overhangsEqual, purlins;
-  // What comes out.
+  // Results.
   float excess, endDrop, shift, adjFascia, endSpan, endOverhang, hipSlope, hipOverhang, hipDegrees,
       endDegrees, angle1, angle2, plumb, hipPlumb, endPlumb, hipAllowance, valAllowance, allowance,
       commonHeel, commonSeat, drop, hipHeel, hipSeat, endHeel, endSeat, hipFasciaCut, endFasciaCut,

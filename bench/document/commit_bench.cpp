@@ -1,6 +1,6 @@
-// What a commit costs: from the typed text to the finished recording, beside painting that recording; and how
-// many commits of a script the driver takes in a second. All are timed in turn in one run; medians are
-// compared.
+// What a commit costs, from the typed text to the finished recording, compared with painting that recording;
+// and how many commits of a script the driver handles in a second. They are timed alternately in one run, and
+// the medians are compared.
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 #include "document/null_surroundings.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 namespace {
@@ -42,9 +42,9 @@ struct Bench {
   QImage image{kImageWidth, kImageHeight, QImage::Format_ARGB32_Premultiplied};
 
   Bench() {
-    document.Window = {0, 0, static_cast<int>(kImageWidth * kTwipsPerPixel),
+    document.window.Place = {0, 0, static_cast<int>(kImageWidth * kTwipsPerPixel),
                        static_cast<int>(kImageHeight * kTwipsPerPixel)};
-    document.Form_Load();
+    Start(document);
     actions.Enter("LWSlope(0)", "6 | 12");
   }
 
@@ -62,7 +62,7 @@ struct Bench {
     QPainter painter(&image);
     PainterCanvas canvas(painter, {kImageWidth * kTwipsPerPixel, kImageHeight * kTwipsPerPixel, false},
                          document.meter, 1 / kTwipsPerPixel);
-    document.board.Recorder.Play(canvas);
+    document.Board().Recorder.Play(canvas);
     painter.end();
     return Seconds(std::chrono::steady_clock::now() - start);
   }
@@ -86,7 +86,7 @@ void CommitsOfEachRoof() {
   for (const RoofTypeRow& row : RoofTypes()) {
     Bench bench;
     bench.actions.Pick("cboType", row.Item);
-    const bool bay = row.Code == roof::kBay;
+    const bool bay = row.Code == Roof::kBay;
     if (bay) {
       for (const auto& [field, text] :
            {std::pair("FtBack", "300"), {"FtFace", "150"}, {"FtBayAngle", "45"}}) {
@@ -105,7 +105,7 @@ void CommitsOfAScript() {
   MemoryStore store;
   ScriptDialogs dialogs(output);
   Document document({dialogs, store, {}});
-  document.Form_Load();
+  Start(document);
   Script script(document, dialogs, output, [](const Document&, const std::string&) { return std::nullopt; });
   constexpr int kLines = 20000;
   std::string text;

@@ -1,5 +1,5 @@
 // What the layout of a hip roof costs, from the entered spacing to the finished recording, and how that grows
-// with the number of its jacks. Sizes are timed in turn in one run; medians are compared.
+// with the number of jacks. The sizes are timed alternately in one run, and the medians are compared.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -26,12 +26,12 @@ struct Layout {
   std::vector<double> seconds;
 
   explicit Layout(int jacks) {
-    document.Form_Load();
+    Start(document);
     actions.Pick("cboType", "Hip");
     actions.Enter("LWSlope(0)", "6 | 12");
     actions.Click("mnuHipLayoutCenter");
-    // The last place of each face is that of the corner, where no wood is left.
-    const double run = (jacks / 2 + 1) * kSpacing - document.Rafter1.Overhang;
+    // The last place on each face is at the corner, where no wood is left.
+    const double run = (jacks / 2 + 1) * kSpacing - document.design.Rafter1.Overhang;
     actions.Type("FtSpan(0)", std::to_string(run));
     actions.Page("VSTab(0)", kLayoutPage);
   }
@@ -49,7 +49,7 @@ struct Layout {
   }
 
   int Jacks() const {
-    const HipLayout layout = LayOutHip(document.Rafter1, {});
+    const HipLayout layout = LayOutHip(document.design.Rafter1, {});
     return static_cast<int>(layout.Rafters.size()) - 2;
   }
 };
@@ -59,7 +59,7 @@ struct Layout {
 
 int main() {
   using pitchcraft::Layout;
-  constexpr int kHundredFeet = 100;  // 50 feet of run at 12" have 50 jacks a face
+  constexpr int kHundredFeet = 100;  // a run of 50 feet at 12" has 50 jacks on each face
   Layout ten(10);
   Layout hundredFeet(kHundredFeet);
   Layout thousand(1000);

@@ -1,5 +1,5 @@
-// Which actions are slow: a random walk over all roof types, each action timed; the slowest beside the
-// median.
+// Which actions are slow? Times each action of a random walk over all roof types and compares the slowest
+// with the median.
 #include <time.h>
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Time that the processor gave to this thread: what other programs take does not count.
+/// Processor time of this thread, so that other programs do not count.
 double ProcessorSeconds() {
   timespec time{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
@@ -28,7 +28,7 @@ int main() {
   constexpr std::size_t kShown = 8;
   NullSurroundings around;
   Document document(around.Get());
-  document.Form_Load();
+  Start(document);
   RandomWalk walk(document, 1);
   std::vector<std::pair<double, std::string>> steps;
   steps.reserve(kSteps);

@@ -1,5 +1,5 @@
-// Writing a DXF file with all that the largest drawing holds: DxfWriter against ezdxf, the same entities, in
-// one run. Either tells its entities one by one and saves them in a file. Python's start is not counted.
+// Writing a DXF file with everything in the largest drawing: DxfWriter against ezdxf, the same entities, in
+// one run. Both add their entities one by one and save them to a file. Starting Python is not counted.
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -34,12 +34,12 @@ double Milliseconds(Finish finish) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// What the script prints: milliseconds a round, a line each.
+/// The script's output: milliseconds per round, one line for each.
 std::vector<double> OtherRounds(const std::string& path) {
   const std::string arguments = " '" PITCHCRAFT_BENCH_DIR "/write_with_ezdxf.py' '" + path + "' " +
                                 std::to_string(kLines) + " " + std::to_string(kTexts) + " " +
                                 std::to_string(kDimensions) + " " + std::to_string(kRounds);
-  // The library belongs to the system's Python, which need not be the first on the way.
+  // The library belongs to the system's Python, which may not be the first on the path.
   const std::string command =
       "for p in python3 /usr/bin/python3; do \"$p\" -c 'import ezdxf' 2>/dev/null && "
       "exec \"$p\"" +
@@ -59,8 +59,8 @@ double Median(std::vector<double> values) {
 }
 
 int Compare(const std::string& folder) {
-  std::vector<double> saved;  // until the disk has it: the file is whole even if the machine stops
-  std::vector<double> told;   // until the bytes are there
+  std::vector<double> saved;  // until it is on the disk, so that the file is whole even if the machine stops
+  std::vector<double> told;   // until the bytes exist
   std::size_t size = 0;
   for (int i = 0; i < kRounds; ++i) {
     saved.push_back(Milliseconds([&](DxfWriter& writer) {
@@ -72,7 +72,7 @@ int Compare(const std::string& folder) {
   const std::vector<double> theirs = OtherRounds(folder + "/theirs.dxf");
   std::printf("%d lines, %d texts, %d dimensions; medians of %d files\n", kLines, kTexts, kDimensions,
               kRounds);
-  std::printf("CDxfWriter %8.2f ms, %zu bytes; %.2f ms of it without the disk\n", Median(saved), size,
+  std::printf("DxfWriter  %8.2f ms, %zu bytes; %.2f ms of it without the disk\n", Median(saved), size,
               Median(told));
   if (theirs.empty()) {
     std::puts("ezdxf is missing: tools/packages.sh readers");

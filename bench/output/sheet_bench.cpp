@@ -1,5 +1,5 @@
-// A printed sheet as PDF, beside the toolkit painting the very same lines and texts by itself: what the way
-// from the document through the sheet costs. Processor time, the best of several rounds in turn.
+// A print as PDF, compared with the toolkit alone painting the same lines and texts: shows what the steps
+// from the document to the print cost. Processor time, the best of several alternating rounds.
 #include <time.h>
 
 #include <QBuffer>
@@ -39,7 +39,7 @@ class KeepingPrinter final : public PrintService {
   PrintedPage sheet;
 };
 
-/// What the toolkit is told, with nothing left to work out.
+/// What is left to paint when everything is worked out.
 struct BareLine {
   QPen Pen;
   QLineF Line;
@@ -53,7 +53,7 @@ struct BareText {
   QString Text;
 };
 
-/// A canvas that only notes what a painter would be told.
+/// A canvas that only notes what it would paint.
 class NotingCanvas final : public Canvas {
  public:
   using Canvas::Canvas;
@@ -119,11 +119,11 @@ int main() {
   NullSurroundings around;
   KeepingPrinter printer;
   Document document({around.dialogs, around.store, {}, &printer});
-  document.Form_Load();
+  Start(document);
   Actions actions(document);
   actions.Pick("cboType", "Hip");
   actions.Page("VSTab(0)", 2);
-  document.mnuFilePrint_Click();
+  PrintPageShown(document);
 
   const ArialMeter meter;
   NotingCanvas noted({kLetterPaper.Width, kLetterPaper.Height, true}, meter);
@@ -134,14 +134,14 @@ int main() {
   qsizetype bareSize = 0;
   for (int round = 0; round < kRounds; ++round) {
     double start = ProcessorSeconds();
-    document.mnuFilePrint_Click();
+    PrintPageShown(document);
     size = PdfOf(printer.sheet, meter, "Bench").size();
     ours = std::min(ours, ProcessorSeconds() - start);
     start = ProcessorSeconds();
     bareSize = BarePdf(noted).size();
     bare = std::min(bare, ProcessorSeconds() - start);
   }
-  std::printf("hip rafter's sheet: %zu lines, %zu texts\n", noted.lines.size(), noted.texts.size());
+  std::printf("hip rafter's print: %zu lines, %zu texts\n", noted.lines.size(), noted.texts.size());
   std::printf("from the command to the PDF %7.2f ms, %lld bytes\n", ours * 1e3, static_cast<long long>(size));
   std::printf("the toolkit alone           %7.2f ms, %lld bytes\n", bare * 1e3,
               static_cast<long long>(bareSize));

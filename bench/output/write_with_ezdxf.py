@@ -1,4 +1,4 @@
-"""write_with_ezdxf.py FILE LINES TEXTS DIMENSIONS ROUNDS: writes the entities of dxf_bench.cpp, prints milliseconds a round."""
+"""write_with_ezdxf.py FILE LINES TEXTS DIMENSIONS ROUNDS: writes the entities of dxf_bench.cpp and prints the milliseconds of each round."""
 
 import sys
 import time

@@ -1,5 +1,5 @@
-// What the window keeps in memory while somebody does anything at all in it: a long random walk, the
-// resident memory after warming up and at the end. bench_window_memory [ACTIONS]
+// How much memory the window keeps, whatever is done in it: resident memory over a long random walk, after
+// warming up and at the end. bench_window_memory [ACTIONS]
 #include <unistd.h>
 
 #include <QApplication>
@@ -29,7 +29,7 @@ double ResidentMegabytes() {
   return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-/// Keeps nothing: what is told must not count as the window's.
+/// Keeps nothing, so that messages do not count as the window's memory.
 class DeafDialogs final : public pitchcraft::Dialogs {
  public:
   void MsgBox(const std::string&, const std::string&) override {}
@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   UseProgramStyle();
   const QApplication application(argc, argv);
-  // Lists and exports are written where it stands.
+  // Lists and exports are written to the current folder.
   const QTemporaryDir scratch;
   if (!QDir::setCurrent(scratch.path())) return 1;
   SetUpApplication();

@@ -1,5 +1,5 @@
-// How long an action blocks the window: every script of the examples, line by line, each with all that it
-// makes the window lay out and paint. Nothing may take longer than a person notices.
+// How long an action blocks the window: every script of the examples, line by line, with all the layout and
+// painting that follows. Nothing may take longer than a person would notice.
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 #include "document/null_surroundings.h"
 #include "shell/main_window.h"
 #include "shell/program.h"
@@ -30,7 +30,7 @@ struct Step {
   std::string what;
 };
 
-/// What the window does of itself when an action has come to its end.
+/// What the window itself does at the end of an action.
 void Show(MainWindow& window) {
   window.ShowState();
   QApplication::processEvents();
@@ -58,7 +58,7 @@ void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
     steps.push_back(
         {taken.count(), example.filename().string() + ":" + std::to_string(number) + ": " + line});
   }
-  // A line that is refused is quick.
+  // A refused line would be quick for the wrong reason.
   if (output.str().find("\"error\"") != std::string::npos) {
     std::fprintf(stderr, "bench_window: %s\n", output.str().c_str());
     std::exit(1);
@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   UseProgramStyle();
   const QApplication application(argc, argv);
-  // Lists and exports are written where it stands.
+  // Lists and exports are written to the current folder.
   const QTemporaryDir scratch;
   if (!QDir::setCurrent(scratch.path())) return 1;
   SetUpApplication();
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
       if (entry.path().extension() == ".txt") Play(entry.path(), steps);
     }
   }
-  if (steps.size() < 100) return std::fputs("bench_window: the examples are too few\n", stderr), 1;
+  if (steps.size() < 100) return std::fputs("bench_window: there are too few examples\n", stderr), 1;
   std::sort(steps.begin(), steps.end(),
             [](const Step& a, const Step& b) { return a.milliseconds < b.milliseconds; });
   const Step& slowest = steps.back();

@@ -1,5 +1,5 @@
-// What the toolkit alone needs for a window of this size, with as many widgets of each kind, 90 menu items
-// and a picture, and nothing behind them.
+// What the toolkit alone needs for a window of this size: as many widgets of each kind, 90 menu items and a
+// picture, with nothing behind them.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,7 +29,7 @@ class BarePicture : public QWidget {
   }
 };
 
-/// As many of a kind as the program's window makes, and of these as many as its first page shows.
+/// How many widgets of a kind the program's window creates, and how many its first page shows.
 struct Kind {
   QWidget* (*make)(QWidget* parent);
   int made;

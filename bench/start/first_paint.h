@@ -1,5 +1,4 @@
-// Ends the program when its window has been painted for the first time, with the number of its widgets on
-// standard output.
+// Ends the program as soon as its window has been painted, and prints the number of its widgets.
 #pragma once
 
 #include <QApplication>
@@ -16,7 +15,7 @@ class ExitAtFirstPaint : public QObject {
   explicit ExitAtFirstPaint(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    // The children are painted after the window, all before the next turn of the loop.
+    // The children are painted after the window, but before the event loop's next turn.
     if (event->type() == QEvent::Paint) QTimer::singleShot(0, [] { Exit(); });
     return QObject::eventFilter(watched, event);
   }

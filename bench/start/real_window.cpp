@@ -1,5 +1,5 @@
-// The program's own start, up to its first picture: all that a person's start does except for waiting until
-// the splash has been looked at.
+// The program's own start up to its first picture: everything that happens at a real start, except for the
+// time that the splash stays up.
 #include <QApplication>
 
 #include "first_paint.h"

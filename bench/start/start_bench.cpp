@@ -1,5 +1,5 @@
-// Starts both windows in turn, each from nothing to its first picture, and prints how their times compare: by
-// the clock, and by the work of the processor, which a busy machine does not blur.
+// Starts both windows alternately and compares their times to the first picture: by the clock, and in
+// processor time, which a busy machine does not distort.
 #include <sys/resource.h>
 
 #include <QCoreApplication>
@@ -15,13 +15,13 @@ namespace {
 
 constexpr int kRuns = 21;
 
-/// Milliseconds.
+/// In milliseconds.
 struct Cost {
   double clock = 0;
   double processor = 0;
 };
 
-/// Of one program.
+/// The runs of one program.
 struct Starts {
   std::vector<Cost> costs;
   int widgets = 0;
@@ -36,14 +36,14 @@ double ProcessorOfChildren() {
   return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
-/// Both start as on their first day, whatever the person at this machine has stored.
+/// Both start as on a first day, without the settings of this machine's user.
 QProcessEnvironment FirstDay(const QString& home) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) environment.insert(name, home);
   return environment;
 }
 
-/// From the start of the program to its first picture, where it ends. False when no picture came.
+/// From the start of the program to its first picture, at which it ends. False if no picture appeared.
 bool Run(const QString& program, const QString& home, Starts& starts) {
   const double before = ProcessorOfChildren();
   QElapsedTimer timer;
@@ -85,11 +85,11 @@ int main(int argc, char** argv) {
   for (int run = 0; run <= kRuns; ++run) {
     if (!Run(folder + "/bench_start_bare", home.path(), bare) ||
         !Run(folder + "/bench_start_real", home.path(), real)) {
-      std::fputs("bench_start: a window did not come up\n", stderr);
+      std::fputs("bench_start: a window did not appear\n", stderr);
       return 1;
     }
     if (run > 0) continue;
-    // The first start reads the disk.
+    // The first start includes reading from the disk.
     real.costs.clear();
     bare.costs.clear();
   }

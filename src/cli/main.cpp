@@ -7,10 +7,14 @@
 #include <memory>
 #include <string>
 
-#include "cli/dump.h"
-#include "cli/file_store.h"
-#include "cli/script.h"
-#include "cli/script_printer.h"
+#include "session/dump.h"
+#include "session/file_store.h"
+#include "session/script.h"
+#include "session/script_printer.h"
+#include "document/files.h"
+#include "document/output_files.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 #include "drawing/arial_meter.h"
 #include "files/file_names.h"
 #include "platform/pdf_pages.h"
@@ -31,9 +35,9 @@ std::optional<std::string> WriteShownPicture(Document& document, const std::stri
   const std::string extension = ExtensionOf(file);
   try {
     if (extension == ".dxf") {
-      document.ExportDxf(file);
+      ExportDxf(document, file);
     } else if (extension == ".wmf") {
-      document.ExportMetafile(file);
+      ExportMetafile(document, file);
     } else {
       return WritePicture(ShownPicture(document), file);
     }
@@ -110,7 +114,7 @@ std::optional<std::string> WriteOut(Document& document, DriverSurroundings& arou
                                     const ProjectRequest& request) {
   if (!request.onPaper) return WriteShownPicture(document, request.out);
   around.printer.file = request.out;
-  document.mnuFilePrint_Click();
+  PrintPageShown(document);
   if (around.printer.sheetsPrinted > 0) return std::nullopt;
   return "no sheet was printed to " + request.out;
 }
@@ -120,8 +124,8 @@ int ShowProject(const ProjectRequest& request) {
   LookedAtStore store(stores.Get());
   DriverSurroundings around(store, request.data);
   Document document(around.Get());
-  document.Form_Load();
-  if (!document.OpenProject(request.project)) {
+  Start(document);
+  if (!OpenProject(document, request.project)) {
     std::cout.flush();
     return Fail("cannot open " + request.project, kWorkFailed);
   }
@@ -152,10 +156,10 @@ int RunScript(const std::string& data, const std::string& scriptFile) {
   Stores stores(data);
   DriverSurroundings around(stores.Get(), data);
   Document document(around.Get());
-  document.Form_Load();
+  Start(document);
   Script script(document, around.dialogs, std::cout, &WriteShownPicture);
   const int status = script.Run(fromFile ? file : std::cin);
-  document.Form_Unload();
+  Close(document);
   std::cout.flush();
   if (!std::cout) return Fail("the output could not be written", kWorkFailed);
   if (!stores.Save()) return Fail("the settings could not be written", std::max(status, kWorkFailed));

@@ -7,7 +7,7 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 }  // namespace
 
@@ -32,7 +32,6 @@ void Rafter::Calculate() {
   let(Pitch) = PitchText(Slope);
   let(HipEndPitch) = Pitch;
   let(HipPitch) = HipPitchText();
-  RaiseCalculated();
 }
 
 // A roof with equal slopes is a hip whose end is like its sides.

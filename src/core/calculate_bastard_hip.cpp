@@ -8,7 +8,7 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 }  // namespace
 
@@ -38,7 +38,6 @@ void Rafter::CalculateBastardHip() {
   CalculateBastardHipLengths();
   CalculateBastardJackDifferences(SlopeBase * HipEndSpan / Span, SlopeBase * Span / HipEndSpan);
   WriteBastardHipTexts();
-  RaiseCalculated();
 }
 
 void Rafter::CalculateAdjustedBastardHip() {
@@ -63,7 +62,6 @@ void Rafter::CalculateAdjustedBastardHip() {
   CalculateBastardHipLengths();
   CalculateBastardJackDifferences(SlopeBase * Slope / HipEndSlope, SlopeBase * (Span / endRun));
   WriteBastardHipTexts();
-  RaiseCalculated();
 }
 
 // The roof of an irregular plan has no calculation yet; its place in the interface is kept.

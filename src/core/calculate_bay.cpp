@@ -6,12 +6,12 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 }  // namespace
 
 void Rafter::CalculateBay() {
-  if (Projection * Face * Back * BayAngle == 0) return;
+  if (!HasBay()) return;
   AdjFasciaHeight = FasciaHeight;
   CalculateBaySlopes();
   CalculateBayAllowancesAndDrops();
@@ -24,7 +24,6 @@ void Rafter::CalculateBay() {
   CalculateBayRisesAndLengths();
   CalculateBayJackDifferences();
   WriteBayTexts();
-  RaiseCalculated();
 }
 
 void Rafter::CalculateBaySlopes() {

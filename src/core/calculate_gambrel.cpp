@@ -7,7 +7,7 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 // Unlocked, a gambrel rafter keeps half of its plumb depth above the seat: its steep foot has little wood to
 // give.
@@ -59,7 +59,6 @@ void Rafter::CalculateGambrel() {
   CalculateGambrelRunsAndLengths();
   if (onTop && Purlins) TopCutAngle = std::abs(JointAngle - 90) + AngleOf(Slope, SlopeBase);
   let(Pitch) = PitchText(Slope);
-  RaiseCalculated();
 }
 
 void Rafter::CalculateGambrelBottomJoint() {

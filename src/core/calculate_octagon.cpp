@@ -7,7 +7,7 @@
 namespace pitchcraft {
 namespace {
 
-using Type = RafterType;
+using Type = Member;
 
 // Run to the middle of a side for one unit of run to a corner: the cosine of half a side's angle.
 constexpr double kSideRunPerHipRun = 0.923879532511;
@@ -36,7 +36,6 @@ void Rafter::CalculateOctagon() {
   CalculateOctagonJackDifferences();
   let(Pitch) = PitchText(Slope);
   let(HipPitch) = HipPitchText();
-  RaiseCalculated();
 }
 
 void Rafter::CalculateOctagonRuns() {

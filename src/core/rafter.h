@@ -1,12 +1,11 @@
 // The record of one rafter family: what goes in, what comes out, and the procedures between.
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "core/rafter_type.h"
 #include "core/record_members.h"
 #include "core/single.h"
+#include "core/trade.h"
 
 namespace pitchcraft {
 
@@ -20,11 +19,6 @@ namespace pitchcraft {
 class Rafter {
  public:
   Rafter();
-  Rafter(const Rafter&) = delete;
-  Rafter& operator=(const Rafter&) = delete;
-
-  /// Raised once at the end of each calculation that runs to its end, before the procedure returns.
-  std::function<void()> Calculated;
 
   /// Common, hip, valley and shed; hands over to the others for bastard hip and gambrel.
   void Calculate();
@@ -41,14 +35,16 @@ class Rafter {
   void CalculateGambrel();
 
   /// All members of a bay or of a Dutch hip end at once. A bay that lacks a dimension is left alone: no
-  /// member changes and no event is raised.
+  /// member changes.
   void CalculateBay();
+  /// All four dimensions of the bay are known.
+  bool HasBay() const { return Projection * Face * Back * BayAngle != 0; }
 
   /// Hip and longest jack of a regular octagon. Of Span and HipValSpan the one that is 0 follows from the
   /// other.
   void CalculateOctagon();
 
-  /// A roof with an irregular plan: nothing is calculated for it, and no event is raised.
+  /// A roof with an irregular plan: nothing is calculated for it.
   void CalculateIrregular();
 
   /// 0 is imperial, anything else metric. Sets SlopeBase, HipRun and HipFactor; calculates nothing.
@@ -102,7 +98,7 @@ class Rafter {
 
   // Properties.
   std::string Name;                          ///< free name
-  pitchcraft::RafterType RafterType{};       ///< the member this record stands for
+  Member RafterType{};                       ///< the member this record stands for
   Single Slope;                              ///< rise for SlopeBase of run
   Single Span;                               ///< run of the common, outside of wall to ridge centre
   Single Overhang;                           ///< level overhang
@@ -293,10 +289,6 @@ class Rafter {
   static std::string CutText(const std::string& text, double slope);
   std::string PitchText(double slope) const;
   std::string HipPitchText() const;
-  void RaiseCalculated() const {
-    if (Calculated) Calculated();
-  }
-
   int units_ = 0;
 };
 

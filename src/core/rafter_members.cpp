@@ -17,7 +17,7 @@ MemberValue ValueOf(const Internal<T>& member) {
 }
 MemberValue ValueOf(const Flag& member) { return static_cast<bool>(member); }
 MemberValue ValueOf(const SingleFlag& member) { return static_cast<bool>(member); }
-MemberValue ValueOf(const RafterType& member) { return static_cast<int>(member); }
+MemberValue ValueOf(const Member& member) { return static_cast<int>(member); }
 
 template <auto Member>
 MemberValue Read(const Rafter& rafter) {

@@ -27,14 +27,15 @@ template <typename T>
 class Derived {
  public:
   Derived() = default;
-  Derived(const Derived&) = delete;
+  Derived(const Derived&) = default;
   operator typename ExpressionOf<T>::Type() const { return value_; }  // NOLINT(google-explicit-constructor)
   const T& Stored() const { return value_; }
   Derived& operator=(const T&) { return *this; }
-  Derived& operator=(const Derived&) { return *this; }
 
  private:
   friend class Rafter;
+  // With the whole record alone: a copy of it has its results.
+  Derived& operator=(const Derived&) = default;
   T value_{};
 };
 
@@ -43,13 +44,13 @@ template <typename T>
 class Internal {
  public:
   Internal() = default;
-  Internal(const Internal&) = delete;
-  Internal& operator=(const Internal&) = delete;
+  Internal(const Internal&) = default;
   operator typename ExpressionOf<T>::Type() const { return value_; }  // NOLINT(google-explicit-constructor)
   const T& Stored() const { return value_; }
 
  private:
   friend class Rafter;
+  Internal& operator=(const Internal&) = default;
   T value_{};
 };
 

@@ -3,55 +3,94 @@
 #include <charconv>
 
 #include "core/number_text.h"
+#include "design/questions.h"
+#include "document/calculate.h"
+#include "document/commands.h"
+#include "document/fields.h"
+#include "document/menu_actions.h"
+#include "document/pages.h"
+#include "document/slopes.h"
 
 namespace pitchcraft {
-namespace {
 
-using Handler = void (Document::*)(int);
-
-/// What the events of a control call; the index of a control array is handed on.
-struct HandlerRow {
-  std::string_view control;  // the name before the index
-  Handler leave;
-  Handler enter;
-  Handler edit;
-  Handler click;
+/// What happens on one event of a control: the step, and the title of the message where it fails.
+struct ControlEvent {
+  const char* title = nullptr;
+  Step step = nullptr;
 };
 
-using D = Document;
-constexpr HandlerRow kHandlers[] = {
-    // control          leaves                      Enter                    while typing     picks or clicks
-    {"cboType", nullptr, nullptr, nullptr, &D::cboType_Click},
-    {"LWSlope", &D::LWSlope_Commit, &D::LWSlope_Enter, nullptr, &D::LWSlope_Click},
-    {"cboDegrees", &D::cboDegrees_LostFocus, &D::cboDegrees_Click, nullptr, &D::cboDegrees_Click},
-    {"FtSpan", &D::FtSpan_Commit, &D::FtSpan_Enter, nullptr, nullptr},
-    {"FtOverhang", &D::FtOverhang_Commit, &D::FtOverhang_Commit, nullptr, nullptr},
-    {"FtHeel", &D::FtHeel_Commit, &D::FtHeel_Commit, &D::FtHeel_Edit, nullptr},
-    {"FtSeat", &D::FtSeat_Commit, &D::FtSeat_Commit, &D::FtSeat_Edit, nullptr},
-    {"FtKneewall", &D::FtKneewall_Commit, &D::FtKneewall_Commit, nullptr, nullptr},
-    {"FtRidge", &D::FtRidge_Commit, &D::FtRidge_Commit, nullptr, nullptr},
-    {"FtLastCommon", &D::FtLastCommon_Commit, &D::FtLastCommon_Enter, nullptr, nullptr},
-    {"LWFascia", &D::LWFascia_Commit, &D::LWFascia_Commit, nullptr, &D::LWFascia_Commit},
-    {"LWRafter", &D::LWRafter_Commit, &D::LWRafter_Commit, nullptr, &D::LWRafter_Commit},
-    {"LWRidge", &D::LWRidge_Commit, &D::LWRidge_Commit, nullptr, &D::LWRidge_Commit},
-    {"LWHipVal", &D::LWHipVal_Commit, &D::LWHipVal_Commit, nullptr, &D::LWHipVal_Commit},
-    {"cboSpacing", &D::cboSpacing_Click, &D::cboSpacing_Click, nullptr, &D::cboSpacing_Click},
-    {"FTUpperFascia", &D::FTUpperFascia_Click, &D::FTUpperFascia_Click, nullptr, &D::FTUpperFascia_Click},
-    {"cboLedger", nullptr, nullptr, nullptr, &D::cboLedger_Click},
-    {"FtProjection", &D::FtBay_Commit, &D::FtBay_Commit, nullptr, nullptr},
-    {"FtFace", &D::FtBay_Commit, &D::FtBay_Commit, nullptr, nullptr},
-    {"FtBack", &D::FtBay_Commit, &D::FtBay_Commit, nullptr, nullptr},
-    {"FtBayAngle", &D::FtBay_Commit, &D::FtBay_Commit, nullptr, nullptr},
-    {"Command1", nullptr, nullptr, nullptr, &D::Command1_Click},
-    {"chkHeel", nullptr, nullptr, nullptr, &D::chkHeel_Click},
-    {"chkSeat", nullptr, nullptr, nullptr, &D::chkSeat_Click},
-    {"chkKneewall", nullptr, nullptr, nullptr, &D::chkKneewall_Click},
-    {"chkLastCommon", nullptr, nullptr, nullptr, &D::chkLastCommon_Click},
-    {"chkUpperSlope", nullptr, nullptr, nullptr, &D::chkUpperSlope_Click},
-    {"chkLowerSlope", nullptr, nullptr, nullptr, &D::chkLowerSlope_Click},
-    {"chkUpperSpan", nullptr, nullptr, nullptr, &D::chkUpperSpan_Click},
-    {"chkUpperHeight", nullptr, nullptr, nullptr, &D::chkUpperHeight_Click},
-    {"chkLowerHeight", nullptr, nullptr, nullptr, &D::chkLowerHeight_Click},
+namespace {
+
+/// What the events of a control run; the index of a control array is handed on.
+struct ControlRow {
+  std::string_view control;  // the name before the index
+  ControlEvent leave = {};
+  ControlEvent enter = {};
+  ControlEvent edit = {};
+  ControlEvent click = {};
+};
+
+constexpr ControlEvent kFascia{"LWFascia_Commit", &FasciaEntered};
+constexpr ControlEvent kCommon{"LWRafter_Commit", &CommonEntered};
+constexpr ControlEvent kRidge{"LWRidge_Commit", &RidgeEntered};
+constexpr ControlEvent kHipOrValley{"LWHipVal_Commit", &HipOrValleyEntered};
+constexpr ControlEvent kOverhang{"FtOverhang_Commit", &OverhangEntered};
+constexpr ControlEvent kHeel{"FtHeel_Commit", &HeelEntered};
+constexpr ControlEvent kSeat{"FtSeat_Commit", &SeatEntered};
+constexpr ControlEvent kKneewall{"FtKneewall_Commit", &KneewallEntered};
+constexpr ControlEvent kRidgeLength{"FtRidge_Commit", &RidgeLengthEntered};
+constexpr ControlEvent kSpacing{"cboSpacing_Click", &SpacingEntered};
+constexpr ControlEvent kUpperFascia{"FTUpperFascia_Click", &UpperFasciaChosen};
+constexpr ControlEvent kDegrees{"cboDegrees_Click", &DegreesPicked};
+constexpr ControlEvent kBayField{"CalculateBayDimensions", &BayFieldEntered};
+constexpr ControlEvent kNothing{};
+
+template <int Which>
+void ClickLock(Design& design, Reply& reply, int) {
+  ClickGambrelLock(design, reply, Which);
+}
+
+constexpr ControlEvent Click(const char* title, Step step) { return {title, step}; }
+
+constexpr ControlRow kControls[] = {
+    // control, when it is left, on Enter, while typing, when it is picked or clicked
+    {"cboType", kNothing, kNothing, kNothing, Click("cboType_Click", &RoofPicked)},
+    {"LWSlope",
+     {"LWSlope_Commit", &SlopeLeft},
+     {"LWSlope_KeyPress", &SlopeConfirmed},
+     kNothing,
+     Click("LWSlope_Click", &SlopePicked)},
+    {"cboDegrees", {"cboDegrees_LostFocus", &DegreesLeft}, kDegrees, kNothing, kDegrees},
+    {"FtSpan", {"FtSpan_Commit", &SpanEntered}, {"FtSpan_Commit", &SpanConfirmed}},
+    {"FtOverhang", kOverhang, kOverhang},
+    {"FtHeel", kHeel, kHeel, {"FtHeel_Edit", &HeelEdited}},
+    {"FtSeat", kSeat, kSeat, {"FtSeat_Edit", &SeatEdited}},
+    {"FtKneewall", kKneewall, kKneewall},
+    {"FtRidge", kRidgeLength, kRidgeLength},
+    {"FtLastCommon",
+     {"FtLastCommon_Commit", &LastCommonEntered},
+     {"FtLastCommon_Commit", &LastCommonConfirmed}},
+    {"LWFascia", kFascia, kFascia, kNothing, kFascia},
+    {"LWRafter", kCommon, kCommon, kNothing, kCommon},
+    {"LWRidge", kRidge, kRidge, kNothing, kRidge},
+    {"LWHipVal", kHipOrValley, kHipOrValley, kNothing, kHipOrValley},
+    {"cboSpacing", kSpacing, kSpacing, kNothing, kSpacing},
+    {"FTUpperFascia", kUpperFascia, kUpperFascia, kNothing, kUpperFascia},
+    {"cboLedger", kNothing, kNothing, kNothing, Click("mnuDutchLedger_Click", &LedgerPicked)},
+    {"FtProjection", kBayField, kBayField},
+    {"FtFace", kBayField, kBayField},
+    {"FtBack", kBayField, kBayField},
+    {"FtBayAngle", kBayField, kBayField},
+    {"Command1", kNothing, kNothing, kNothing, Click("Command1_Click", &BayReset)},
+    {"chkHeel", kNothing, kNothing, kNothing, Click("chkHeel_Click", &HeelLockClicked)},
+    {"chkSeat", kNothing, kNothing, kNothing, Click("chkSeat_Click", &SeatLockClicked)},
+    {"chkKneewall", kNothing, kNothing, kNothing, Click("chkKneewall_Click", &KneewallClicked)},
+    {"chkLastCommon", kNothing, kNothing, kNothing, Click("chkLastCommon_Click", &LastCommonClicked)},
+    {"chkUpperSlope", kNothing, kNothing, kNothing, Click("chkUpperSlope_Click", &ClickLock<0>)},
+    {"chkLowerSlope", kNothing, kNothing, kNothing, Click("chkLowerSlope_Click", &ClickLock<1>)},
+    {"chkUpperSpan", kNothing, kNothing, kNothing, Click("chkUpperSpan_Click", &ClickLock<2>)},
+    {"chkUpperHeight", kNothing, kNothing, kNothing, Click("chkUpperHeight_Click", &ClickLock<3>)},
+    {"chkLowerHeight", kNothing, kNothing, kNothing, Click("chkLowerHeight_Click", &ClickLock<4>)},
 };
 
 /// A control's name cut at its index: "Span(2)" is Span and 2.
@@ -68,15 +107,11 @@ IndexedName Cut(std::string_view name) {
   return cut;
 }
 
-const HandlerRow* HandlersOf(std::string_view base) {
-  for (const HandlerRow& row : kHandlers) {
+const ControlRow* EventsOf(std::string_view base) {
+  for (const ControlRow& row : kControls) {
     if (row.control == base) return &row;
   }
   return nullptr;
-}
-
-void Run(Document& document, Handler handler, int index) {
-  if (handler != nullptr) (document.*handler)(index);
 }
 
 Refusal Refuse(std::string_view name, const char* why) { return std::string(name) + " " + why; }
@@ -116,30 +151,41 @@ void Redisplay(const AnyControl& control) {
 
 }  // namespace
 
-Refusal Actions::Reach(std::string_view name, const AnyControl*& control) const {
-  control = document_.sheet.Find(name);
-  if (control == nullptr) return Refuse(name, "is no control of the sheet");
+void Actions::Run(const ControlEvent& event, int index) {
+  if (event.step != nullptr) document_.Act(event.title, event.step, index);
+}
+
+Refusal Actions::Reach(std::string_view name, std::optional<AnyControl>& control) const {
+  control = document_.design.sheet.Find(name);
+  if (!control) return "there is no control named " + std::string(name);
   const Control& common = ControlOf(*control);
   if (!common.Visible) return Refuse(name, "is hidden");
   if (!common.Enabled) return Refuse(name, "is disabled");
-  if (common.Host == Host::kBayStrip && !document_.sheet.DimensionStrip.Visible)
+  if (common.Host == Host::kBayStrip && !document_.design.sheet.DimensionStrip.Visible)
     return Refuse(name, "is hidden");
   return std::nullopt;
 }
 
 Refusal Actions::PutIn(std::string_view name, std::string_view text, Way way) {
-  const AnyControl* control = nullptr;
+  std::optional<AnyControl> control;
   if (Refusal refusal = Reach(name, control)) return refusal;
   const IndexedName cut = Cut(name);
-  const HandlerRow* handlers = HandlersOf(cut.base);
-  if (handlers == nullptr || !std::visit(PutText{text}, *control)) return Refuse(name, "takes no text");
-  Run(document_, handlers->edit, cut.index);
-  if (way == Way::kStay) return std::nullopt;
-  // A slope reads a percentage from the text as it was typed, so its own handler brings it into form.
+  const ControlRow* events = EventsOf(cut.base);
+  if (events == nullptr || !std::visit(PutText{text}, *control)) return Refuse(name, "takes no text");
+  const ControlEvent& finish = way == Way::kStay    ? kNothing
+                               : way == Way::kEnter ? events->enter
+                                                    : events->leave;
+  // A slope reads a percentage from the text as it was typed, so its own step brings it into form.
   const bool slope = cut.base == "LWSlope";
-  if (!slope) Redisplay(*control);
-  Run(document_, way == Way::kEnter ? handlers->enter : handlers->leave, cut.index);
-  if (slope) Redisplay(*control);
+  const auto step = [&](Design& design, Reply& reply) {
+    if (events->edit.step != nullptr) events->edit.step(design, reply, cut.index);
+    if (way == Way::kStay) return;
+    if (!slope) Redisplay(*control);
+    if (finish.step != nullptr) finish.step(design, reply, cut.index);
+    if (slope) Redisplay(*control);
+  };
+  document_.Act(finish.title != nullptr ? finish.title : events->edit.title, step);
+  TellWhatWaits(document_, name);
   return std::nullopt;
 }
 
@@ -152,15 +198,15 @@ Refusal Actions::Enter(std::string_view name, std::string_view text) {
 Refusal Actions::Edit(std::string_view name, std::string_view text) { return PutIn(name, text, Way::kStay); }
 
 Refusal Actions::Pick(std::string_view name, std::string_view item) {
-  const AnyControl* control = nullptr;
+  std::optional<AnyControl> control;
   if (Refusal refusal = Reach(name, control)) return refusal;
   int row = -1;
   bool locked = false;
-  if (auto* const* combo = std::get_if<ComboControl*>(control)) {
+  if (auto* const* combo = std::get_if<ComboControl*>(&*control)) {
     row = (*combo)->RowOf(item);
     locked = (*combo)->Locked;
     if (row >= 0 && !locked) (*combo)->SetListIndex(row);
-  } else if (auto* const* pair = std::get_if<PairControl*>(control)) {
+  } else if (auto* const* pair = std::get_if<PairControl*>(&*control)) {
     row = (*pair)->RowOf(item);
     locked = (*pair)->Locked;
     if (row >= 0 && !locked) (*pair)->SetListIndex(row);
@@ -169,82 +215,92 @@ Refusal Actions::Pick(std::string_view name, std::string_view item) {
   }
   if (row < 0) return Refuse(name, "has no such row");
   const IndexedName cut = Cut(name);
-  const HandlerRow* handlers = HandlersOf(cut.base);
-  if (handlers != nullptr && !locked) Run(document_, handlers->click, cut.index);
+  const ControlRow* events = EventsOf(cut.base);
+  if (events != nullptr && !locked) Run(events->click, cut.index);
   return std::nullopt;
 }
 
 Refusal Actions::Check(std::string_view name, bool on) {
-  const AnyControl* control = nullptr;
+  std::optional<AnyControl> control;
   if (Refusal refusal = Reach(name, control)) return refusal;
-  auto* const* box = std::get_if<CheckControl*>(control);
+  auto* const* box = std::get_if<CheckControl*>(&*control);
   if (box == nullptr) return Refuse(name, "is no check box");
   if ((*box)->Ticked() == on) return std::nullopt;
   (*box)->Value = on ? 1 : 0;
   const IndexedName cut = Cut(name);
-  const HandlerRow* handlers = HandlersOf(cut.base);
-  if (handlers != nullptr) Run(document_, handlers->click, cut.index);
+  const ControlRow* events = EventsOf(cut.base);
+  if (events != nullptr) Run(events->click, cut.index);
   return std::nullopt;
 }
 
 Refusal Actions::ReachMenu(const MenuItem& item) const {
   if (!item.Visible) return Refuse(item.Name, "is hidden");
   if (!item.Enabled) return Refuse(item.Name, "is disabled");
-  if (const MenuItem* holder = document_.menus.HolderOf(item)) {
-    const bool popup = document_.menus.IsPopup(*holder);
+  if (const MenuItem* holder = document_.design.menus.HolderOf(item)) {
+    const bool popup = document_.design.menus.IsPopup(*holder);
     if (!popup && !holder->Visible) return Refuse(item.Name, "stands in a menu that is hidden");
   }
   return std::nullopt;
 }
 
 Refusal Actions::Click(std::string_view name) {
-  if (MenuItem* item = document_.menus.Find(name)) {
+  if (MenuItem* item = document_.design.menus.Find(name)) {
     if (Refusal refusal = ReachMenu(*item)) return refusal;
-    if (!document_.ClickMenu(*item)) return Refuse(name, "does nothing by itself");
+    if (!ClickMenu(document_, *item)) return Refuse(name, "does nothing by itself");
     return std::nullopt;
   }
-  const AnyControl* control = nullptr;
+  std::optional<AnyControl> control;
   if (Refusal refusal = Reach(name, control)) return refusal;
   if (!std::holds_alternative<ButtonControl*>(*control)) return Refuse(name, "is no button and no menu item");
   const IndexedName cut = Cut(name);
-  const HandlerRow* handlers = HandlersOf(cut.base);
-  if (handlers != nullptr) Run(document_, handlers->click, cut.index);
+  const ControlRow* events = EventsOf(cut.base);
+  if (events != nullptr) Run(events->click, cut.index);
   return std::nullopt;
 }
 
 Refusal Actions::Press(std::string_view key) {
-  const ToolButton* button = document_.toolBar.Find(key);
+  const ToolButton* button = document_.design.toolBar.Find(key);
   if (button == nullptr) return Refuse(key, "is no button of the tool bar");
   if (!button->Visible) return Refuse(key, "is hidden");
-  if (!document_.menus.ViewToolbar.Checked) return Refuse(key, "stands on a tool bar that is hidden");
-  if (!document_.ToolButtonEnabled(*button)) return Refuse(key, "is disabled");
-  document_.tbToolBar_ButtonClick(key);
+  if (!document_.window.ToolBar) return Refuse(key, "stands on a tool bar that is hidden");
+  if (!IsToolButtonEnabled(document_, *button)) return Refuse(key, "is disabled");
+  PressToolButton(document_, key);
   return std::nullopt;
 }
 
 Refusal Actions::Spin(std::string_view name, bool up) {
-  const AnyControl* control = nullptr;
+  std::optional<AnyControl> control;
   if (Refusal refusal = Reach(name, control)) return refusal;
   if (!std::holds_alternative<SpinControl*>(*control)) return Refuse(name, "is no spin button");
-  document_.Spin_Step(Cut(name).index, up);
+  const Preferences& preferences = document_.preferences;
+  const double step = document_.design.Metric ? preferences.MetricIncrement : preferences.Increment;
+  const int index = Cut(name).index;
+  document_.Act("Spin_Step",
+                [&](Design& design, Reply& reply) { StepSpin(design, reply, index, up ? step : -step); });
   return std::nullopt;
 }
 
 Refusal Actions::Page(std::string_view name, int page) {
   const IndexedName cut = Cut(name);
   if (cut.base != "VSTab" || cut.index < 0 || cut.index > 1) return Refuse(name, "is no index tab");
-  const IndexTab& tab = document_.sheet.Tabs[static_cast<std::size_t>(cut.index)];
+  const IndexTab& tab = document_.design.sheet.Tabs[static_cast<std::size_t>(cut.index)];
   const int last = tab.OnePageOnly ? 0 : tab.PageCount() - 1;
   if (page < 0 || page > last) return Refuse(name, "has no such page");
-  document_.VSTab_Switch(cut.index, tab.Page, page);
+  ShowPage(document_, cut.index, page);
   return std::nullopt;
 }
 
 Refusal Actions::Hover(std::string_view name) {
-  const bool known = document_.menus.Find(name) != nullptr || document_.sheet.Find(name) != nullptr ||
-                     name == "Picture1" || name == "Picture3" || document_.toolBar.Find(name) != nullptr;
+  const bool known = document_.design.menus.Find(name) != nullptr ||
+                     document_.design.sheet.Find(name).has_value() || name == "Picture1" ||
+                     name == "Picture3" || document_.design.toolBar.Find(name) != nullptr;
   if (!known) return Refuse(name, "is nothing to point at");
-  document_.Hint(name);
+  ShowHint(document_, name);
+  return std::nullopt;
+}
+
+Refusal Actions::Calculate() {
+  document_.Act("CalculateRoof", &CalculateNow);
   return std::nullopt;
 }
 

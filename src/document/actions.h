@@ -39,11 +39,14 @@ class Actions {
   Refusal Page(std::string_view name, int page);
   /// The pointer comes over a control, a menu item or a drawing.
   Refusal Hover(std::string_view name);
+  /// Calculates the roof with every entry that waits.
+  Refusal Calculate();
 
  private:
   enum class Way { kLeave, kEnter, kStay };
   Refusal PutIn(std::string_view name, std::string_view text, Way way);
-  Refusal Reach(std::string_view name, const AnyControl*& control) const;
+  Refusal Reach(std::string_view name, std::optional<AnyControl>& control) const;
+  void Run(const struct ControlEvent& event, int index);
   Refusal ReachMenu(const MenuItem& item) const;
 
   Document& document_;

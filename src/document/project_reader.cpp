@@ -1,6 +1,13 @@
 #include "document/project_reader.h"
 
 #include "core/number_text.h"
+#include "document/commands.h"
+#include "document/fields.h"
+#include "document/slopes.h"
+#include "document/units.h"
+#include "roofs/bay.h"
+#include "roofs/roof_types.h"
+#include "roofs/switch_roof.h"
 
 namespace pitchcraft {
 namespace {
@@ -17,6 +24,7 @@ std::string ProjectReader::ValueOf(const ProjectKey& key) const {
 }
 
 const char* ProjectReader::Read() {
+  design_.Loading = true;
   const std::span<const ProjectKey> keys = ProjectKeys();
   std::size_t next = 0;
   for (; keys[next].Step != ProjectStep::kRafterType; ++next) {
@@ -25,45 +33,47 @@ const char* ProjectReader::Read() {
   const std::string roofText = ValueOf(keys[next]);
   if (roofText.empty()) return "Error reading file, can't load rafter";
   if (!PickRoof(roofText)) return "Not a valid roof type.";
+  const bool bay = code_ == Roof::kBay;
   const std::span<const ProjectKey> values = keys.subspan(next + 1);
-  if (document_.RoofType == roof::kBay) {
+  if (bay) {
     for (const ProjectKey& key : values) {
       if (key.Step == ProjectStep::kBay) ReadKey(key, ValueOf(key));
     }
-    document_.CalculateBayDimensions();
+    BayDimensionEntered(design_, reply_);
   }
   for (const ProjectKey& key : values) {
-    const bool done = document_.RoofType == roof::kBay && key.Step == ProjectStep::kBay;
-    if (key.Read.Has(document_.RoofType) && !done) ReadKey(key, ValueOf(key));
+    const bool done = bay && key.Step == ProjectStep::kBay;
+    if (key.Read.Has(code_) && !done) ReadKey(key, ValueOf(key));
   }
   TakeLocks();
   PutBackTwice();
-  document_.CalculateRoof(true);
-  FinishRoof();
+  // A file that calls its hip a plain one has one slope, whatever stands in the other key.
+  if (code_ == Roof::kHip) design_.Rafter1.HipEndSlope = design_.Rafter1.Slope;
+  RoofOf(design_).Start(design_, reply_, true);
+  if (design_.RoofType == Roof::kHip) reply_.GiveFocus(design_.sheet.Span[0]);
   return nullptr;
 }
 
-// Handlers that ran meanwhile calculated with a part of the values, and a calculation lowers a heel or a
+// Steps that ran meanwhile calculated with a part of the values, and a calculation lowers a heel or a
 // fascia that does not fit: what they may have changed is put back before the roof is calculated.
 void ProjectReader::PutBackTwice() {
   for (const ProjectKey& key : ProjectKeys()) {
-    const bool twice = key.Step == ProjectStep::kPutBackTwice && key.Read.Has(document_.RoofType);
-    if (twice) key.PutBack(document_.Project(), ValueOf(key));
+    const bool twice = key.Step == ProjectStep::kPutBackTwice && key.Read.Has(code_);
+    if (twice) key.PutBack(design_, ValueOf(key));
   }
 }
 
 bool ProjectReader::PickRoof(const std::string& text) {
   const double number = LeadingNumber(text);
-  if (!(number >= 0 && number <= roof::kGambrel)) return false;
+  if (!(number >= 0 && number <= static_cast<int>(Roof::kGambrel))) return false;
   int code = static_cast<int>(number);
   if (code != number) return false;
-  if (code == kBayToo) code = roof::kBay;
-  const int row = ListIndexOfRoof(code);
-  if (row < 0) return false;
-  document_.sheet.RoofList.SetListIndex(row);
-  document_.cboType_Click();
-  document_.RoofType = code;
-  if (code == roof::kHip) document_.Focus(document_.sheet.Span[0]);
+  if (code == kBayToo) code = static_cast<int>(Roof::kBay);
+  code_ = static_cast<Roof>(code);
+  const RoofType* type = RoofTypeByCode(code_);
+  if (type == nullptr) return false;
+  design_.sheet.RoofList.SetListIndex(ListIndexOfRoof(code_));
+  SwitchRoof(design_, reply_, *type);
   return true;
 }
 
@@ -71,108 +81,77 @@ void ProjectReader::ReadKey(const ProjectKey& key, const std::string& text) {
   switch (key.Step) {
     case ProjectStep::kPutBack:
     case ProjectStep::kPutBackTwice:
-    case ProjectStep::kBay: return key.PutBack(document_.Project(), text);
-    case ProjectStep::kUnits: return document_.SwitchUnits(LeadingNumber(text) == 1);
+    case ProjectStep::kBay: return key.PutBack(design_, text);
+    case ProjectStep::kUnits: return SwitchUnits(document_, reply_, LeadingNumber(text) == 1);
     case ProjectStep::kSlopeMode:
-      if (LeadingNumber(text) != 1) return document_.mnuSettingsRiseOverRun_Click();
-      document_.mnuSettingsDegrees_Click();
-      return document_.cboDegrees_Click(0);
+      SetSlopeMode(design_, LeadingNumber(text) == 1);
+      if (design_.InDegrees) DegreesPicked(design_, reply_, 0);
+      return;
     case ProjectStep::kRafterType: return;  // picked by its reader, since it can be refused
     case ProjectStep::kSquareCut:
-      if (Holds(text, "True")) document_.mnuSettingsSquareCut_Click();
-      if (Holds(text, "False")) document_.mnuSettingsPlumbCut_Click();
+      if (Holds(text, "True")) ChooseFasciaCut(design_, reply_, static_cast<int>(FasciaCut::kSquare));
+      if (Holds(text, "False")) ChooseFasciaCut(design_, reply_, static_cast<int>(FasciaCut::kPlumb));
       return;
     case ProjectStep::kPlumbCut:
-      if (Holds(text, "True")) document_.mnuSettingsPlumbCut_Click();
+      if (Holds(text, "True")) ChooseFasciaCut(design_, reply_, static_cast<int>(FasciaCut::kPlumb));
       return;
     case ProjectStep::kLevelCut:
-      if (Holds(text, "True")) document_.mnuSettingsLevelCut_Click();
+      if (Holds(text, "True")) ChooseFasciaCut(design_, reply_, static_cast<int>(FasciaCut::kLevel));
       return;
     case ProjectStep::kKneewall: return ReadKneewall(key, text, 0);
     case ProjectStep::kRearKneewall: return ReadKneewall(key, text, 1);
     // How jacks are laid out is a matter of the session: a project begins with the plain choices.
-    case ProjectStep::kHipLayout: return document_.ShowHipLayoutChecks(0);
+    case ProjectStep::kHipLayout: design_.Layout = JackLayout::kCenter; return;
     case ProjectStep::kOverhangsEqual:
-      document_.menus.HipLayoutOverhangsEqual.Checked = document_.menus.PopUp1OverhangsEqual.Checked = false;
-      document_.Rafter1.OverhangsEqual = false;
+      design_.OverhangsEqual = false;
+      design_.Rafter1.OverhangsEqual = false;
       return;
-    case ProjectStep::kJackMeasurement:
-      document_.menus.HipLayoutJackMeasurement.Checked = document_.menus.PopUp1JackMeasurement.Checked =
-          false;
-      return;
-    case ProjectStep::kSpacing: key.PutBack(document_.Project(), text); return document_.cboSpacing_Click();
+    case ProjectStep::kJackMeasurement: design_.JacksWithOverhang = false; return;
+    case ProjectStep::kSpacing: key.PutBack(design_, text); return SpacingEntered(design_, reply_, 0);
     case ProjectStep::kGambrelType:
-      return Holds(text, "Regular") ? document_.mnuGambrelRegular_Click()
-                                    : document_.mnuGambrelCustom_Click();
-    case ProjectStep::kSupport: return ReadGambrelSupport(text);
+      return ChooseGambrel(
+          design_, reply_,
+          static_cast<int>(Holds(text, "Regular") ? GambrelKind::kRegular : GambrelKind::kCustom));
+    case ProjectStep::kSupport: return ReadSupport(text);
   }
 }
 
-// Both kneewalls stand under the one box of the front row, and the rear one, which is read last, decides
+// Both kneewalls are under the one box of the front row, and the rear one, which is read last, decides
 // about it.
 void ProjectReader::ReadKneewall(const ProjectKey& key, const std::string& text, std::size_t row) {
-  key.PutBack(document_.Project(), text);
-  const double value = (row == 0 ? document_.Rafter1 : document_.Rafter2).Kneewall;
-  document_.sheet.Kneewall[row].SetValue(value);
-  document_.sheet.HasKneewall[0].Value = value > 0 ? 1 : 0;
-  const std::string focus = document_.FocusRequest;
-  document_.TakeTick(document_.sheet.HasKneewall[0], document_.sheet.Kneewall[0], document_.sheet.Label[0]);
-  document_.FocusRequest = focus;
+  key.PutBack(design_, text);
+  Sheet& sheet = design_.sheet;
+  const double value = (row == 0 ? design_.Rafter1 : design_.Rafter2).Kneewall;
+  sheet.Kneewall[row].SetValue(value);
+  sheet.HasKneewall[0].Value = value > 0 ? 1 : 0;
+  Reply unheard;  // opening moves no focus
+  TakeTick(unheard, sheet.HasKneewall[0], sheet.Kneewall[0], sheet.Label[0]);
 }
 
-void ProjectReader::ReadGambrelSupport(const std::string& text) {
-  if (Holds(text, "Purlins")) return document_.mnuGambrelPurlins_Click();
-  if (Holds(text, "Wall Supported Raised")) return document_.mnuGambrelWallSupportRaised_Click();
-  if (Holds(text, "Wall Supported")) document_.mnuGambrelWallSupport_Click();
+void ProjectReader::ReadSupport(const std::string& text) {
+  const auto choose = [this](GambrelSupport support) {
+    ChooseSupport(design_, reply_, static_cast<int>(support));
+  };
+  if (Holds(text, "Purlins")) return choose(GambrelSupport::kPurlins);
+  if (Holds(text, "Wall Supported Raised")) return choose(GambrelSupport::kRaisedWall);
+  if (Holds(text, "Wall Supported")) choose(GambrelSupport::kWall);
 }
 
 // A box that is ticked in the file is clicked; where both are, the seat has the last word. The menu then
-// tells of the front row, whose page shows.
+// speaks of the front row, whose page shows.
 void ProjectReader::TakeLocks() {
-  const std::string focus = document_.FocusRequest;
-  for (std::size_t row = 0; row < 2; ++row) {
-    const bool seat = document_.sheet.SeatLock[row].Ticked();
-    if (document_.sheet.HeelLock[row].Ticked()) document_.chkHeel_Click(static_cast<int>(row));
+  Reply locking;  // opening moves no focus
+  for (int index = 0; index < 2; ++index) {
+    const auto row = static_cast<std::size_t>(index);
+    const bool seat = design_.sheet.SeatLock[row].Ticked();
+    if (design_.sheet.HeelLock[row].Ticked()) HeelLockClicked(design_, locking, index);
     if (seat) {
-      document_.sheet.SeatLock[row].Value = 1;
-      document_.chkSeat_Click(static_cast<int>(row));
+      design_.sheet.SeatLock[row].Value = 1;
+      SeatLockClicked(design_, locking, index);
     }
   }
-  document_.menus.SettingsHeelLocked.Checked = document_.sheet.HeelLock[0].Ticked();
-  document_.menus.SettingsSeatLocked.Checked = document_.sheet.SeatLock[0].Ticked();
-  document_.FocusRequest = focus;
-}
-
-// What the roof shows beside its calculation.
-void ProjectReader::FinishRoof() {
-  switch (document_.RoofType) {
-    case roof::kHip:
-      if (document_.IsBastardByRafter()) {
-        document_.ShowOverhangsEqualMenus(true);
-        document_.sheet.Slope[2].SetValues(document_.Rafter1.HipEndSlope, document_.UnitRun);
-        document_.sheet.LastCommon.SetValue((document_.Rafter1.Slope / document_.Rafter1.HipEndSlope) *
-                                                document_.Rafter1.Span -
-                                            document_.Rafter1.HipEndOverhangExcess);
-        document_.Draw(Drawing::kHipPlan, document_.Rafter1);
-      } else {
-        document_.sheet.Slope[2].CopyPositionFrom(document_.sheet.Slope[0]);
-      }
-      return document_.Focus(document_.sheet.Span[0]);
-    case roof::kBay:
-      document_.Rafter1.CalculateBay();
-      document_.BayEditMode = 1;
-      return;
-    case roof::kBlindValley:
-      document_.FillBlindValleyRidges();
-      return document_.Draw(Drawing::kBlindValley, document_.Rafter1);
-    case roof::kGambrel:
-      // Its results do not touch the lumber fields, which show what was typed.
-      document_.sheet.Common[0].SetValues(document_.Rafter1.Thickness, document_.Rafter1.Depth);
-      document_.sheet.Ridge.SetValues(document_.Rafter1.RidgeThickness, document_.Rafter1.RidgeDepth);
-      document_.sheet.Fascia[0].SetValues(document_.Rafter1.FasciaThickness, document_.Rafter1.FasciaHeight);
-      return;
-    default: return;
-  }
+  for (const Reply::Message& message : locking.Messages) reply_.Messages.push_back(message);
+  design_.LockRow = 0;
 }
 
 }  // namespace pitchcraft

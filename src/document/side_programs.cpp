@@ -1,18 +1,24 @@
-// What stands beside the document: the calculator and the pages of help.
-#include "document/document.h"
+#include "document/side_programs.h"
+
+#include "roofs/roof_types.h"
 
 namespace pitchcraft {
 
-void Document::mnuTools_Click(int) {
-  CalculatorService* calculator = surroundings_.calculator;
-  if (calculator != nullptr && calculator->Open(!Imperial())) return;
-  MsgBox("The calculator could not be started. Its program, ftcalc, belongs beside that of Pitchcraft.");
+void OpenCalculator(Document& document, int) {
+  CalculatorService* calculator = document.Around().calculator;
+  if (calculator != nullptr && calculator->Open(document.design.Metric)) return;
+  document.Tell(
+      "The calculator could not be started. Its program, ftcalc, belongs beside that of Pitchcraft.");
 }
 
-void Document::ShowHelp(HelpPlace place) {
-  HelpService* help = surroundings_.help;
-  if (help != nullptr && help->Show(place, HelpContext)) return;
-  MsgBox("Unable to display Help Contents. There is no Help associated with this project.");
+void ShowHelp(Document& document, HelpPlace place) {
+  HelpService* help = document.Around().help;
+  if (help != nullptr && help->Show(place, RoofOf(document.design).About().HelpTopic)) return;
+  document.Tell("Unable to display Help Contents. There is no Help associated with this project.");
 }
+
+void ShowHelpContents(Document& document, int) { ShowHelp(document, HelpPlace::kContents); }
+void ShowHelpGlossary(Document& document, int) { ShowHelp(document, HelpPlace::kGlossary); }
+void ShowHelpSearch(Document& document, int) { ShowHelp(document, HelpPlace::kSearch); }
 
 }  // namespace pitchcraft

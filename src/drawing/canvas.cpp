@@ -9,8 +9,8 @@
 namespace pitchcraft {
 namespace {
 
-// Lengths of stroke and gap in twips. Style 2 is the one that the drawings use for hidden and centre lines:
-// short strokes with gaps that are still seen at the smallest picture.
+// Lengths of dash and gap in twips. The drawings use style 2 for hidden and centre lines: its dashes are
+// short, and the gaps still show in the smallest picture.
 constexpr double kLongDash[2] = {180, 90};
 constexpr double kShortDash[2] = {75, 45};
 
@@ -22,7 +22,7 @@ Box Ordered(CanvasPoint a, CanvasPoint b) {
   return {{std::min(a.X, b.X), std::min(a.Y, b.Y)}, {std::max(a.X, b.X), std::max(a.Y, b.Y)}};
 }
 
-/// How far below the anchor the base line stands, in cells.
+/// How far the base line lies below the anchor, in cells.
 double DropToBase(AlignLevel level) {
   if (level == AlignLevel::kTop) return kAscentPerCell;
   return level == AlignLevel::kBottom ? -kDescentPerCell : 0;
@@ -78,7 +78,7 @@ void Canvas::Play(const TextOp& text) {
   const double angle = text.Angle * kRadiansPerDegree;
   const double back = set.Width * ShareLeftOf(SideOf(text.Align));
   const double down = set.Height * DropToBase(LevelOf(text.Align));
-  const double side = map_.ScaleY > 0 ? 1 : -1;  // where y grows downward, "up" of the text is towards -y
+  const double side = map_.ScaleY > 0 ? 1 : -1;  // where y grows downward, the text's "up" is towards -y
   set.Origin = {set.At.X - back * std::cos(angle) + down * std::sin(angle),
                 set.At.Y - side * (back * std::sin(angle) + down * std::cos(angle))};
   doText(set);

@@ -1,5 +1,5 @@
-// A target that a recording is played on. What is the same for all targets stands here: the mapping, the pen,
-// the place of a text. A back-end draws a few plain figures in its own units.
+// A target on which a recording is played. This class does what is the same for every target: the mapping,
+// the pen, the position of a text. A back-end draws a few plain shapes in its own units.
 #pragma once
 
 #include <span>
@@ -11,16 +11,16 @@
 
 namespace pitchcraft {
 
-/// The size of a target in twips (1440 to the inch). A height below 0 is a page whose y grows upward; its
-/// size is the absolute value.
+/// The size of a target in twips (1440 to the inch). A negative height means that y grows upward; the size is
+/// then its absolute value.
 struct CanvasSize {
   double ScaleWidth = 0;
   double ScaleHeight = 0;
   bool Printer = false;
 };
 
-/// From drawing units to the units of a canvas, whose origin is left above and whose y grows downward: x is
-/// OffsetX + x ScaleX, y is OffsetY + y ScaleY.
+/// From drawing units to the units of a canvas with its origin at the top left and y growing downward: x
+/// becomes OffsetX + x ScaleX, y becomes OffsetY + y ScaleY.
 struct CanvasMap {
   double ScaleX = 1;
   double ScaleY = 1;
@@ -34,8 +34,8 @@ struct CanvasPoint {
   double Y = 0;
 };
 
-/// Width is in canvas units; 0 is the thinnest line that is still clearly seen. Dashes are the lengths of
-/// stroke and gap in turn, in canvas units; none for a solid line.
+/// Width is in canvas units; 0 is the thinnest line that still shows clearly. Dashes are alternating lengths
+/// of dash and gap in canvas units, empty for a solid line.
 struct CanvasPen {
   DrawColor Color = 0;
   double Width = 0;
@@ -43,13 +43,13 @@ struct CanvasPen {
   int Style = 0;
 };
 
-/// A text ready to be set: Origin is the left end of its base line, Angle turns it counter-clockwise about
+/// A text ready to draw: Origin is the left end of its base line; Angle turns it counter-clockwise about
 /// Origin.
 struct CanvasText {
   std::string_view Text;
   CanvasPoint Origin;
   double Width = 0;   ///< advance of the whole text, canvas units
-  double Height = 0;  ///< of the cell; the em of the face is Height kEmPerCell
+  double Height = 0;  ///< of the cell; the em is Height times kEmPerCell
   double Angle = 0;   ///< degrees
   DrawColor Color = 0;
   std::string_view Font;
@@ -59,10 +59,11 @@ struct CanvasText {
   int Align = 0;   ///< the flags as recorded
 };
 
-/// Public calls keep the pen and map coordinates once; private virtual ones draw.
+/// The public calls update the pen and map the coordinates, once for all back-ends; the private virtual ones
+/// draw.
 class Canvas {
  public:
-  /// `unitsPerTwip` is the size of a twip in the back-end's units: 1/15 on a screen of 96 dots to the inch.
+  /// `unitsPerTwip` is the size of a twip in the back-end's units: 1/15 on a screen with 96 dots per inch.
   Canvas(CanvasSize size, const TextMeter& meter, double unitsPerTwip = 1);
   virtual ~Canvas() = default;
   Canvas(const Canvas&) = delete;
@@ -82,15 +83,15 @@ class Canvas {
   void Play(const RectangleOp& rectangle);
 
  private:
-  /// The pen of the outlines that follow; called only when it changes.
+  /// The pen for the outlines that follow; called only when it changes.
   virtual void doPen(const CanvasPen& pen) = 0;
   virtual void doLine(CanvasPoint from, CanvasPoint to) = 0;
   virtual void doText(const CanvasText& text) = 0;
   virtual void doFill(std::span<const CanvasPoint> points, const DrawnBrush& brush) = 0;
-  /// Boxes come with their left upper corner first.
+  /// The left upper corner of a box comes first.
   virtual void doEllipse(CanvasPoint from, CanvasPoint to, const DrawnBrush& brush) = 0;
   virtual void doArc(CanvasPoint from, CanvasPoint to, CanvasPoint start, CanvasPoint end) = 0;
-  /// `corner` holds width and height of the ellipse that rounds a corner.
+  /// `corner` is the width and height of the ellipse that rounds a corner.
   virtual void doRectangle(CanvasPoint from, CanvasPoint to, CanvasPoint corner, const DrawnBrush& brush) = 0;
 
   CanvasPoint Mapped(DrawnPoint point) const;

@@ -14,13 +14,13 @@ struct Vector {
   double X, Y;
 };
 
-/// The letters of a text as a turned rectangle: from `Left` to `Right` along its base line, from `Low` to
-/// `High` across.
+/// The letters of a text as a rotated rectangle: from `Left` to `Right` along its base line, from `Low` to
+/// `High` across it.
 struct LetterBox {
   Vector Anchor, Along;
   double Left, Right, Low, High;
 
-  /// A point of the drawing in the frame of the box.
+  /// A point of the drawing in the box's own frame.
   Vector Inside(Vector point) const {
     const double dx = point.X - Anchor.X;
     const double dy = point.Y - Anchor.Y;
@@ -48,7 +48,7 @@ LetterBox BoxOf(const TextOp& text, const TextMeter& meter, double margin) {
           base + kCapitalPerCell * height + margin};
 }
 
-/// Cuts the part of a segment (from, from + step) that lies between two bounds; false when nothing is left.
+/// Cuts the part of a segment (from, from + step) between two bounds; false when nothing is left.
 bool CutBetween(double from, double step, double low, double high, double& begin, double& end) {
   if (step == 0) return from >= low && from <= high;
   const double first = (low - from) / step;
@@ -67,7 +67,7 @@ bool Crosses(const LetterBox& box, const LineOp& line) {
          CutBetween(from.Y, to.Y - from.Y, box.Low, box.High, begin, end);
 }
 
-/// True when one side of `box` has all of `other` beyond it.
+/// True when all of `other` lies beyond one side of `box`.
 bool Separates(const LetterBox& box, const LetterBox& other) {
   const std::array<Vector, 4> corners = {
       box.Inside(other.Corner(other.Left, other.Low)), box.Inside(other.Corner(other.Left, other.High)),

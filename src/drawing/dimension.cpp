@@ -10,13 +10,13 @@
 namespace pitchcraft {
 namespace {
 
-// The directions are whole quarter turns as a Single holds them.
+// The quarter turns as a Single holds them.
 constexpr double kUp = 1.570796370506;
 constexpr double kLeft = 3.141592741013;
 constexpr double kDown = 4.71238899231;
 constexpr double kArrowHalf = 0.436332312999;      // 25 degrees
 constexpr double kArrowBackHalf = 3.577924966588;  // 205 degrees
-// Shorter than this many text heights, a dimension has no room for arrows between its ends.
+// A dimension shorter than this many text heights has no room for arrows between its ends.
 constexpr double kRoomForArrows = 2.5;
 
 constexpr int kAligned = 1;
@@ -26,15 +26,15 @@ constexpr int kVertical = 3;
 struct Direction {
   Single Radians;
   Single Degrees;
-  /// An aligned dimension drawn from right to left is read from left to right: its direction points from P2
-  /// to P1.
+  /// The line runs from right to left, but its text must read from left to right: the direction then points
+  /// from P2 to P1.
   bool Reversed = false;
 };
 
 PointRecord operator+(PointRecord a, PointRecord b) { return {a.X + b.X, a.Y + b.Y}; }
 
-/// The quarter turns are Singles, and what their cosines leave over would tip a level line by a unit where
-/// its ends lie half-way between two: a part in a million is nothing.
+/// The cosine of a quarter turn held as a Single is not quite 0. Where the ends of a level line fall half-way
+/// between two units, the remainder would tip it by one. So less than a millionth counts as 0.
 PointRecord Offset(double angle, double distance) {
   constexpr double kNothing = 1e-6;
   PointRecord offset = DraftingBoard::AngleDistance(angle, distance);
@@ -71,9 +71,9 @@ double LengthOf(int kind, PointRecord p1, PointRecord p2) {
   return std::sqrt(dy * dy + dx * dx);
 }
 
-/// The two legs that bring both extension lines of a horizontal or vertical dimension to one level.
+/// The two legs that bring both extension lines of a horizontal or vertical dimension to the same level.
 std::pair<Single, Single> EvenLegs(const Direction& direction, PointRecord p1, PointRecord p2, Single leg) {
-  // How much further P1 and P2 lie from the dimension line, seen along the extension lines.
+  // How much further P1 or P2 lies from the dimension line, along the extension lines.
   double ahead = 0;
   if (direction.Degrees == 0) ahead = p1.Y - p2.Y;
   if (direction.Degrees == 180) ahead = p2.Y - p1.Y;
@@ -154,7 +154,7 @@ void DimensionDrafter::DrawExtensionLines() {
   board_.DimensionStroke(p2_ + gap_, p2_ + gap_ + leg2_ + past);
 }
 
-/// Where what stands so far ends, for the drawing to stack the next dimension or text clear of it.
+/// Stores how far the drawing reaches by now, so that the next dimension or text can be stacked clear of it.
 void DimensionDrafter::MarkHighWater() {
   const DrawingRecorder& canvas = board_.Recorder;
   if (dim_.Kind == kAligned) board_.Pts(12).Y = canvas.MaxY();
@@ -173,8 +173,8 @@ void DimensionDrafter::DrawDimensionLine() {
   board_.DimensionStroke(end2_, end2_ + tail);
 }
 
-/// Every stroke starts at the tip. The heads point outward when they stand between the ends, inward when
-/// outside.
+/// Every stroke starts at the tip. The heads point outward when they are between the ends, inward when they
+/// are outside.
 void DimensionDrafter::DrawArrowheads() {
   const double atFirst = outside_ ? kArrowBackHalf : kArrowHalf;
   const double atSecond = outside_ ? kArrowHalf : kArrowBackHalf;
@@ -222,7 +222,7 @@ void DimensionDrafter::PlaceVerticalText(PointRecord& anchor) {
   if (outside_ && dim_.TextMode >= 2 && dim_.TextHeight * 1.5 > length_) {
     anchor.Y = anchor.Y - dim_.Arrow - 2 * dim_.Gap - dim_.Arrow;
   }
-  // A text that is longer than its line stands beside it, on the far side of the extension lines' ends.
+  // A text longer than its line goes beside it, past the ends of the extension lines.
   if (dim_.TextMode == 1 && length_ < 2 * dim_.Arrow + board_.WidthOf(text_, dim_.TextHeight)) {
     const double aside = dim_.TextHeight + dim_.Gap * 2.5;
     anchor.X += aside;

@@ -1,4 +1,4 @@
-// The dimensions of a drawing as a flat list, for those who write them into a file.
+// The dimensions of a drawing as a flat list, from which a file writer reads them.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace pitchcraft {
 
-/// One entry, in real units: four numbers a stroke; x, y, text, angle in radians and a letter (L, C or R) a
-/// text.
+/// One entry, in real units. A stroke takes four numbers; a text takes x, y, the text, its angle in radians
+/// and a letter (L, C or R).
 using DimensionValue = std::variant<Single, std::string>;
 
 }  // namespace pitchcraft

@@ -18,7 +18,7 @@ constexpr double kTextTwips = 240;  // 12 points
 constexpr double kHalfTurn = 3.14159265359;
 constexpr double kQuarterTurn = 1.570796326795;
 constexpr double kWholeTurn = 6.28318530718;
-// Just above a whole turn, so that an angle which is one by rounding is left alone.
+// Just above a whole turn, so that rounding does not wrap an angle of exactly one turn.
 constexpr double kWholeTurnLimit = 6.283185482025;
 
 double TurnedBy(int mode, double angle) {
@@ -35,7 +35,7 @@ const char* LetterOf(AlignSide side) {
   return side == AlignSide::kRight ? "R" : "L";
 }
 
-/// Only the flags of the table have a letter; another code is written without one.
+/// Only these nine combinations of flags have a letter; any other code is written without one.
 bool IsKnownAlign(int align) {
   switch (align) {
     case kAlignLeftTop:

@@ -23,7 +23,7 @@ struct Aspect {
   double Size;
 };
 
-/// The side that is fuller rules: the drawing must fit both ways.
+/// The side that is fuller decides: the drawing must fit both ways.
 Aspect AspectOn(double canvasWidth, double canvasHeight, double width, double height) {
   const double across = width / OneIfZero(std::fabs(canvasWidth));
   const double up = height / OneIfZero(std::fabs(canvasHeight));
@@ -72,7 +72,7 @@ void DrawingRecorder::Close() {
 void DrawingRecorder::Discard() {
   open_ = false;
   closed_ = false;
-  operations_.clear();  // keeps its room: the next drawing is about as long
+  operations_.clear();  // keeps its capacity: the next drawing is about as long
   minX_ = minY_ = maxX_ = maxY_ = 0;
 }
 
@@ -119,7 +119,7 @@ PointSize DrawingRecorder::CalcPointSize() const {
   const double height = maxY_ - minY_;
   const Aspect upright = AspectOn(canvas_->ScaleWidth, canvas_->ScaleHeight, width, height);
   if (!canvas_->Printer) return {upright.Ratio, upright.Size, false};
-  // The sheet is turned the way that it is filled best: the way whose proportions are nearer to the
+  // Turn the paper so that the drawing fills it best: the way round whose proportions are nearer to the
   // drawing's.
   const Aspect turned = AspectOn(canvas_->ScaleHeight, canvas_->ScaleWidth, width, height);
   const bool turn = std::fabs(turned.Ratio - 1) < std::fabs(upright.Ratio - 1);
@@ -137,7 +137,7 @@ CanvasMap DrawingRecorder::FitInto(const CanvasSize& target, double unitsPerTwip
   double scaleX = areaWidth / width;
   double scaleY = areaHeight / height;
   if (MapMode == kIsotropic) scaleX = scaleY = std::min(scaleX, scaleY);
-  // What one side leaves over is shared by its two margins.
+  // What one side leaves over is shared between its two margins.
   const double left = area.Left + area.Border + (areaWidth - width * scaleX) / 2;
   const double top = area.Top + area.Border + (areaHeight - height * scaleY) / 2;
   return {scaleX * unitsPerTwip, -scaleY * unitsPerTwip, (left - minX_ * scaleX) * unitsPerTwip,

@@ -1,5 +1,5 @@
-// The canvas that every drawing records on. It knows how far the drawing reaches and plays the recording on a
-// real target, fitted and centred with its proportions kept.
+// The recorder of every drawing. It knows how far the drawing reaches and plays the recording on a real
+// target, fitted and centred with its proportions kept.
 #pragma once
 
 #include <array>
@@ -16,31 +16,31 @@ namespace pitchcraft {
 class StrokeTool;
 class TextTool;
 
-/// Number of the errors that a recording raises: the first that is free for a program's own.
+/// The number of every error that a recording raises: the first one that is free for a program's own errors.
 inline constexpr int kMetaFileError = 513;
 
 inline constexpr int kIsotropic = 7;
 inline constexpr int kAnisotropic = 8;
 
-/// Where on the target a recording is played, in twips. A missing width or height is that of the target.
+/// Where on the target a recording is played, in twips. A missing width or height means the target's own.
 struct PlayArea {
   double Left = 0;
   double Top = 0;
   std::optional<double> Width;
   std::optional<double> Height;
-  double Border = 0;  ///< taken off on every side
+  double Border = 0;  ///< left free on every side
 };
 
-/// The size of a twip in drawing units at the present extents.
+/// The size of a twip in drawing units for the current extents.
 struct PointSize {
   Single Ratio;  ///< (extent width / canvas width) / (extent height / canvas height); below 1 the drawing is
                  ///< narrow
-  Single Size;   ///< drawing units for one twip: a text of 240 times this is 12 points high
-  bool Landscape = false;  ///< the orientation taken on a printer
+  Single Size;   ///< drawing units per twip: a text of 240 times this is 12 points high
+  bool Landscape = false;  ///< the orientation chosen on a printer
 };
 
 /// One recording and its state: empty, open (being recorded) or closed (ready to be played, any number of
-/// times and on any target). Coordinates are drawing units, +Y up. Raises RunTimeError with the messages told
+/// times and on any target). Coordinates are drawing units, +Y up. Raises RunTimeError with the message given
 /// at each call.
 class DrawingRecorder {
  public:
@@ -48,32 +48,30 @@ class DrawingRecorder {
   DrawingRecorder(const DrawingRecorder&) = delete;
   DrawingRecorder& operator=(const DrawingRecorder&) = delete;
 
-  /// Makes both report what they cover here, and draw here.
+  /// Makes both tools record here and report here how far they drew.
   void Attach(StrokeTool& drawFX, TextTool& textFX);
-  /// Lets go of both; each is destroyed first, because it holds this object as its canvas.
+  /// Destroys both tools, which hold this object as their canvas, and lets go of them.
   void Destroy();
 
-  // --- The recording
-  // ----------------------------------------------------------------------------------------------
   /// Opens an empty recording in memory. "Metafile dc already exists!" while one is open.
   void Open(std::string_view name = {});
-  /// Ends the recording; nothing happens when none is open.
+  /// Ends the recording; does nothing when none is open.
   void Close();
   /// Closes what is open, forgets the recording and zeroes the extents.
   void Discard();
-  /// Takes a finished recording. "A metafile already exists!" when one stands or is open.
+  /// Takes a finished recording. "A metafile already exists!" when there is one, finished or open.
   void Load(Recording recording, Single minX, Single minY, Single maxX, Single maxY);
-  /// Empties the canvas: what stands is deleted and a fresh recording is opened.
+  /// Deletes what was recorded and opens a new recording.
   void Clear();
   bool IsOpen() const { return open_; }
   bool IsClosed() const { return closed_; }
-  /// What was recorded so far.
+  /// What has been recorded so far.
   const Recording& Operations() const { return operations_; }
   /// The finished recording. "No metafile defined!" when there is none.
   const Recording& Finished() const;
   /// Plays the finished recording. "No metafile to play!" when there is none.
   void Play(Canvas& target, const PlayArea& area = {}) const;
-  /// The mapping that Play uses. An extent of 0 counts as 1, on either side.
+  /// The mapping that Play uses. An extent of 0 counts as 1, in either direction.
   CanvasMap FitInto(const CanvasSize& target, double unitsPerTwip, const PlayArea& area = {}) const;
 
   std::string Name;
@@ -81,8 +79,7 @@ class DrawingRecorder {
   int DrawMode = 13;
   DrawColor BackColor = 0xFFFFFF;
 
-  // --- Extents, always with the origin in them
-  // ----------------------------------------------------------------------
+  // The extents always include the origin.
   Single MinX() const { return minX_; }
   Single MinY() const { return minY_; }
   Single MaxX() const { return maxX_; }
@@ -90,19 +87,15 @@ class DrawingRecorder {
   /// Left may exceed Right, and Top may exceed Bottom.
   void BoundsChanged(double left, double top, double right, double bottom);
 
-  // --- The target
-  // --------------------------------------------------------------------------------------------------
-  /// The target that the drawing is meant for. "Not a valid canvas!" for a size that is no number.
+  /// The target that the drawing is meant for. "Not a valid canvas!" for a size that is not a finite number.
   void SetCanvas(const CanvasSize& size);
   void ClearCanvas() { canvas_.reset(); }
   const std::optional<CanvasSize>& Target() const { return canvas_; }
-  /// Without a canvas Size is 0. A denominator of 0 counts as 1.
+  /// Without a target Size is 0. A denominator of 0 counts as 1.
   PointSize CalcPointSize() const;
-  /// The technology of this device: 5, a recording.
+  /// The kind of this device: 5, a recording.
   static constexpr int CanvasKind() { return 5; }
 
-  // --- Pen, brush, font
-  // --------------------------------------------------------------------------------------------
   DrawnPen Pen;
   DrawnBrush Brush;
   DrawColor TextColor = 0;
@@ -114,17 +107,16 @@ class DrawingRecorder {
   bool FontItalic = false;
   bool FontUnderline = false;
   bool FontStrikethru = false;
-  /// Sets FontHeight to that many points of twenty units each; 10 at start.
+  /// Sets FontHeight to this many points of twenty units each; 10 at the start.
   void SetFontSize(double points);
   double FontSize() const { return fontSize_; }
 
-  /// In drawing units, with the present font.
+  /// In drawing units, in the current font.
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
   const TextMeter& Meter() const { return meter_; }
 
-  // --- What the drawing objects record; nothing happens while no recording is open
-  // ----------------------------------
+  // What the drawing tools record. While no recording is open, nothing is recorded.
   void MoveTo(DrawnPoint to) { current_ = to; }
   void LineTo(DrawnPoint to);
   void TextOut(DrawnPoint at, std::string_view text);

@@ -1,4 +1,4 @@
-// A canvas that draws nothing and only finds how far a drawing reaches.
+// A canvas that draws nothing and only measures how far a drawing reaches.
 #pragma once
 
 #include <limits>
@@ -12,7 +12,7 @@ class ExtentsCanvas : public Canvas {
   ExtentsCanvas(CanvasSize size, const TextMeter& meter, double unitsPerTwip = 1)
       : Canvas(size, meter, unitsPerTwip) {}
 
-  /// True before anything was drawn; the sides are then meaningless.
+  /// True until something is drawn; the sides are then meaningless.
   bool Empty() const { return left_ > right_; }
   double Left() const { return left_; }
   double Top() const { return top_; }

@@ -1,5 +1,5 @@
-// A finished drawing: a flat list of what was drawn, in drawing units with +Y up. Screen, picture file, paper
-// and metafile file are players of it.
+// A finished drawing: a flat list of operations, in drawing units with +Y up. Screen, picture file, paper and
+// metafile all play it.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +19,8 @@ struct DrawnPoint {
   bool operator==(const DrawnPoint&) const = default;
 };
 
-/// Style 0 is solid, 1 long dashes, 2 short dashes. Width is in drawing units; 0 is the thinnest line of the
-/// target.
+/// Style 0 is solid, 1 long dashes, 2 short dashes. Width is in drawing units; 0 is the target's thinnest
+/// line.
 struct DrawnPen {
   DrawColor Color = 0;
   int Style = 0;
@@ -28,7 +28,7 @@ struct DrawnPen {
   bool operator==(const DrawnPen&) const = default;
 };
 
-/// Style 0 is solid, 1 leaves the inside open, 2 is a hatch of falling diagonals.
+/// Style 0 is solid, 1 leaves the inside empty, 2 hatches it with falling diagonals.
 struct DrawnBrush {
   DrawColor Color = 0;
   int Style = 0;
@@ -42,7 +42,8 @@ struct LineOp {
 };
 
 /// Text is UTF-8. Height is that of the cell, ascent and descent together. Angle is in degrees,
-/// counter-clockwise; Align one of the text-align flags (text_align.h), read in the text's own turned frame.
+/// counter-clockwise; Align is one of the text-align flags (text_align.h), taken in the text's own rotated
+/// frame.
 struct TextOp {
   DrawnPoint At;
   std::string Text;
@@ -56,7 +57,7 @@ struct TextOp {
   bool operator==(const TextOp&) const = default;
 };
 
-/// A closed polygon without an outline, filled by the winding rule.
+/// A closed polygon without outline, filled by the winding rule.
 struct FillOp {
   std::vector<DrawnPoint> Points;
   DrawnBrush Brush;
@@ -78,7 +79,7 @@ struct ArcOp {
   bool operator==(const ArcOp&) const = default;
 };
 
-/// Corner is the width and height of the ellipse that rounds a corner; 0 leaves it sharp.
+/// Corner is the width and height of the ellipse that rounds a corner; 0 leaves the corner sharp.
 struct RectangleOp {
   DrawnPoint From, To;
   std::int32_t Corner = 0;

@@ -23,7 +23,7 @@ Offset Polar(double degrees, double length) {
   return {length * std::cos(angle), length * std::sin(angle)};
 }
 
-/// A point of the model on the page: the sum of three polar offsets.
+/// A point of the model in the drawing: the sum of three polar offsets.
 Offset Projected(double x, double y, double z) {
   const Offset a = Polar(kAxisX, x);
   const Offset b = Polar(kAxisY, y);
@@ -104,7 +104,7 @@ void StrokeTool::MoveToPoint(Single x, Single y) {
   Report(x, y, x, y);
 }
 
-/// Every line begins with its own move: none depends on where the target's pen stands.
+/// Every line begins with a move of its own, so none depends on where the target's pen is.
 void StrokeTool::Stroke(Single fromX, Single fromY, Single toX, Single toY) {
   const DrawnPoint from = Rounded(fromX, fromY);
   const DrawnPoint to = Rounded(toX, toY);
@@ -165,8 +165,8 @@ void StrokeTool::DrawLine3D(Single x, Single y, Single z, std::optional<Single> 
   LastZ3D = endZ;
 }
 
-/// The polygon has one corner less than there are numbers: behind the real corners it runs through the
-/// origin, and the winding rule fills what that encloses.
+/// The polygon has one corner fewer than there are numbers: after the real corners it runs through the
+/// origin, and the winding rule fills what this encloses.
 void StrokeTool::DrawRegionFill(std::span<const Single> points) {
   if (!hasCanvas_ || points.empty()) return;
   const std::size_t corners = points.size() - 1;

@@ -1,4 +1,4 @@
-// The pen of a drawing: lines and plain figures in drawing units, with a position of its own.
+// The pen of a drawing: lines and simple shapes in drawing units, with a position of its own.
 #pragma once
 
 #include <functional>
@@ -13,9 +13,9 @@ namespace pitchcraft {
 
 class DrawingRecorder;
 
-/// Draws on its canvas and reports the box of each figure. The position is kept unrounded, so that a chain of
-/// relative lines gathers no rounding error; what is recorded are whole drawing units, halves to the even
-/// one. Raises Overflow for a coordinate that is no 32-bit number. Without a canvas nothing happens.
+/// Draws on its canvas and reports the box of each shape. The position is kept unrounded, so that a chain of
+/// relative lines gathers no rounding error; what is recorded is in whole drawing units, halves rounded to
+/// even. Raises Overflow for a coordinate that does not fit 32 bits. Without a canvas nothing happens.
 class StrokeTool {
  public:
   using Bounds = std::function<void(double left, double top, double right, double bottom)>;
@@ -49,31 +49,32 @@ class StrokeTool {
   void SetCurrentX(double x);
   void SetCurrentY(double y);
 
-  /// A bare move leaves nothing to see, but the extents take it in.
+  /// A move alone leaves no trace, but it counts towards the extents.
   void MoveToPoint(Single x, Single y);
   /// From the last point to (x, y).
   void DrawLine(Single x, Single y);
-  /// With both ends given, the start is absolute in either mode and the end, in relative mode, an offset from
+  /// With both ends given, the start is absolute in either mode; in relative mode the end is an offset from
   /// it.
   void DrawLine(Single x1, Single y1, std::optional<Single> x2, std::optional<Single> y2);
-  /// `angle` in degrees, from +X towards +Y; without x and y from the last point. EntryMode has no say.
+  /// `angle` in degrees, from +X towards +Y; without x and y it starts at the last point. EntryMode does not
+  /// matter.
   void DrawPolarLine(double angle, double length, std::optional<Single> x = {}, std::optional<Single> y = {});
-  /// Isometric: the axes of the model lie at 30, 90 and 330 degrees. A missing end coordinate takes the
-  /// start's place.
+  /// Isometric: the axes of the model are at 30, 90 and 330 degrees. A missing coordinate of the end is the
+  /// same as that of the start.
   void DrawLine3D(Single x, Single y, Single z, std::optional<Single> x2 = {}, std::optional<Single> y2 = {},
                   std::optional<Single> z2 = {});
   /// `points` is x0, y0, x1, y1 and so on. Does not count towards the extents.
   void DrawRegionFill(std::span<const Single> points);
-  /// A recording has no pixels that a colour could spread over: nothing is recorded.
+  /// A recording has no pixels for a colour to spread over, so nothing is recorded.
   void DrawFill(Single x, Single y, DrawColor borderColor);
   void DrawCircle(Single x, Single y, Single radius);
   void DrawEllipse(Single x, Single y, Single radiusX, Single radiusY);
-  /// In relative mode x2 and y2 are width and height from the moved first corner.
+  /// In relative mode x2 and y2 are width and height, from the moved first corner.
   void DrawRectangle(Single x1, Single y1, Single x2, Single y2);
   void DrawRoundedRectangle(Single x1, Single y1, Single x2, Single y2, Single corner);
   /// A small cross.
   void DrawPoint(Single x, Single y, Single size);
-  /// Angles in radians; they turn from +X towards -Y.
+  /// Angles are in radians, from +X towards -Y.
   void DrawArc(Single x, Single y, Single radius, double startAngle, double endAngle, Single aspect);
   static int DrawPolygon() { return 0; }
 
@@ -84,7 +85,7 @@ class StrokeTool {
   void DrawBox(Single x1, Single y1, Single x2, Single y2, Single corner);
 
   DrawingRecorder* canvas_ = nullptr;
-  bool hasCanvas_ = false;  // once true it stays so: a lost canvas is an error, not a silence
+  bool hasCanvas_ = false;  // once true, always true: a lost canvas is an error and must not go unnoticed
   DrawnPen pen_;
   DrawnBrush brush_;
 };

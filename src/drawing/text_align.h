@@ -1,4 +1,4 @@
-// Where a text stands about its anchor: the nine flags that the drawings use, taken apart.
+// Where a text lies about its anchor: the nine flags that the drawings use, taken apart.
 #pragma once
 
 namespace pitchcraft {
@@ -29,7 +29,7 @@ constexpr AlignLevel LevelOf(int align) {
   return level == 8 ? AlignLevel::kBottom : AlignLevel::kTop;
 }
 
-/// The share of a text's width that lies left of its anchor.
+/// The part of a text's width that lies left of its anchor.
 constexpr double ShareLeftOf(AlignSide side) {
   if (side == AlignSide::kCenter) return 0.5;
   return side == AlignSide::kRight ? 1.0 : 0.0;

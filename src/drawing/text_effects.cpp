@@ -1,5 +1,4 @@
-// The effect figures of the lettering: characters set one by one, down a column, on circles and arcs,
-// growing.
+// Lettering effects: characters set one by one, down a column, on circles and arcs, or growing.
 #include <cmath>
 #include <vector>
 
@@ -18,7 +17,7 @@ std::vector<std::string_view> CharactersOf(std::string_view text) {
   return characters;
 }
 
-/// How far along its way, 0 to 1, character `at` of `count` stands.
+/// How far along its path character `at` of `count` comes, from 0 to 1.
 double ShareAt(std::size_t at, std::size_t count) {
   return count < 2 ? 0 : static_cast<double>(at) / static_cast<double>(count - 1);
 }
@@ -27,7 +26,7 @@ double Between(double from, double to, double share) { return from + (to - from)
 
 }  // namespace
 
-/// Puts back what an effect changes of the lettering, also when a character cannot be placed.
+/// Restores what an effect changes in the lettering, even when a character cannot be placed.
 class TextTool::EffectScope {
  public:
   explicit EffectScope(TextTool& text)

@@ -58,8 +58,8 @@ void TextTool::TextLine(std::string_view text, std::optional<Single> x, std::opt
   ReportBox(text, atX, atY);
 }
 
-/// The box by the flags, turned about the anchor. Above the base line it is taken a whole cell high, as room
-/// for the next text to stand clear of it.
+/// The text's box, placed by the flags and turned about the anchor. Above the base line it counts as a whole
+/// cell high, so that the next text keeps clear of it.
 void TextTool::ReportBox(std::string_view text, double x, double y) const {
   if (!BoundsChanged) return;
   const double width = canvas_->TextWidth(text);

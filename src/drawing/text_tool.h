@@ -31,10 +31,10 @@ class TextTool {
   bool FontItalic = false;
   bool FontUnderline = false;
   bool FontStrikethru = false;
-  double Fontsize = 10;  ///< kept only; the drawings set FontHeight
+  double Fontsize = 10;  ///< only stored; the drawings set FontHeight
   DrawColor TextColor = 0;
-  DrawColor GrowColor = 0;  ///< of the effect figures that grow
-  int Appearance = 0;       ///< 1 writes a shadow first
+  DrawColor GrowColor = 0;  ///< of the effects that grow
+  int Appearance = 0;       ///< 1 draws a shadow first
   DrawColor ShadowColor = 0;
   Single ShadowOffsetX = 1;
   Single ShadowOffsetY = -1;
@@ -42,27 +42,26 @@ class TextTool {
   int TextAlign() const { return textAlign_; }
   void SetTextAlign(int align);
 
-  /// In drawing units, with the present font.
+  /// In drawing units, in the current font.
   double TextWidth(std::string_view text) const;
   double TextHeight(std::string_view text) const;
 
-  /// A missing x or y is the canvas's current position. Without a canvas nothing happens.
+  /// A missing x or y means the canvas's current position. Without a canvas nothing happens.
   void TextLine(std::string_view text, std::optional<Single> x = {}, std::optional<Single> y = {});
 
-  // --- Effects: one text a character, each placed on its own
-  // -------------------------------------------------------
-  /// Down from (x, y), one cell below the other.
+  // Effects: each character is a text of its own, placed separately.
+  /// Down from (x, y), one cell below another.
   void TextVertical(std::string_view text, Single x, Single y);
-  /// Clockwise and evenly round a whole circle, feet inward, the first at `startAngle` degrees.
+  /// Clockwise and evenly around a whole circle, feet inward, the first at `startAngle` degrees.
   void TextCircle(std::string_view text, Single x, Single y, Single radius, double startAngle = 90);
   /// Evenly from one angle to the other, feet inward.
   void TextArc(std::string_view text, Single x, Single y, Single radius, double startAngle, double endAngle);
-  /// As a line at Angle, in GrowColor, from FontHeight to `endHeight`.
+  /// A line at Angle, in GrowColor, growing from FontHeight to `endHeight`.
   void GrowTextLine(std::string_view text, Single x, Single y, double endHeight);
   void GrowTextVertical(std::string_view text, Single x, Single y, double endHeight);
   void GrowTextArc(std::string_view text, Single x, Single y, Single radius, double startAngle,
                    double endAngle, double endHeight);
-  /// Clockwise from the top in GrowColor, over `turns` whole turns, while the radius goes from one to the
+  /// Clockwise from the top in GrowColor, over `turns` whole turns, while the radius changes from one to the
   /// other.
   void SpiralText(std::string_view text, Single x, Single y, Single startRadius, Single endRadius,
                   double turns);

@@ -29,7 +29,7 @@ void TextTrace::doText(const CanvasText& text) {
   Add(text.At);
   lines_ += " [" + std::string(text.Text) + "]";
   Add("height", text.Height);
-  // A hundredth of a degree is finer than any eye, and the same on every machine.
+  // A hundredth of a degree is finer than the eye can see, and the same on every machine.
   Add("angle", RoundTo(text.Angle, 2));
   Add("align", text.Align);
   Add("color", text.Color);

@@ -1,4 +1,4 @@
-// A canvas that writes down what is drawn, one line a figure: what golden traces are made of.
+// A canvas that writes down what is drawn, one line for each shape: the golden traces are made with it.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace pitchcraft {
 
 class TextTrace : public Canvas {
  public:
-  /// With the map as it stands at first, the numbers are the drawing units of the recording.
+  /// With the map unchanged, the numbers are the drawing units of the recording.
   explicit TextTrace(const TextMeter& meter) : Canvas({}, meter) {}
   const std::string& Lines() const { return lines_; }
 

@@ -1,4 +1,4 @@
-// Text taken apart into characters.
+// Text split into characters.
 #pragma once
 
 #include <string_view>
@@ -10,10 +10,10 @@ struct Utf8Character {
   std::string_view Bytes;
 };
 
-/// What stands for a byte that fits nowhere.
+/// Replaces a byte that is not valid UTF-8.
 inline constexpr char32_t kNoCharacter = 0xFFFD;
 
-/// Takes the next character off a text that is not empty. A byte that is no UTF-8 is a character of its own.
+/// Takes the next character off a text that is not empty. An invalid byte is a character of its own.
 Utf8Character TakeCharacter(std::string_view& text);
 
 }  // namespace pitchcraft

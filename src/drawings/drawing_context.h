@@ -1,4 +1,4 @@
-// What a drawing reads beside the rafter: the document's shared values, checks and colours.
+// What a drawing needs besides the rafter: shared values of the document, settings and colours.
 #pragma once
 
 #include "drawing/recording.h"
@@ -7,12 +7,12 @@
 namespace pitchcraft {
 
 struct DrawingContext {
-  int RoofType = 0;               ///< code of the roof: 0 gable, 1 hip, 2 valley, 3 shed, 4 dual slope ...
+  Roof RoofType = Roof::kGable;
   double UnitRun = 12;            ///< run to which a slope is a rise: 12 or 1000
   double UnitHipRun = 16.970562;  ///< the hip's run for it: 16.970562 or 1414.2135
-  int CurrentTab = 0;             ///< page of Tabs(0)
-  bool SquareCut = false;         ///< SettingsSquareCut is checked: the fascia stands square to the rafter
-  bool RiseOverRun = true;  ///< SettingsRiseOverRun is checked: slopes as rise over run, else as degrees
+  bool OnDesignPage = true;       ///< the first page, whose figure is the plainer one
+  bool SquareCut = false;         ///< the fascia stands square to the rafter
+  bool RiseOverRun = true;        ///< slopes as rise over run, else as degrees
   HipLayoutOptions HipLayout;
   int LineWidth = 0;  ///< pen width of outlines; 0 is the thinnest, as on screen
   DrawColor BackColor = 0;

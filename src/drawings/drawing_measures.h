@@ -16,7 +16,7 @@ inline constexpr double kArrow = 160;
 inline constexpr double kOutsideArrow = 2 * kArrow;
 inline constexpr double kTextHeight = 240;
 inline constexpr double kCapital = kTextHeight * kCapitalPerCell;
-/// The least distance of a text from a line.
+/// The least distance between a text and a line.
 inline constexpr double kClear = 60;
 inline constexpr double kRoomForArrows = 2.5 * kTextHeight;
 

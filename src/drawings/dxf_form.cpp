@@ -12,7 +12,7 @@ constexpr int kAligned = 1;
 constexpr int kHorizontal = 2;
 constexpr double kLetterWidth = 0.85;  // of a stroke font, in letter heights
 
-/// Where a dimension line stands whose distance from the nearer of its points has grown.
+/// Where a dimension line goes when its distance from the nearer of its points grows.
 double GrownLine(double line, double a, double b, double growth) {
   const double base = std::clamp(line, std::min(a, b), std::max(a, b));
   return base + (line - base) * growth;
@@ -95,8 +95,8 @@ void DxfForm::Aligned(const DrawnDimension& dimension) {
   Cover({third.X + (p2.X - p1.X) / scale, third.Y + (p2.Y - p1.Y) / scale});
 }
 
-// A text with a place of its own keeps it along the measured way; across, it stands off as the lettering
-// does. The file places a text by its middle.
+// A text with a place of its own keeps that place along the measured direction; across it, its distance grows
+// with the lettering. The file places a text by its middle.
 void DxfForm::Horizontal(const DrawnDimension& dimension) {
   const auto& [kind, p1, p2, end1, end2, text, outside, shown] = dimension;
   if (p1.X == p2.X) return;
@@ -121,7 +121,8 @@ void DxfForm::Vertical(const DrawnDimension& dimension) {
   std::optional<Single> textX;
   std::optional<Single> textY;
   if (text && outside) {
-    // A file's text runs along its line: beside a short line it would cross the wood, below it is free.
+    // In the file a text runs along its line: beside a short line it would cross the wood; below there is
+    // room.
     const double length = static_cast<double>(shown.size()) * textHeight_ * kLetterWidth;
     textX = line + 1.5 * textHeight_;
     textY = std::min<double>(p1.Y, p2.Y) / scale - textHeight_ - length / 2;

@@ -9,20 +9,15 @@
 namespace pitchcraft {
 namespace {
 
-constexpr int kGable = 0;
-constexpr int kHipRoof = 1;
-constexpr int kShed = 3;
-constexpr int kDualSlope = 4;
-
-ElevationFamily FamilyOf(RafterType type) {
-  if (type == RafterType::kHip || type == RafterType::kBastardHip) return ElevationFamily::kHip;
+ElevationFamily FamilyOf(Member type) {
+  if (type == Member::kHip || type == Member::kBastardHip) return ElevationFamily::kHip;
   return IsValley(type) ? ElevationFamily::kValley : ElevationFamily::kCommon;
 }
 
 /// The common of a hip roof hangs its fascia by its own height: the record, calculated for the hip, holds the
 /// height that is lowered by the hip's drop.
-double FasciaOfCommon(const Rafter& rafter, int roofType) {
-  if (roofType != kHipRoof) return rafter.AdjFasciaHeight;
+double FasciaOfCommon(const Rafter& rafter, Roof roof) {
+  if (roof != Roof::kHip) return rafter.AdjFasciaHeight;
   const double height = std::min<double>(rafter.FasciaHeight, rafter.PlumbCut);
   return rafter.Overhang == 0 ? std::min<double>(height, rafter.Heel) : height;
 }
@@ -39,15 +34,15 @@ void TakeCommon(ElevationMember& member, const Rafter& rafter, const DrawingCont
   member.UnitRun = context.UnitRun;
   // Only a gable, a shed and a dual slope stand on a kneewall; one that stands beyond the ridge carries
   // nothing.
-  const bool carries =
-      context.RoofType == kGable || context.RoofType == kShed || context.RoofType == kDualSlope;
+  const bool carries = context.RoofType == Roof::kGable || context.RoofType == Roof::kShed ||
+                       context.RoofType == Roof::kDualSlope;
   if (carries && rafter.Kneewall > 0 && rafter.Kneewall < rafter.AdjSpan && rafter.KneewallRise > 0) {
     member.Kneewall = rafter.Kneewall;
     member.KneewallRise = rafter.KneewallRise;
   }
 }
 
-/// The end of a bastard hip roof climbs from its own wall to the ridge.
+/// The end of a bastard hip roof rises from its own wall to the ridge.
 void TakeHipEndCommon(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   member.HipEnd = true;
   member.Run = rafter.AdjHipEndSpan;
@@ -59,7 +54,7 @@ void TakeHipEndCommon(ElevationMember& member, const Rafter& rafter, const Drawi
   member.Heel = rafter.HipEndHeel;
   member.Seat = rafter.HipEndSeat;
   member.Fascia = rafter.HipEndFasciaCut;
-  // Without an overhang nothing in front of the wall carries more than the heel.
+  // Without an overhang, the wood in front of the wall line is no higher than the heel.
   if (member.Overhang == 0) member.Fascia = std::min<double>(member.Fascia, member.Heel);
   member.Depth = rafter.Depth;
   member.Slope = rafter.HipEndSlope;
@@ -81,9 +76,10 @@ void TakeBastardHip(ElevationMember& member, const Rafter& rafter, const Drawing
   member.Slope = rafter.HipValSlope;
   member.UnitRun = context.UnitRun;
   const double angle = rafter.HipAngle1 * kRadiansPerDegree;
-  // The lower corner of the two fascias lies as far from both eaves; on the hip its two distances add up.
+  // Where the two fascias meet, the lower corner is equally far from both eaves; seen along the hip, the two
+  // distances add up.
   member.FasciaFactor = std::sin(angle) + std::cos(angle);
-  // The cheek towards the main roof fits the main fascia at the tail and the main common at the ridge.
+  // The cheek towards the main roof meets the main fascia at the tail and the main common at the ridge.
   member.TailBevels = {rafter.HipAngle2, rafter.HipAngle1};
   member.RidgeBevels = {rafter.HipAngle1, rafter.HipAngle2};
 }
@@ -91,8 +87,8 @@ void TakeBastardHip(ElevationMember& member, const Rafter& rafter, const Drawing
 void TakeHipOrValley(ElevationMember& member, const Rafter& rafter, const DrawingContext& context) {
   const bool hip = member.Family == ElevationFamily::kHip;
   member.Run = hip ? double{rafter.AdjHipSpan} : double{rafter.AdjValSpan};
-  // A heel of 0 takes the overhang away after the hip's was worked out from it: the rises then end at the
-  // wall.
+  // A heel of 0 removes the overhang, but only after the hip's overhang was calculated from it: the rises
+  // then end at the wall.
   if (rafter.Overhang != 0) member.Overhang = rafter.HipValOverhang;
   member.RunWithOverhang = member.Run + member.Overhang;
   member.PlumbCut = rafter.HipValPlumbCut;
@@ -105,7 +101,7 @@ void TakeHipOrValley(ElevationMember& member, const Rafter& rafter, const Drawin
   member.FasciaFactor = std::sqrt(2.0);
 }
 
-/// What cannot be cut from the lumber ends at its edges: a drop that eats up the heel leaves none, a fascia
+/// What the lumber has no wood for ends at its edges: a drop greater than the heel leaves no heel, the fascia
 /// ends at the underside, a heel deeper than the lumber has no seat.
 void KeepWithinLumber(ElevationMember& member) {
   if (member.Heel < 0) {
@@ -134,9 +130,9 @@ ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext
   member.CommonUnitRun = context.UnitRun;
   member.Slope = rafter.Slope;
   member.CommonSlope = rafter.Slope;
-  if (rafter.RafterType == RafterType::kHipEndCommon) {
+  if (rafter.RafterType == Member::kHipEndCommon) {
     TakeHipEndCommon(member, rafter, context);
-  } else if (rafter.RafterType == RafterType::kBastardHip) {
+  } else if (rafter.RafterType == Member::kBastardHip) {
     TakeBastardHip(member, rafter, context);
   } else if (member.IsCommon()) {
     TakeCommon(member, rafter, context);
@@ -144,7 +140,7 @@ ElevationMember ChooseElevationMember(const Rafter& rafter, const DrawingContext
     TakeHipOrValley(member, rafter, context);
   }
   KeepWithinLumber(member);
-  member.ShowsWholeRise = member.IsCommon() || rafter.RafterType == RafterType::kBastardHip;
+  member.ShowsWholeRise = member.IsCommon() || rafter.RafterType == Member::kBastardHip;
   member.SlopeText = TitleOf(member, rafter, context.RiseOverRun);
   return member;
 }

@@ -1,4 +1,4 @@
-// The measures of the member that an elevation shows, chosen once from the record.
+// The measures of the member shown in an elevation, taken from the record once.
 #pragma once
 
 #include <string>
@@ -11,13 +11,13 @@ namespace pitchcraft {
 
 enum class ElevationFamily { kCommon, kHip, kValley };
 
-/// How far the cut of an end departs from square at each cheek, degrees, as the member is seen from below.
+/// The angle at each cheek between the cut of an end and a square cut, in degrees, seen from below.
 struct CheekBevels {
   double Upper = 45;
   double Lower = 45;
 };
 
-/// Lengths are those of the record (inches or millimetres), in the plane that the member stands in.
+/// Lengths are those of the record (inches or millimetres), in the member's own vertical plane.
 struct ElevationMember {
   ElevationFamily Family = ElevationFamily::kCommon;
   Single Run;  ///< from the outside of the wall to the ridge cut
@@ -30,25 +30,26 @@ struct ElevationMember {
   Single Seat;          ///< level; infinite where the underside is level, 0 where there is no notch
   Single Fascia;        ///< plumb height of the tail cut, 0 to PlumbCut
   Single Depth;         ///< of the lumber, square to its edges
-  Single CommonDepth;   ///< of the main common, whose square cut the fascia follows round the corner
+  Single CommonDepth;   ///< of the main common, whose square cut the fascia follows around the corner
   Single CommonSlope;   ///< of the main common, for CommonUnitRun
-  Single Drop;          ///< of the top edge below the roof planes: hips only
+  Single Drop;          ///< of the top edge below the roof planes; hips only
   Single Slope;         ///< rise for UnitRun
   double UnitRun = 12;  ///< in the member's own plane
   double CommonUnitRun = 12;
-  /// The way along the member for one unit square to an eave: how a square cut's fascia is seen from its
-  /// side.
+  /// The distance along the member for one unit square to an eave: how far a square cut's fascia reaches in
+  /// its side view.
   double FasciaFactor = 1;
   CheekBevels TailBevels;
   CheekBevels RidgeBevels;
-  Single Kneewall;  ///< run from the wall to the kneewall; 0 where none is drawn
+  Single Kneewall;  ///< run from the wall to the kneewall; 0 if none is drawn
   Single KneewallRise;
   std::string SlopeText;        ///< the title: rise over run or degrees
   bool ShowsWholeRise = false;  ///< on the later pages
   bool HipEnd = false;          ///< the common of a hip end with a slope of its own
 
   bool IsCommon() const { return Family == ElevationFamily::kCommon; }
-  /// Cut square to its own top edge. The fascia that runs round from it meets the others at a slant.
+  /// The tail is cut square to the member's own top edge. The fascia goes on around the roof from there and
+  /// meets the other members at a slant.
   bool SetsFascia() const { return IsCommon() && !HipEnd; }
 };
 

@@ -1,4 +1,4 @@
-// Plan and layout of a hip roof's end as DXF drawings.
+// The end of a hip roof as DXF drawings: plan and layout.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@
 namespace pitchcraft {
 namespace {
 
-// In heights of a text.
+// In text heights.
 constexpr double kSlopeHeight = 1.25;
 constexpr double kFootPitch = 1.4;  // from one text to the next
 constexpr double kLeaderGap = 0.25;
@@ -23,7 +23,7 @@ constexpr int kUpward = 90;
 constexpr double kShrink = 0.75;
 constexpr int kMostShrinks = 12;
 
-/// The figure is that of the roof, not of its recording, which rounds each point.
+/// Drawn from the roof itself, not from its recording, in which every point is rounded.
 class HipExport {
  public:
   HipExport(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter, const PrintContext& context)
@@ -96,8 +96,8 @@ class HipExport {
     return static_cast<double>(text.size()) * height * kLetterWidth;
   }
 
-  /// Between ridge and wall, above the extension line that runs out from the peak and below the line of the
-  /// whole width.
+  /// Between the ridge and the wall, above the extension line that runs out from the peak and below the
+  /// dimension line of the whole width.
   void WriteMainSlope() {
     const std::string text = WithoutDegreeSign(MainSlopeText(rafter_, context_.Drawing.RiseOverRun));
     const double base = outline_.EndRun + slopeGap_;
@@ -111,7 +111,7 @@ class HipExport {
     form_.Label(text, {middle, base}, "C", height);
   }
 
-  /// Where the line of the whole width stands in the file.
+  /// Where the dimension line of the whole width is in the file.
   double WidthLine() const {
     double highest = outline_.Top;
     for (const DrawnDimension& dimension : board_.Dimensions) {
@@ -137,8 +137,8 @@ class HipExport {
     form_.Label(text, {outline_.MainRun + (centred ? 0 : slopeGap_), base}, align, height);
   }
 
-  /// Rafters that stand closer than the lettering is high have smaller texts. The common makes room for a
-  /// jack close beside it; a line leads to its text then.
+  /// Where rafters are closer together than the lettering is high, the texts get smaller. The common's text
+  /// moves aside for a jack close by; a line then leads to it.
   void WriteFeet(const HipLayout& layout, HipRoofFace face) {
     std::vector<const LaidRafter*> rafters;
     for (const LaidRafter& rafter : layout.Rafters) {

@@ -8,31 +8,31 @@
 namespace pitchcraft {
 namespace {
 
-// Singles of a roof's size agree to this share of its run.
+// Singles of a roof's size agree to within this fraction of its run.
 constexpr double kSamePlace = 1e-5;
 constexpr double kStubSpacings = 1.5;
-// The last common stands at least as far below the cut through the main roof as without it.
+// The cut through the main roof is at least this many spacings above the last common.
 constexpr double kAboveLastCommon = 0.5;
 
 /// The end of a plain hip is its side turned round: what the record holds of it may be older than the side.
-bool IsPlain(const Rafter& rafter) { return rafter.RafterType != RafterType::kBastardHip; }
+bool IsPlain(const Rafter& rafter) { return rafter.RafterType != Member::kBastardHip; }
 
-/// One face as its jacks see it: they stand along its eave and run square to it.
+/// One face from the point of view of its jacks, which stand along its eave and run square to it.
 struct Face {
   HipRoofFace Side = HipRoofFace::kEnd;
-  double Middle = 0;   // where its common stands along the eave
-  double Corner = 0;   // the wall corner along the eave
-  double Wall = 0;     // the wall along a jack
+  double Middle = 0;   // the middle of its common along the eave
+  double Corner = 0;   // the wall corner, along the eave
+  double Wall = 0;     // the wall, along a jack
   double Ratio = 0;    // run of the hip along a jack for one unit along the eave
   double Slope = 0;    // rise for one unit of run
   double Longest = 0;  // run to the ridge board
   double WholeRun = 0;
 };
 
-/// Neighbouring places, the first one nearest to the common.
+/// Places at equal spacing, starting with the one nearest to the common.
 struct Places {
   double First = 0;
-  double Lowest = 0;  // a jack further out would stand outside of the eave
+  double Lowest = 0;  // a jack further out would be outside the eave
 };
 
 class HipLayoutBuilder {
@@ -84,8 +84,8 @@ class HipLayoutBuilder {
 
   Places FromCommon(double common) const { return {common - layout_.Spacing, 0}; }
 
-  /// The corner's places: its own and those that lie in the overhang and towards the middle. A jack that
-  /// would stand in the common is none.
+  /// The places counted from the corner: the corner's own, those in the overhang and those towards the
+  /// middle. A jack cannot be where the common is.
   Places FromCorner(const Face& face) const {
     const double own = face.Corner + (IsFlush() ? thickness_ / 2 : 0);
     const double steps = std::floor((face.Middle - thickness_ - own + same_) / layout_.Spacing);
@@ -94,7 +94,7 @@ class HipLayoutBuilder {
 
   bool IsFlush() const { return options_.Layout == JackLayout::kCornersFlush; }
 
-  /// Whether the places from the corner have one for the common at the peak.
+  /// Whether the common at the peak falls on one of the places counted from the corner.
   bool StandsOnPeak() const {
     const double own = main_.Corner + (IsFlush() ? thickness_ / 2 : 0);
     return std::fabs(std::remainder(main_.Middle - own, layout_.Spacing)) <= same_;
@@ -113,13 +113,13 @@ class HipLayoutBuilder {
     }
   }
 
-  /// False when the hip takes all of it: then no further one exists, either.
+  /// False when the hip leaves no room for this jack; further out there is no room either.
   bool AddJack(const Face& face, double place) {
     if (place >= face.Middle - same_) {
       AddCommon(face, place, "Common");
       return true;
     }
-    // Its longest edge is the one towards the common; it ends at the side of the hip or at the ridge board.
+    // The longest edge is the one towards the common; it ends at the side of the hip or at the ridge board.
     const double toHip = (place + thickness_ / 2) * face.Ratio - halfHip_ * std::hypot(1, face.Ratio);
     const double run = std::min(toHip, face.Longest);
     if (!(run > same_)) return false;
@@ -152,7 +152,7 @@ HipOutline OutlineOfHip(const Rafter& rafter, const HipLayoutOptions& options) {
   outline.EndRun = endSpan + outline.EndOverhang;
   outline.Top = outline.EndRun + kStubSpacings * rafter.spacing;
   if (options.LastCommon) {
-    // It stands on the ridge; below the peak it would be a jack.
+    // The last common reaches the ridge; below the peak it would be a jack.
     outline.LastCommon = std::max(*options.LastCommon, endSpan);
     outline.Top = std::max(outline.Top, outline.LastCommonPlace() + kAboveLastCommon * rafter.spacing);
   }

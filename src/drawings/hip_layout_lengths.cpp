@@ -1,8 +1,8 @@
-// The lengths at the feet of the jacks and the notes of a hip layout.
+// The lengths at the feet of the jacks, and the notes of a hip layout.
 //
-// A length stands across the eave, so its neighbours are as close as the rafters are. Where they are closer
-// than the lettering is high, it shrinks a little, then every second one moves out of the row, and only then
-// it shrinks further.
+// A length is written across the eave, so the texts are as close together as the rafters. Where that is
+// closer than the lettering is high, the lettering first shrinks a little, then every second text moves to
+// another row, and only then does the lettering shrink further.
 #include <algorithm>
 
 #include "core/run_time_error.h"
@@ -62,7 +62,7 @@ void HipPlanDrafter::WriteFeetOf(HipRoofFace face, const HipLayout& layout, cons
   for (std::size_t at = 0; at < rafters.size(); ++at) {
     const double foot = Units(rafters[at]->Place);
     double place = foot;
-    // The common's own place is free on its far side: there it makes room for a jack close beside it.
+    // The other side of the common is free, so its text moves that way for a jack close by.
     if (at == 0 && rafters.size() > 1) {
       place = std::max(place, Units(rafters[1]->Place) + lettering.LeastPitch());
     }
@@ -71,8 +71,8 @@ void HipPlanDrafter::WriteFeetOf(HipRoofFace face, const HipLayout& layout, cons
   }
 }
 
-/// `away` is how much further out than the first row the text begins; a thin line leads to one that does not
-/// stand at its rafter's foot.
+/// `away` is how much further out than the first row the text begins. A thin line leads to a text that is not
+/// at the foot of its rafter.
 void HipPlanDrafter::WriteFoot(HipRoofFace face, double foot, double at, const std::string& text, double away,
                                const FootLettering& lettering) {
   if (text.empty()) return;
@@ -93,7 +93,7 @@ void HipPlanDrafter::WriteFoot(HipRoofFace face, double foot, double at, const s
   board_.Letters.Angle = 0;
 }
 
-/// Below all that stands, so that no length runs into them.
+/// Below everything else, so that no length runs into the notes.
 void HipPlanDrafter::WriteNotes() {
   double base = board_.Recorder.MinY() - board_.DimTextHeight;
   for (const HipNote& note : NotesOfHipLayout(rafter_, context_.HipLayout)) {

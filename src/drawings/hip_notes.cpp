@@ -78,7 +78,7 @@ std::vector<HipNote> NotesOfHipLayout(const Rafter& rafter, const HipLayoutOptio
     notes.push_back({HipNoteKind::kFromLastCommon, {}});
     notes.push_back({HipNoteKind::kLastCommon, lastCommon});
   }
-  // The drop of the end wall outlives the roof that it was worked out for; only a moved wall has one.
+  // HipEndDrop may be left over from an earlier roof; it counts only if the end wall was moved.
   if (rafter.HipEndOverhangExcess == 0) return notes;
   notes.push_back({HipNoteKind::kOverhangsEqual, {}});
   notes.push_back({HipNoteKind::kHipsOffset, std::fabs(rafter.HipShift)});

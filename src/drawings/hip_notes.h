@@ -1,5 +1,5 @@
-// What plan and layout of a hip roof tell in words, the same on screen, on paper and in DXF: slopes, what
-// stands at a rafter's foot, and the rules that the layout follows, in one order.
+// The words in the plan and the layout of a hip roof, the same on screen, on paper and in DXF: the slopes,
+// the text at the foot of a rafter, and the rules of the layout in their order.
 #pragma once
 
 #include <functional>
@@ -29,19 +29,19 @@ enum class HipNoteKind {
 
 struct HipNote {
   HipNoteKind Kind = HipNoteKind::kLongestEdge;
-  std::optional<double> Length;  ///< of the notes that tell one
+  std::optional<double> Length;  ///< for the notes that give one
 };
 
-/// The notes whose condition holds, in their order.
+/// The notes that apply, in order.
 std::vector<HipNote> NotesOfHipLayout(const Rafter& rafter, const HipLayoutOptions& options);
 
 using LengthTextFunction = std::function<std::string(double)>;
-/// As screen and paper show it, set in by blanks.
+/// As on screen and on paper, indented with blanks.
 std::string ScreenText(const HipNote& note, const LengthTextFunction& lengthText);
-/// As a DXF file holds it; some of its wording is its own.
+/// As in a DXF file, where some notes are worded differently.
 std::string ExportText(const HipNote& note, const LengthTextFunction& lengthText);
 
-/// The name of a common, the length of a jack; nothing for a jack without one.
+/// The name of a common or the length of a jack; empty for a jack without one.
 std::string FootText(const LaidRafter& rafter, const LengthTextFunction& lengthText);
 
 /// Rise over run, or degrees.

@@ -1,4 +1,4 @@
-// The end of a hip roof from above: its plan, and the layout of its rafters, on screen, on paper and as DXF
+// The end of a hip roof from above: its plan and the layout of its rafters, on screen, on paper and as DXF
 // drawings.
 #pragma once
 
@@ -10,20 +10,19 @@
 
 namespace pitchcraft {
 
-/// Records hips, eaves, walls, slopes and the last common. The canvas size must stand. Raises Overflow when
-/// the figure is infinite or too large to draw; the recording is then empty.
+/// Records hips, eaves, walls, slopes and the last common. The size of the canvas must be set. Raises
+/// Overflow if the figure is infinite or too large to draw; the recording is then empty.
 void DrawHipPlan(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
 
-/// The same with each common and jack, the jacks' lengths at their feet and the rules of the layout. Raises
-/// the error of LayOutHip, too.
+/// The same with every common and jack, the lengths of the jacks at their feet and the rules of the layout.
+/// Also raises the error of LayOutHip.
 void DrawHipLayout(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context);
 
-/// Draws for paper and prints the sheet.
+/// Draws for paper and makes the print.
 void PrintHipPlan(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context);
 void PrintHipLayout(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context);
 
-/// Writes the roof whose drawing the board holds, in real size, to the fraction of a unit that the layout is
-/// worked out to.
+/// Writes in real size the roof whose drawing is on the board, as exactly as its layout was worked out.
 void ExportHipPlan(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,
                    const PrintContext& context);
 void ExportHipLayout(DxfWriter& writer, const DraftingBoard& board, const Rafter& rafter,

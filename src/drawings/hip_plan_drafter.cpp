@@ -1,4 +1,4 @@
-// Outline, slopes and dimensions of plan and layout, and the order of all their steps.
+// Outline, slopes and dimensions of plan and layout, and the order of all steps.
 #include "drawings/hip_plan_drafter.h"
 
 #include <algorithm>
@@ -100,7 +100,7 @@ void HipPlanDrafter::DrawLastCommon(const HipOutline& outline) {
   board_.Strokes.SetDrawWidth(0);
 }
 
-/// The left half stands for the whole end: the right half holds what is written into it.
+/// Only the left half shows rafters: the right half is free for lettering.
 void HipPlanDrafter::DrawRafters(const HipLayout& layout) {
   board_.Strokes.SetPenColor(context_.DimColor);
   for (const LaidRafter& rafter : layout.Rafters) {
@@ -117,8 +117,8 @@ void HipPlanDrafter::DrawRafters(const HipLayout& layout) {
   }
 }
 
-/// The main slope stands right of the ridge, above the dimension's extension line that runs out from the
-/// peak; the slope of the end above its eave.
+/// The main slope is to the right of the ridge, above the dimension's extension line that runs out from the
+/// peak; the slope of the end is above the end's eave.
 void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
   const double base = Y(kPeak) + Twips(kGap);
   const double middle = (X(kPeak) + X(9)) / 2;
@@ -131,7 +131,7 @@ void HipPlanDrafter::LabelSlopes(int endAlign, double endX) {
   board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
 }
 
-/// Between the eaves, also above them, where the dimension's extension lines will run up.
+/// Stays between the eaves even above the drawing, where the dimension's extension lines will run up.
 void HipPlanDrafter::WriteWhereClear(const std::string& text, const std::vector<PointRecord>& places,
                                      int align) {
   const PointRecord* place = nullptr;
@@ -148,8 +148,8 @@ void HipPlanDrafter::WriteWhereClear(const std::string& text, const std::vector<
   board_.Text(text, place->X, place->Y, align);
 }
 
-/// The end's run at the right; the whole width above, clear of the main slope's label where the roof is cut
-/// off close to the peak.
+/// The run of the end goes on the right, the whole width on top. Where the roof is cut off close to the peak,
+/// the width keeps clear of the main slope's label.
 void HipPlanDrafter::DimensionOutline() {
   board_.Strokes.SetPenColor(context_.DimColor);
   Dimension run = PlainDimension(board_, kVertical, kPeak, kRightCorner, 2 * board_.DimLeg);

@@ -1,4 +1,4 @@
-// The steps of the plan and of the layout of a hip roof's end, in the order in which they are recorded.
+// The steps that draw the plan and the layout of a hip roof's end, in the order of their recording.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ class HipPlanDrafter {
   void DrawLastCommon(const HipOutline& outline);
   void DrawRafters(const HipLayout& layout);
   void LabelSlopes(int endAlign, double endX);
-  /// Writes a slope at the first of the places where nothing stands; smaller where there is none.
+  /// Writes a slope at the first place that is clear, in smaller letters if none is.
   void WriteWhereClear(const std::string& text, const std::vector<PointRecord>& places, int align);
   void DimensionOutline();
 

@@ -1,4 +1,4 @@
-// What stands beside the plan and the layout of a hip roof's end, on paper and in a file.
+// What is printed beside the plan and the layout of a hip roof's end, and written into their files.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ std::string HipPlanTitle(const Rafter& rafter);
 /// "Hip Roof - Layout  (16" o.c. spacing)".
 std::string HipLayoutTitle(const Rafter& rafter, const PrintContext& context);
 
-/// The measures of both, in three columns.
+/// The measures for plan and layout alike, in three columns.
 SheetColumns HipRows(const Rafter& rafter, const PrintContext& context);
 
 }  // namespace pitchcraft

@@ -19,12 +19,12 @@ constexpr double kRowSize = 9;
 constexpr double kRulePast = 100;  // the rule runs past the right edge
 constexpr double kColumnGap = 120;
 constexpr double kIndent = 180;
-// The drawing: below half an inch, above an inch and a half, a little to the right.
+// The drawing starts half an inch down, leaves an inch and a half in all, and is moved a little to the right.
 constexpr double kAboveDrawing = kTwipsPerInch / 2.0;
 constexpr double kAroundDrawing = 1.5 * kTwipsPerInch;
 constexpr double kLeftOfDrawing = 75;
 
-/// The text, shortened until it is no wider than that.
+/// The text, shortened until it fits the width.
 std::string Fitted(const Printer& page, const std::string& text, double width) {
   if (page.TextWidth(text) <= width) return text;
   std::string kept;
@@ -41,7 +41,7 @@ struct PlacedRow {
   double Indent = 0;
 };
 
-/// Breaks a row between words where it is wider than the column.
+/// Breaks a row between words if it is wider than the column.
 std::vector<PlacedRow> Broken(const Printer& page, const std::string& row, double width) {
   std::vector<PlacedRow> lines;
   std::string line;
@@ -97,12 +97,12 @@ std::string FourDecimals(double degrees) {
   return text;
 }
 
-std::string Row(const std::string& label, const MeasureControl& field) {
-  return label + " = " + field.Text();
+std::string LengthRow(const PrintContext& context, const std::string& label, double length) {
+  return label + " = " + context.LengthText(length);
 }
 
-std::string Row(const std::string& label, const PairControl& lumber) {
-  return label + " = " + lumber.LeftText() + " x " + lumber.RightText();
+std::string LumberRow(const PrintContext& context, const std::string& label, double thickness, double depth) {
+  return label + " = " + context.LengthText(thickness) + " x " + context.LengthText(depth);
 }
 
 std::string SlopeRow(const std::string& label, const std::string& pitch, double degrees) {

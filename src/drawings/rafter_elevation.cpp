@@ -9,7 +9,7 @@ void DrawRafter(DraftingBoard& board, const Rafter& rafter, const DrawingContext
   RecordOrAbandon(board, [&] { RafterElevationDrafter(board, rafter, context).Draw(); });
 }
 
-// One view: what sets the three members of a bastard hip roof apart is chosen with the member.
+// One view for all: the three members of a bastard hip roof differ only in their measures.
 void DrawBastardHipRafters(DraftingBoard& board, const Rafter& rafter, const DrawingContext& context) {
   DrawRafter(board, rafter, context);
 }

@@ -1,7 +1,6 @@
 // The dimensions along the top edge, at the tail and below the wood, and how they are stacked.
 //
-// No text is struck by a line: where a measure is too short for its text, the text moves to where nothing
-// runs.
+// No line runs through a text: where a measure is too short for its text, the text moves to where no line is.
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -31,11 +30,8 @@ double RafterElevationDrafter::WidthOfLength(int kind, int p1, int p2) {
   return board_.WidthOf(board_.DimensionText(kind, p1, p2), board_.DimTextHeight);
 }
 
-// --- Along the top edge
-// ---------------------------------------------------------------------------------------------
-
-/// A text that is too long for its line moves down the rafter, clear of the extension lines that the outer
-/// dimensions have at the upper end, and over its own lower one.
+/// A text too long for its line moves down the rafter, clear of the outer dimensions' extension lines at the
+/// upper end, and over its own lower one.
 void RafterElevationDrafter::Along(int p1, int p2, double tier) {
   const double dx = X(p2) - X(p1);
   const double dy = Y(p2) - Y(p1);
@@ -72,17 +68,14 @@ void RafterElevationDrafter::DimensionAlongRafter() {
   if (!reach.Empty()) ChooseTailColumn(reach.Left());
 }
 
-// --- Tail
-// -----------------------------------------------------------------------------------------------------------
-
-/// The height of a plumb tail cut, left of it. The text stands between the two arrows or below them.
+/// The height of a plumb tail cut, to the left of it. The text goes between the two arrows or below them.
 void RafterElevationDrafter::DimensionTail() {
   if (!(member_.Overhang > 0) || geometry_.SquareCut || Y(3) == Y(2)) return;
   Dimension dimension = Plain(kVertical, 3, 2, tailGap_ + tailLeg_ - board_.DimGap);
   dimension.ArrowsOutside = 1;
   dimension.TextMode = 3;
   const bool arrowAbove = WholeRiseIsShown() && Y(0) - Y(2) <= Twips(kRoomForArrows);
-  if (arrowAbove) {  // it comes down where the text would stand
+  if (arrowAbove) {  // it comes down where the text would be
     const double column = X(2) - dimension.Gap - dimension.Leg;
     const double half = WidthOfLength(kVertical, 3, 2) / 2;
     const bool fits = Y(2) - Y(3) >= Twips(kCapital + 2 * kClear);
@@ -93,9 +86,9 @@ void RafterElevationDrafter::DimensionTail() {
   board_.Pts(13).X = board_.Pts(11).X;
 }
 
-/// The heights at the tail share one line. It stands far enough out that the tail's text, which is centred on
-/// it, ends clear of the arrows of the overhang below; and beside a steep rafter clear of the lengths along
-/// the top edge.
+/// The heights at the tail share one line. It is far enough out that the text of the tail, which is centred
+/// on it, ends clear of the arrows of the overhang below. Beside a steep rafter it also keeps clear of the
+/// lengths along the top edge.
 void RafterElevationDrafter::ChooseTailColumn(double lengthsLeft) {
   tailGap_ = board_.DimGap;
   tailLeg_ = kTailTier * board_.DimLeg;
@@ -115,7 +108,7 @@ void RafterElevationDrafter::ChooseTailColumn(double lengthsLeft) {
   tailLeg_ = board_.DimArrow;
 }
 
-/// Centre of the base line, left of the line; further left where the text is longer than the line.
+/// The centre of the base line, left of the line; further left if the text is longer than the line.
 PointRecord RafterElevationDrafter::WholeRiseText() {
   const double line = X(2) - tailGap_ - tailLeg_;
   const double length = Y(0) - Y(2);
@@ -125,10 +118,10 @@ PointRecord RafterElevationDrafter::WholeRiseText() {
 }
 
 bool RafterElevationDrafter::WholeRiseIsShown() const {
-  return member_.ShowsWholeRise && context_.CurrentTab > 0 && Y(0) > Y(2);
+  return member_.ShowsWholeRise && !context_.OnDesignPage && Y(0) > Y(2);
 }
 
-/// On the later pages the height of the ridge above the tail, in line with the height of the tail cut.
+/// On the later pages: the height of the ridge above the tail, in line with the height of the tail cut.
 void RafterElevationDrafter::DimensionWholeRise() {
   if (!WholeRiseIsShown()) return;
   board_.Pts(14) = {board_.Pts(2).X, board_.Pts(0).Y};
@@ -139,16 +132,13 @@ void RafterElevationDrafter::DimensionWholeRise() {
   board_.Dimension2(dimension);
 }
 
-// --- Runs below
-// -----------------------------------------------------------------------------------------------------
-
 /// The lines below all hang from the lowest corner at tail and wall, so that those of one tier meet end to
 /// end.
 double RafterElevationDrafter::LevelBelow(double tier) const {
   return std::min(Y(3), Y(geometry_.WallFoot)) - board_.DimGap - tier * board_.DimLeg;
 }
 
-/// The text is turned upright: the line runs from right to left.
+/// The line runs from right to left, so its text is turned to read upright.
 Dimension RafterElevationDrafter::BelowWood(int right, int left, double tier) const {
   const double lower = std::min(Y(right), Y(left));
   Dimension dimension = Plain(kHorizontal, right, left, lower - board_.DimGap - LevelBelow(tier));
@@ -178,7 +168,7 @@ bool RafterElevationDrafter::RunNeedsOwnTier() {
   return overhangEnd + Twips(2 * kClear) > runBegin;
 }
 
-/// Over the line where it fits between the extension lines of a plumb tail, else under it.
+/// Above the line where the text fits between the extension lines of a plumb tail, otherwise below it.
 void RafterElevationDrafter::DimensionOverhang() {
   if (!(member_.Overhang > 0)) return;
   const int foot = geometry_.WallFoot;

@@ -1,4 +1,4 @@
-// Outline, angle labels and title of the side view, and the order of all its steps.
+// Outline, angle labels and title of the side view, and the order of all steps.
 #include "drawings/rafter_elevation_drafter.h"
 
 #include "core/run_time_error.h"
@@ -52,8 +52,8 @@ void RafterElevationDrafter::DrawOutline() {
   board_.Strokes.SetDrawWidth(0);
 }
 
-/// The tail of a hip's square cut is measured from the corner that the roof planes meet in: it counts towards
-/// the extents, unseen, and the wood ends a little short of it.
+/// A hip's square cut is measured from the corner where the roof planes meet. The tail counts up to there
+/// towards the extents, unseen; the wood ends a little short of it.
 void RafterElevationDrafter::DrawTail() {
   if (member_.Overhang == 0) return;
   const PointRecord& first = geometry_.FirstTail;
@@ -88,8 +88,8 @@ void RafterElevationDrafter::WidenByMargin() {
   board_.Strokes.MoveToPoint(right, top);
 }
 
-/// The plumb angle stands on the extension line that starts at the ridge; the angle of a square tail hangs
-/// beside the tail's end.
+/// The plumb angle is above the extension line that starts at the ridge; the angle of a square tail is beside
+/// the end of the tail.
 void RafterElevationDrafter::LabelAngles() {
   board_.Letters.FontHeight = ToLong(board_.DimTextHeight);
   board_.Text(AngleText(geometry_.PlumbAngle), X(0) + board_.DimGap, Y(0), kAlignLeftBottom);
@@ -97,7 +97,7 @@ void RafterElevationDrafter::LabelAngles() {
   board_.Text(AngleText(geometry_.TailAngle), X(2) - board_.DimGap, Y(2), kAlignRightTop);
 }
 
-/// In the left upper corner; above everything where a line or a text stands there.
+/// In the left upper corner, or above everything if a line or text is there.
 void RafterElevationDrafter::WriteTitle() {
   const double height = Twips(kTitleTwips);
   const DrawingRecorder& canvas = board_.Recorder;

@@ -1,4 +1,4 @@
-// The steps of one rafter's side view, in the order in which they are recorded.
+// The steps that draw the side view of one rafter, in the order of their recording.
 #pragma once
 
 #include <optional>
@@ -17,7 +17,6 @@ class RafterElevationDrafter {
   void Draw();
 
  private:
-  // Outline.
   void DrawOutline();
   void DrawTail();
   void DrawHeelLines();
@@ -34,16 +33,16 @@ class RafterElevationDrafter {
 
   /// A dimension with the measures of this drawing.
   Dimension Plain(int kind, int p1, int p2, double leg) const;
-  /// `p1` up to `p2` along the top edge.
+  /// From `p1` up to `p2` along the top edge.
   void Along(int p1, int p2, double tier);
   void ChooseTailColumn(double lengthsLeft);
   PointRecord WholeRiseText();
   bool WholeRiseIsShown() const;
-  /// Below the wood, with the text under the line; its centre stands between two limits.
+  /// Below the wood, with the text under the line and the text's centre between the two limits.
   void Below(int right, int left, double tier, double leftLimit, double rightLimit);
   Dimension BelowWood(int right, int left, double tier) const;
   double LevelBelow(double tier) const;
-  /// True where the overhang's text and the run's would meet on one line.
+  /// True if the texts of overhang and run would meet on one line.
   bool RunNeedsOwnTier();
   int TailEnd() const { return geometry_.SquareCut ? 2 : 3; }
   std::optional<double> HeelColumnInside(double start, double textWidth) const;
@@ -51,7 +50,7 @@ class RafterElevationDrafter {
   void WholeHeight();
   void KneewallHeights();
   PointRecord BesideHeight(double begin, int upper, int lower, bool above);
-  /// A height at the right: `column` is the x of its dimension line.
+  /// A height on the right: `column` is the x of its dimension line.
   Dimension RightOfRidge(int upper, int lower, double column) const;
   bool ArrowsStandOutside(int upper, int lower) const;
   bool TextStandsAside(int upper, int lower);
@@ -59,7 +58,6 @@ class RafterElevationDrafter {
   double WidthOfLength(int kind, int p1, int p2);
   double Twips(double twips) const { return twips * board_.PointFactor; }
 
-  // Lettering.
   void LabelAngles();
   double AngleLabelEnd();
   void WriteTitle();
@@ -70,13 +68,13 @@ class RafterElevationDrafter {
 
   DraftingBoard& board_;
   const DrawingContext& context_;
-  RafterType type_;
+  Member type_;
   ElevationMember member_;
   ElevationGeometry geometry_;
   Single ratio_;
-  double tailGap_ = 0;  // of the heights left of the tail
+  double tailGap_ = 0;  // of the heights to the left of the tail
   double tailLeg_ = 0;
-  double heelColumnEnd_ = 0;  // right end of a heel dimension that stands right of the ridge; else 0
+  double heelColumnEnd_ = 0;  // right end of a heel dimension that is right of the ridge; otherwise 0
 };
 
 }  // namespace pitchcraft

@@ -1,4 +1,4 @@
-// The rafter from below at the foot of the drawing, with the bevels of its two ends.
+// The rafter from below, at the foot of the drawing, with the bevels of its two ends.
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -13,10 +13,10 @@
 namespace pitchcraft {
 namespace {
 
-// The longest point that is drawn, in half thicknesses: a sharper one is shown blunt.
+// The longest point that is drawn, in half thicknesses; a sharper one is drawn blunt.
 constexpr double kLongestPoint = 6;
 
-/// How an end is cut, seen from below. A point fits into a corner, a notch over one.
+/// How an end is cut, seen from below. A point fits into a corner, a notch fits around one.
 enum class EndCut { kPoint, kNotch, kOneSided, kSquare };
 
 struct BeveledEnds {
@@ -24,13 +24,13 @@ struct BeveledEnds {
   EndCut Tail;
 };
 
-std::optional<BeveledEnds> EndsOf(RafterType type) {
+std::optional<BeveledEnds> EndsOf(Member type) {
   switch (type) {
-    case RafterType::kHip:
-    case RafterType::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
-    case RafterType::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
-    case RafterType::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
-    case RafterType::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
+    case Member::kHip:
+    case Member::kBastardHip: return BeveledEnds{EndCut::kPoint, EndCut::kPoint};
+    case Member::kValley: return BeveledEnds{EndCut::kPoint, EndCut::kNotch};
+    case Member::kLongValley: return BeveledEnds{EndCut::kOneSided, EndCut::kNotch};
+    case Member::kShortValley: return BeveledEnds{EndCut::kSquare, EndCut::kNotch};
     default: return std::nullopt;
   }
 }
@@ -44,7 +44,7 @@ std::vector<std::string> RowsOf(const CheekBevels& bevels) {
   return {AngleText(bevels.Upper) + " bevel", AngleText(bevels.Lower) + " bevel"};
 }
 
-/// How far the two edges and the middle of an end stand inside of its outermost line, in half thicknesses.
+/// How far the two edges and the middle of an end lie inside its outermost line, in half thicknesses.
 struct EndShape {
   double Upper, Middle, Lower;
 };
@@ -65,17 +65,17 @@ EndShape ShapeOf(EndCut cut, const CheekBevels& bevels) {
 
 }  // namespace
 
-EndLabels EndLabelsOf(RafterType type, const ElevationMember& member) {
+EndLabels EndLabelsOf(Member type, const ElevationMember& member) {
   const std::optional<BeveledEnds> ends = EndsOf(type);
   if (!ends) return {};
-  if (type == RafterType::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
+  if (type == Member::kBastardHip) return {RowsOf(member.TailBevels), RowsOf(member.RidgeBevels)};
   return {RowsOf(ends->Tail), RowsOf(ends->Ridge)};
 }
 
-/// Only where the drawing is narrower than its canvas, beside which the labels have room.
+/// Drawn only if the drawing is narrower than its canvas, so that the labels have room on either side.
 void RafterElevationDrafter::DrawEndView() {
   const std::optional<BeveledEnds> ends = EndsOf(type_);
-  if (!ends || context_.CurrentTab <= 0 || !(ratio_ < 1)) return;
+  if (!ends || context_.OnDesignPage || !(ratio_ < 1)) return;
   const double half = board_.DimTextHeight / 2;
   const double top = board_.Recorder.MinY() - 2 * board_.DimTextHeight;
   const EndShape ridge = ShapeOf(ends->Ridge, member_.RidgeBevels);

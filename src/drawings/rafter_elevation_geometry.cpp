@@ -18,7 +18,7 @@ class ElevationBuilder {
  public:
   ElevationBuilder(const ElevationMember& member, bool squareCut, double scale, PointArray& pts)
       : member_(member), scale_(scale), pts_(pts) {
-    // Without a tail there is nothing to cut square: the end stands plumb on the wall line.
+    // Without a tail there is nothing to cut square: the end is plumb on the wall line.
     geometry_.SquareCut = squareCut && member.Overhang > 0;
     geometry_.Kneewall = member.Kneewall > 0;
   }
@@ -71,12 +71,12 @@ void ElevationBuilder::LayOutTail() {
   CutAlongFasciaPlane();
 }
 
-/// A plumb cut as high as the fascia, then level along the soffit to the underside, at the furthest to the
+/// A plumb cut as high as the fascia, then level along the soffit to the underside, but no further than the
 /// wall.
 void ElevationBuilder::CutPlumb() {
   pts_(3) = Moved(pts_(2), 0, -member_.Fascia * scale_);
   double soffit = member_.UnitRun * (member_.PlumbCut - member_.Fascia) / member_.Slope;
-  // Also where the underside is as level as the soffit, and the division says nothing.
+  // Also true where the underside is level like the soffit and the division gives no number.
   reachesWall_ = !(soffit >= 0 && soffit < member_.Overhang);
   if (reachesWall_) soffit = member_.Overhang;
   pts_(4) = Moved(pts_(3), soffit * scale_, 0);
@@ -88,9 +88,9 @@ void ElevationBuilder::CutCommonSquare() {
   EndTailAt(angle, member_.Depth);
 }
 
-/// The fascia stands square to the main commons and keeps that tilt all round. Its plane meets the plane of a
-/// hip or valley in a line that is flatter than the common's own cut, by the square root of two in plan; the
-/// tail is cut along that line to the underside.
+/// The fascia is square to the main commons and keeps that tilt all around the roof. Its plane meets the
+/// plane of a hip or valley in a line that is flatter than the common's own cut, by the square root of two in
+/// plan. The tail is cut along that line to the underside.
 void ElevationBuilder::CutAlongFasciaPlane() {
   const double a = std::atan(member_.CommonUnitRun / member_.CommonSlope);
   const PointRecord cut = DraftingBoard::AngleDistance(-a, member_.CommonDepth);
@@ -102,8 +102,8 @@ void ElevationBuilder::CutAlongFasciaPlane() {
   EndTailAt(Radians(90 - e), member_.Depth / std::cos(Radians(90 - g)));
 }
 
-/// A hip's top edge lies below the roof planes by its drop. The fascia plane, which stands on the planes'
-/// corner, meets it further up; the triangle of drop, top edge and cut gives by how much.
+/// A hip's top edge is below the roof planes by its drop. The fascia plane starts where the roof planes meet,
+/// so it reaches the top edge further up: by how much follows from the triangle of drop, top edge and cut.
 void ElevationBuilder::ShortenHipTail(double cutFromPlumb) {
   const double allowance = member_.Drop * std::sin(Radians(geometry_.PlumbAngle)) *
                            std::sin(Radians(cutFromPlumb)) / std::sin(Radians(geometry_.TailAngle));
@@ -111,8 +111,8 @@ void ElevationBuilder::ShortenHipTail(double cutFromPlumb) {
   pts_(2) = {pts_(1).X + (pts_(2).X - pts_(1).X) * left, pts_(1).Y + (pts_(2).Y - pts_(1).Y) * left};
 }
 
-/// One cut of `length` at `angle` radians below the level; a cut that would run past the wall ends there, and
-/// the rest of the tail is plumb on the wall line.
+/// One cut of `length` at `angle` radians below level. A cut that would run past the wall ends there, and the
+/// rest of the tail is plumb on the wall line.
 void ElevationBuilder::EndTailAt(double angle, double length) {
   const double overhang = pts_(1).X - pts_(2).X;
   const PointRecord cut = DraftingBoard::AngleDistance(-angle, length * scale_);
@@ -142,7 +142,7 @@ void ElevationBuilder::LayOutKneewall() {
   pts_(28) = Moved(pts_(27), 0, -member_.Heel * scale_);
   pts_(29) = {std::min(pts_(28).X + member_.Seat * scale_, double{pts_(0).X}), pts_(28).Y};
   pts_(30) = Moved(pts_(28), 0, -(member_.PlumbCut - member_.Heel) * scale_);
-  // A kneewall so close that it stands over the seat: the two notches are one stair.
+  // The kneewall is so close that it is over the seat: the two notches join like stairs.
   if (pts_(30).X < pts_(7).X) pts_(7).X = pts_(30).X;
   if (notched_ && pts_(30).Y < pts_(7).Y) pts_(30).Y = pts_(7).Y;
 }

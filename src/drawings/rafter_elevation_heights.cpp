@@ -1,4 +1,4 @@
-// The heights of the side view: the heel under the rafter, ridge and kneewall to the right.
+// The heights in the side view: the heel under the rafter, ridge and kneewall on the right.
 #include <algorithm>
 
 #include "drawings/rafter_elevation_drafter.h"
@@ -11,18 +11,15 @@ using namespace measures;
 
 namespace {
 
-// Where the extension lines of the heel begin.
+// Where the heel's extension lines begin.
 constexpr int kHeelTop = 34;
 constexpr int kHeelFoot = 35;
 
 }  // namespace
 
-// --- Heel
-// -----------------------------------------------------------------------------------------------------------
-
-/// The heel is measured in the open air under the rafter: its upper extension line begins where the level of
-/// the wall's top edge comes out of the underside. Where there is no room before the ridge, the dimension
-/// stands right of it.
+/// The heel is dimensioned in the open space under the rafter: its upper extension line begins where a level
+/// line from the top edge at the wall comes out of the underside. If there is no room before the ridge, the
+/// dimension goes right of it.
 void RafterElevationDrafter::DimensionHeel() {
   if (!(member_.Heel > 0)) return;
   const double width = WidthOfLength(kVertical, 1, 5);
@@ -38,7 +35,7 @@ void RafterElevationDrafter::DimensionHeel() {
   Dimension dimension = Plain(kVertical, kHeelTop, kHeelFoot, column - start - board_.DimGap);
   dimension.ArrowsOutside = 1;
   dimension.TextMode = 2;
-  // Beside the arrows, half-way up, but clear of the line that runs on at the seat's level.
+  // Beside the arrows, half-way up, but clear of the line that continues at the seat's level.
   const double textBegin = column + Twips(kArrow + kClear);
   double base = std::max((Y(1) + Y(5)) / 2 - Twips(kCapital / 2), Y(5) + Twips(kClear));
   if (!inside && base + Twips(kCapital + kClear) > LowestLineRight()) base = Y(5) - Twips(kClear + kCapital);
@@ -47,11 +44,11 @@ void RafterElevationDrafter::DimensionHeel() {
   if (!inside) heelColumnEnd_ = textBegin + width;
 }
 
-/// The lowest of the extension lines that run out from the ridge above the seat's level.
+/// The lowest extension line that runs out from the ridge above the level of the seat.
 double RafterElevationDrafter::LowestLineRight() const { return geometry_.Kneewall ? Y(29) : Y(0); }
 
-/// The x of the heel's dimension line under the rafter: its upper arrow ends below the underside, and its
-/// text clear of the extension lines that run down from kneewall and ridge.
+/// The x of the heel's dimension line under the rafter: its upper arrow must end below the underside, and its
+/// text must be clear of the extension lines that run down from kneewall and ridge.
 std::optional<double> RafterElevationDrafter::HeelColumnInside(double wayOut, double textWidth) const {
   if (!(member_.Slope > 0)) return std::nullopt;
   const double underArrow = Twips(kOutsideArrow + kClear) * member_.UnitRun / member_.Slope;
@@ -63,9 +60,6 @@ std::optional<double> RafterElevationDrafter::HeelColumnInside(double wayOut, do
   if (!(column + reach <= X(8))) return std::nullopt;
   return column;
 }
-
-// --- Right of the ridge
-// ---------------------------------------------------------------------------------------------
 
 Dimension RafterElevationDrafter::RightOfRidge(int upper, int lower, double column) const {
   return Plain(kVertical, upper, lower, column - std::max(X(upper), X(lower)) - board_.DimGap);
@@ -90,7 +84,7 @@ void RafterElevationDrafter::DimensionHeights() {
 
 void RafterElevationDrafter::WholeHeight() {
   double column = X(0) + board_.DimGap + kHeightTier * board_.DimLeg;
-  // An arrow that stands on top of the upper extension line keeps clear of the angle that is written there.
+  // An arrow above the upper extension line keeps clear of the angle written there.
   if (ArrowsStandOutside(0, 7)) column = std::max(column, AngleLabelEnd() + Twips(kArrow));
   if (heelColumnEnd_ > 0) {
     const double leftOfLine = TextStandsAside(0, 7) ? kArrow : kGap + kCapital;
@@ -101,8 +95,8 @@ void RafterElevationDrafter::WholeHeight() {
   board_.Dimension2(dimension);
 }
 
-/// A level text right of a height's line: half-way up where it fits between the extension lines, else beyond
-/// the one that nothing stands on.
+/// A level text to the right of a height's line: half-way up if it fits between the extension lines,
+/// otherwise beyond the one that has nothing above or below it.
 PointRecord RafterElevationDrafter::BesideHeight(double begin, int upper, int lower, bool above) {
   const double half = WidthOfLength(kVertical, upper, lower) / 2;
   double base = (Y(upper) + Y(lower)) / 2 - Twips(kCapital / 2);
@@ -113,8 +107,8 @@ PointRecord RafterElevationDrafter::BesideHeight(double begin, int upper, int lo
   return {begin + half, base};
 }
 
-/// The kneewall's height above the plate and the rest up to the ridge share one line; the whole stands
-/// outside of it.
+/// The height of the kneewall above the plate and the rest up to the ridge share one line; the whole height
+/// is outside it.
 void RafterElevationDrafter::KneewallHeights() {
   board_.Pts(31) = {board_.Pts(0).X, board_.Pts(29).Y};
   const double half = WidthOfLength(kVertical, 31, 7) / 2;
@@ -128,7 +122,7 @@ void RafterElevationDrafter::KneewallHeights() {
   Dimension lower = RightOfRidge(31, 7, column);
   lower.ArrowsOutside = 1;
   lower.TextMode = 2;
-  if (upperOutside) {  // the arrow of the rest comes down where the text would stand
+  if (upperOutside) {  // the arrow of the rest comes down where the text would be
     lower.TextAt = BesideHeight(beside, 31, 7, false);
     end = lower.TextAt->X + half;
   }

@@ -10,7 +10,7 @@
 namespace pitchcraft {
 namespace {
 
-/// The view from below, moved clear of the dimensions that stand under the rafter.
+/// The view from below, moved clear of the dimensions under the rafter.
 void ExportEndView(DxfForm& form, const DraftingBoard& board, const EndLabels& labels) {
   const bool drawn = board.Pts(18).X != board.Pts(23).X || board.Pts(18).Y != board.Pts(23).Y;
   if (!drawn) return;

@@ -1,57 +1,55 @@
-// The printed sheet of one rafter: which measures stand in which column.
+// The print of one rafter: which measure goes into which column.
 #include "drawings/rafter_sheet.h"
 
 #include "drawings/rafter_elevation.h"
-#include "sheet/roof_types.h"
 
 namespace pitchcraft {
 namespace {
 
 enum class SheetFamily { kCommon, kHip, kValley };
 
-SheetFamily FamilyOf(RafterType type) {
-  if (type == RafterType::kHip) return SheetFamily::kHip;
+SheetFamily FamilyOf(Member type) {
+  if (type == Member::kHip) return SheetFamily::kHip;
   return IsValley(type) ? SheetFamily::kValley : SheetFamily::kCommon;
 }
 
 struct TitleRow {
-  int RoofType;
-  RafterType Type;
+  Roof RoofType;
+  Member Type;
   const char* Title;
 };
 
-// A roof whose two rafters are of one type has a row for each: the first is the front roof's.
+// A roof with two rafters of one type has a row for each; the front roof's comes first.
 constexpr TitleRow kTitles[] = {
-    {roof::kGable, RafterType::kCommon, "Gable Roof - Common Rafter"},
-    {roof::kShed, RafterType::kShed, "Shed Roof - Rafter"},
-    {roof::kHip, RafterType::kCommon, "Hip Roof - Common Rafter"},
-    {roof::kHip, RafterType::kHip, "Hip Roof - Hip Rafter"},
-    {roof::kValley, RafterType::kValley, "Valley - Valley Rafter"},
-    {roof::kDualSlope, RafterType::kCommon, "Dual Slope Roof - Front Rafter"},
-    {roof::kDualSlope, RafterType::kCommon, "Dual Slope Roof - Rear Rafter"},
-    {roof::kDutchHip, RafterType::kCommon, "Dutch Hip Roof - Common Rafter"},
-    {roof::kUnequalSpanValley, RafterType::kShortValley, "Unequal Span Valley - Short Valley Rafter"},
-    {roof::kUnequalSpanValley, RafterType::kLongValley, "Unequal Span Valley - Long Valley Rafter"},
-    {roof::kBastardHip, RafterType::kCommon, "Bastard Hip Roof - Common Rafter"},
-    {roof::kBastardHip, RafterType::kHipEndCommon, "Bastard Hip Roof - Hip End Common Rafter"},
-    {roof::kBastardHip, RafterType::kBastardHip, "Bastard Hip Roof - Bastard Hip Rafter"},
+    {Roof::kGable, Member::kCommon, "Gable Roof - Common Rafter"},
+    {Roof::kShed, Member::kShed, "Shed Roof - Rafter"},
+    {Roof::kHip, Member::kCommon, "Hip Roof - Common Rafter"},
+    {Roof::kHip, Member::kHip, "Hip Roof - Hip Rafter"},
+    {Roof::kValley, Member::kValley, "Valley - Valley Rafter"},
+    {Roof::kDualSlope, Member::kCommon, "Dual Slope Roof - Front Rafter"},
+    {Roof::kDualSlope, Member::kCommon, "Dual Slope Roof - Rear Rafter"},
+    {Roof::kDutchHip, Member::kCommon, "Dutch Hip Roof - Common Rafter"},
+    {Roof::kUnequalSpanValley, Member::kShortValley, "Unequal Span Valley - Short Valley Rafter"},
+    {Roof::kUnequalSpanValley, Member::kLongValley, "Unequal Span Valley - Long Valley Rafter"},
+    {Roof::kBastardHip, Member::kCommon, "Bastard Hip Roof - Common Rafter"},
+    {Roof::kBastardHip, Member::kHipEndCommon, "Bastard Hip Roof - Hip End Common Rafter"},
+    {Roof::kBastardHip, Member::kBastardHip, "Bastard Hip Roof - Bastard Hip Rafter"},
 };
 
-std::string TitleOf(int roofType, RafterType type, std::size_t row) {
+std::string TitleOf(Roof roofType, Member type, bool rear) {
   const char* title = nullptr;
   std::size_t seen = 0;
   for (const TitleRow& candidate : kTitles) {
     if (candidate.RoofType != roofType || candidate.Type != type) continue;
     title = candidate.Title;
-    if (seen++ == row) break;
+    if (seen++ == (rear ? 1U : 0U)) break;
   }
   return title == nullptr ? "Rafter" : title;
 }
 
 class RowBuilder {
  public:
-  RowBuilder(const Rafter& rafter, const PrintContext& context)
-      : rafter_(rafter), context_(context), fields_(context.Fields), row_(context.Row) {}
+  RowBuilder(const Rafter& rafter, const PrintContext& context) : rafter_(rafter), context_(context) {}
 
   SheetColumns Columns() const {
     switch (FamilyOf(rafter_.RafterType)) {
@@ -74,27 +72,30 @@ class RowBuilder {
   using Rows = std::vector<std::string>;
 
   std::string Length(const std::string& label, double value) const {
-    return label + " = " + context_.LengthText(value);
+    return LengthRow(context_, label, value);
   }
 
   Rows Commons(const std::string& member) const {
     return {SlopeRow(member + "Slope", rafter_.Pitch.Stored(), rafter_.degrees),
-            Row(member + "Run", fields_.Span[row_]), Row(member + "Overhang", fields_.Overhang[row_]),
+            Length(member + "Run", rafter_.Span), Length(member + "Overhang", rafter_.Overhang),
             Length(member + "Heel", rafter_.CommonHeel), Length(member + "Seat", rafter_.CommonSeat)};
   }
 
-  /// `hipOrValley` names the member whose lumber stands between common and ridge; null where there is none.
+  /// `hipOrValley` names the member whose lumber is listed between common and ridge; null if there is none.
   Rows Lumber(const char* hipOrValley) const {
-    Rows rows{Row("Common", fields_.Common[row_])};
-    if (hipOrValley != nullptr) rows.push_back(Row(hipOrValley, fields_.HipOrValley));
-    if (fields_.Ridge.Visible) rows.push_back(Row("Ridge", fields_.Ridge));
-    if (context_.Drawing.SquareCut) rows.push_back(Row("Fascia", fields_.Fascia[row_]));
+    Rows rows{LumberRow(context_, "Common", rafter_.Thickness, rafter_.Depth)};
+    if (hipOrValley != nullptr)
+      rows.push_back(LumberRow(context_, hipOrValley, rafter_.HipValThickness, rafter_.HipValDepth));
+    if (context_.ShowsRidge)
+      rows.push_back(LumberRow(context_, "Ridge", rafter_.RidgeThickness, rafter_.RidgeDepth));
+    if (context_.Drawing.SquareCut)
+      rows.push_back(LumberRow(context_, "Fascia", rafter_.FasciaThickness, rafter_.FasciaHeight));
     return rows;
   }
 
   Rows Common() const {
     Rows rows;
-    if (rafter_.RafterType != RafterType::kShed)
+    if (rafter_.RafterType != Member::kShed)
       rows.push_back(Length("Ridge Allowance", rafter_.RidgeAllowance));
     rows.push_back(Length("Adjusted Run", rafter_.AdjSpan));
     if (rafter_.Kneewall > 0) {
@@ -115,7 +116,7 @@ class RowBuilder {
     rows.push_back(Length("Hip Drop", rafter_.HipDrop));
     rows.push_back(Length("Ridge Allowance", rafter_.HipRidgeAllowance));
     rows.push_back(Length("Adjusted Run", rafter_.AdjHipSpan));
-    // The record's difference at 24 is that of two base runs, which are 24 inches but two metres.
+    // The record's own difference at 24 is for two units of run: 24 inches, but two metres.
     const std::string inch = context_.Drawing.UnitRun == 12 ? "\"" : "";
     rows.push_back(Length("CommonDiff 16" + inch, rafter_.CommonDifference * 16));
     rows.push_back(Length("CommonDiff 24" + inch, rafter_.CommonDifference * 24));
@@ -123,9 +124,9 @@ class RowBuilder {
   }
 
   Rows ValleyRun() const {
-    const char* run = rafter_.RafterType == RafterType::kShortValley  ? "Short Valley Run"
-                      : rafter_.RafterType == RafterType::kLongValley ? "Long Valley Run"
-                                                                      : "Valley Run";
+    const char* run = rafter_.RafterType == Member::kShortValley  ? "Short Valley Run"
+                      : rafter_.RafterType == Member::kLongValley ? "Long Valley Run"
+                                                                  : "Valley Run";
     return {SlopeRow("Valley Slope", rafter_.HipPitch.Stored(), rafter_.HipDegrees),
             Length(run, rafter_.HipValSpan), Length("Valley Overhang", rafter_.HipValOverhang),
             Length("Valley Heel", rafter_.Heel), Length("Valley Seat", rafter_.HipValSeat)};
@@ -139,8 +140,8 @@ class RowBuilder {
   }
 
   Rows BastardHipRuns() const {
-    return {Row("Common Rafter Run", fields_.Span[row_]),
-            Row("Common Overhang", fields_.Overhang[row_]),
+    return {Length("Common Rafter Run", rafter_.Span),
+            Length("Common Overhang", rafter_.Overhang),
             Length("Hip End Common Run", rafter_.HipEndSpan),
             Length("Hip End Overhang", rafter_.HipEndOverhang),
             Length("Hip Rafter Run", rafter_.HipValSpan),
@@ -158,19 +159,18 @@ class RowBuilder {
 
   const Rafter& rafter_;
   const PrintContext& context_;
-  const Sheet& fields_;
-  std::size_t row_;
 };
 
 }  // namespace
 
 RafterSheet RafterSheetOf(const Rafter& rafter, const PrintContext& context) {
-  return {TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Row),
+  return {TitleOf(context.Drawing.RoofType, rafter.RafterType, context.Rear),
           RowBuilder(rafter, context).Columns()};
 }
 
 RafterSheet BastardHipSheetOf(const Rafter& rafter, const PrintContext& context) {
-  return {TitleOf(roof::kBastardHip, rafter.RafterType, 0), RowBuilder(rafter, context).BastardHipColumns()};
+  return {TitleOf(Roof::kBastardHip, rafter.RafterType, false),
+          RowBuilder(rafter, context).BastardHipColumns()};
 }
 
 void PrintRafter(Printer& page, DraftingBoard& board, const Rafter& rafter, const PrintContext& context) {

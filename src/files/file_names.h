@@ -1,4 +1,4 @@
-// The parts of a path. Projects come from any system, so both separators count.
+// The parts of a path. A project may come from any system, so both separators count.
 #pragma once
 
 #include <filesystem>
@@ -7,13 +7,13 @@
 
 namespace pitchcraft {
 
-/// What follows the last separator of a path.
+/// The part after the last separator of a path.
 std::string FileNameOf(const std::string& path);
 
-/// A name without an extension gets that one, as the dialogs of a desktop do it. An empty path stays.
+/// Adds the extension to a name that has none, as desktop dialogs do. An empty path stays empty.
 std::string WithExtension(const std::string& path, std::string_view extension);
 
-/// ".pdf" of "Roof.PDF"; empty where there is none. Only ASCII letters are made small.
+/// ".pdf" of "Roof.PDF"; empty if there is none. Only ASCII letters become lower case.
 std::string ExtensionOf(const std::filesystem::path& path);
 
 }  // namespace pitchcraft

@@ -13,7 +13,7 @@
 namespace pitchcraft {
 namespace {
 
-/// A descriptor that is closed on every way out.
+/// A file descriptor that is closed on every way out.
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
@@ -23,7 +23,7 @@ class Descriptor {
 
   int Number() const { return number_; }
   bool IsOpen() const { return number_ >= 0; }
-  /// False where the system could not keep what was written: some tell a full disk only now.
+  /// False if the system could not keep what was written: some report a full disk only here.
   bool Close() {
     const int number = number_;
     number_ = -1;
@@ -50,13 +50,13 @@ mode_t UsualRights() {
   return static_cast<mode_t>(0666) & ~mask;
 }
 
-// The rights of the file that is replaced, or the usual ones.
+// The permissions of the file to be replaced, or the usual ones.
 mode_t RightsFor(const std::string& path) {
   struct stat old {};
   return stat(path.c_str(), &old) == 0 ? (old.st_mode & 07777) : UsualRights();
 }
 
-// A name in a folder is safe only once the folder itself is on the disk.
+// A new name is safe only when its folder is on the disk, too.
 void FlushFolder(const std::string& folder) {
   const Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (descriptor.IsOpen()) fsync(descriptor.Number());
@@ -78,13 +78,13 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path, std:
     if (count < 0) return std::nullopt;
     if (count == 0) return bytes;
     bytes.append(block.data(), static_cast<std::size_t>(count));
-    if (bytes.size() > largest) return std::nullopt;  // it grows while it is read
+    if (bytes.size() > largest) return std::nullopt;  // the file grew while it was read
   }
 }
 
 bool WriteWholeFile(const std::filesystem::path& path, std::string_view bytes) {
   if (path.empty() || !path.has_filename()) return false;
-  // A link stays a link: the file that it names is replaced.
+  // A link stays a link: the file that it points to is replaced.
   std::error_code error;
   const std::filesystem::path real = std::filesystem::weakly_canonical(path, error);
   const std::filesystem::path target = error ? path : real;

@@ -14,7 +14,7 @@ namespace {
 
 struct KeyRow {
   const char* caption;
-  const char* name;  // for assistive programs
+  const char* name;  // read out by screen readers
   char key;
 };
 
@@ -127,12 +127,12 @@ void CalculatorWindow::AddKeys() {
   AddButton("MC", tr("Clear memory"), tr("Clear the memory"), 0, 0, [&sums] { sums.MemoryClear(); });
   AddButton("MR", tr("Recall memory"), tr("Recall the memory"), 0, 1, [&sums] { sums.MemoryRecall(); });
   AddButton("M+", tr("Add to memory"), tr("Add to the memory"), 0, 2, [&sums] { sums.MemoryAdd(); });
-  AddButton("M\u2212", tr("Subtract from memory"), tr("Take from the memory"), 0, 3,
+  AddButton("M\u2212", tr("Subtract from memory"), tr("Subtract from the memory"), 0, 3,
             [&sums] { sums.MemorySubtract(); });
   AddButton("\u00b1", tr("Change sign"), tr("Change the sign"), 0, 4, [&sums] { sums.ChangeSign(); });
-  AddButton("C", tr("Clear"), tr("Begin anew (Esc)"), 1, 0, [&sums] { sums.Clear(); });
+  AddButton("C", tr("Clear"), tr("Start over (Esc)"), 1, 0, [&sums] { sums.Clear(); });
   AddButton("CE", tr("Clear entry"), tr("Clear the entry (Delete)"), 1, 1, [&sums] { sums.ClearEntry(); });
-  AddButton("\u232b", tr("Backspace"), tr("Take back the last key"), 1, 2, [&sums] { sums.Backspace(); });
+  AddButton("\u232b", tr("Backspace"), tr("Delete the last key"), 1, 2, [&sums] { sums.Backspace(); });
   AddButton(tr("Tape"), tr("Clear tape"), tr("Clear the tape"), 1, 3, [&sums] { sums.ClearTape(); });
   AddButton("mm", tr("Millimetres"), "", 1, 4, [&sums] { sums.Keys(" mm"); });
   int place = 2 * kKeysAcross;
@@ -171,9 +171,6 @@ void CalculatorWindow::Raise() {
   activateWindow();
 }
 
-// --- The keyboard
-// -----------------------------------------------------------------------------------------------------
-
 void CalculatorWindow::Paste() {
   Do([this] { calculator_.SetEntry(QGuiApplication::clipboard()->text().simplified().toStdString()); });
 }
@@ -201,7 +198,7 @@ bool CalculatorWindow::TakeKey(const QKeyEvent& event) {
   return taken;
 }
 
-// The display gives its keys to the calculator before it looks at them itself.
+// The calculator takes its keys before the display can.
 bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == display_ && event->type() == QEvent::KeyPress && TakeKey(static_cast<QKeyEvent&>(*event))) {
     return true;

@@ -17,11 +17,11 @@ class CalculatorWindow : public QWidget {
   Q_OBJECT
 
  public:
-  /// A metric one begins with millimetres.
+  /// With `metric`, it starts in millimetres.
   explicit CalculatorWindow(bool metric, QWidget* parent = nullptr);
 
   FtCalc& Calculator() { return calculator_; }
-  /// Comes to the front, also from the task bar.
+  /// Comes to the front, even if minimized.
   void Raise();
 
  protected:

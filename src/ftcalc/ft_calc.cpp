@@ -11,7 +11,7 @@ namespace {
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kInchesPerMetre = 1000 / kMillimetresPerInch;
 constexpr double kSquareFoot = 144;
-// A day's sums; older lines leave the tape.
+// Enough for a day's work; the oldest lines drop off.
 constexpr std::size_t kLongestTape = 1000;
 
 constexpr bool IsDigit(char key) { return key >= '0' && key <= '9'; }
@@ -56,10 +56,7 @@ std::string FtCalc::Text(const Quantity& quantity) const {
   return converter.ToText(quantity.amount);
 }
 
-// --- The entry
-// --------------------------------------------------------------------------------------------------------
-
-// A fraction goes on from a whole number: behind a unit, a decimal point or another fraction the stroke
+// After a whole number the stroke starts a fraction; after a unit, a decimal point or another fraction it
 // divides.
 bool FtCalc::StrokeDivides() const {
   if (entry_.empty() || !IsDigit(entry_.back())) return !entry_.empty() || usable_;
@@ -72,7 +69,7 @@ bool FtCalc::Key(char key) {
   switch (key) {
     case '+': return Operate(CalcOperation::kAdd), true;
     case '-':
-      // Behind an operator it begins a negative number.
+      // After an operator it starts a negative number.
       if (entry_.empty() && !usable_) break;
       return Operate(CalcOperation::kSubtract), true;
     case '*':
@@ -104,7 +101,7 @@ void FtCalc::SetEntry(std::string_view text) {
 
 void FtCalc::Backspace() {
   message_.clear();
-  // A letter of several bytes goes as one.
+  // A character of several bytes is deleted as one.
   while (!entry_.empty()) {
     const bool follows = (static_cast<unsigned char>(entry_.back()) & 0xC0U) == 0x80U;
     entry_.pop_back();
@@ -136,7 +133,7 @@ void FtCalc::Clear() {
   ClearEntry();
 }
 
-/// What is typed, else what is shown. Nothing, and a message, where it cannot be read.
+/// The entry, or the last result if nothing is typed. Nothing, with a message, if the entry cannot be read.
 std::optional<Quantity> FtCalc::Operand() {
   if (entry_.empty()) return shown_;
   const std::optional<Measure> measure = ReadMeasure(entry_);
@@ -155,9 +152,6 @@ void FtCalc::Show(const Quantity& quantity) {
   usable_ = true;
   entry_.clear();
 }
-
-// --- Sums
-// -------------------------------------------------------------------------------------------------------------
 
 std::optional<Quantity> FtCalc::Refuse(const char* why) {
   message_ = why;
@@ -189,7 +183,7 @@ std::optional<Quantity> FtCalc::Combine(Quantity left, CalcOperation operation, 
     }
   }
   if (!std::isfinite(result.amount)) return Refuse("The result is too large.");
-  if (result.amount == 0) result.amount = 0;  // and no -0
+  if (result.amount == 0) result.amount = 0;  // never -0
   return result;
 }
 
@@ -204,7 +198,7 @@ std::optional<Quantity> FtCalc::Sum(const Quantity& operand) {
 
 void FtCalc::Operate(CalcOperation operation) {
   message_.clear();
-  // A second operator in a row mends the first.
+  // A second operator in a row replaces the first.
   if (entry_.empty() && !usable_ && pending_) {
     pending_->operation = operation;
     return;
@@ -234,14 +228,11 @@ void FtCalc::Equals() {
   Show(*sum);
 }
 
-// --- Memory
-// -----------------------------------------------------------------------------------------------------------
-
 void FtCalc::AddToMemory(int sign) {
   message_.clear();
   const auto operand = Operand();
   if (!operand) return;
-  // An empty memory is nothing of any kind.
+  // An empty memory takes on the dimension of the operand.
   const Quantity before = memory_.value_or(Quantity{0, operand->dimension});
   const auto sum = Combine(before, sign > 0 ? CalcOperation::kAdd : CalcOperation::kSubtract, *operand);
   if (!sum) return;

@@ -14,8 +14,8 @@ namespace {
 constexpr const char* kHelp =
     "Usage: ftcalc [--metric] [--help] [--version]\n"
     "\n"
-    "Opens the feet-and-inches calculator, or brings the one that is open to the front.\n"
-    "With --metric it begins with millimetres.\n";
+    "Opens the feet-and-inches calculator, or brings it to the front if it is already open.\n"
+    "With --metric it starts in millimetres.\n";
 
 }  // namespace
 
@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName("ftcalc");
   QApplication::setWindowIcon(QIcon::fromTheme("pitchcraft"));
 
-  // One window for each system of units, and each user has a folder of running programs.
+  // One window for each system of units; every user has a separate folder for running programs.
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
   const QString name = metric ? "pitchcraft-ftcalc-metric" : "pitchcraft-ftcalc";
   pitchcraft::SingleWindow single(folder.isEmpty() ? name : folder + '/' + name);

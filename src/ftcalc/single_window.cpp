@@ -6,7 +6,7 @@
 namespace pitchcraft {
 
 bool SingleWindow::RaiseRunning() const {
-  constexpr int kPatience = 1000;  // milliseconds: a program that hangs does not keep another from starting
+  constexpr int kPatience = 1000;  // milliseconds: a program that hangs must not keep another from starting
   QLocalSocket socket;
   socket.connectToServer(name_, QIODevice::ReadOnly);
   return socket.waitForConnected(kPatience) && socket.waitForReadyRead(kPatience);
@@ -22,7 +22,7 @@ void SingleWindow::Listen() {
     }
     emit Asked();
   });
-  // What a program that crashed has left would refuse it.
+  // A crashed program may have left a socket behind that would be in the way.
   QLocalServer::removeServer(name_);
   server_.listen(name_);
 }

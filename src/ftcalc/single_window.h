@@ -1,4 +1,4 @@
-// One window of a kind for each user: a second start brings the first one to the front.
+// One window of a kind per user: a second start brings the first window to the front.
 #pragma once
 
 #include <QLocalServer>
@@ -12,9 +12,9 @@ class SingleWindow : public QObject {
  public:
   explicit SingleWindow(const QString& name) : name_(name) {}
 
-  /// Asks the running one to come to the front. False where none is running.
+  /// Asks the running program to come to the front. False if none is running.
   bool RaiseRunning() const;
-  /// Listens for those who start later.
+  /// Listens for programs that start later.
   void Listen();
 
  signals:

@@ -1,4 +1,4 @@
-// The calculator with a sum in it.
+// The calculator with a sum entered.
 #pragma once
 
 #include <QWidget>
@@ -6,7 +6,7 @@
 
 namespace pitchcraft {
 
-/// Shown, with a tape of two sums.
+/// The calculator, shown, with two sums on its tape.
 std::unique_ptr<QWidget> CalculatorWithSum();
 
 }  // namespace pitchcraft

@@ -18,7 +18,7 @@ constexpr int kLook = 20;  // milliseconds between looks for a dialog
   std::_Exit(1);
 }
 
-/// "Hip: Layout" is hip-layout.png.
+/// "Hip: Layout" becomes hip-layout.png.
 QString FileOf(const QString& caption) {
   QString name;
   for (const QChar sign : caption.toLower()) {
@@ -35,7 +35,7 @@ QString FileOf(const QString& caption) {
 }  // namespace
 
 Gallery::Gallery(const QString& folder) : folder_(folder) {
-  if (!folder_.mkpath(".")) GiveUp("the folder " + folder + " cannot be made");
+  if (!folder_.mkpath(".")) GiveUp("the folder " + folder + " cannot be created");
 }
 
 void Gallery::Heading(const QString& text) { lines_ << "## " + text << ""; }
@@ -66,13 +66,13 @@ void Gallery::TakeDialog(const QString& caption, const std::function<void()>& op
   });
   look.start(kLook);
   open();
-  if (!came) GiveUp("no dialog came for " + caption);
+  if (!came) GiveUp("no dialog opened for " + caption);
 }
 
 void Gallery::TakeMenu(const QString& caption, const std::function<void()>& open) {
   open();
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  if (menu == nullptr) GiveUp("no menu came for " + caption);
+  if (menu == nullptr) GiveUp("no menu opened for " + caption);
   Take(*menu, caption);
   menu->close();
 }
@@ -80,9 +80,9 @@ void Gallery::TakeMenu(const QString& caption, const std::function<void()>& open
 void Gallery::WritePage(const QString& page) const {
   QFile file(page);
   const QByteArray text =
-      "# Gallery\n\nEvery page of every roof type that has its drawing, and every dialog. `./gallery` takes "
-      "these\n"
-      "pictures anew; boxes for files and the printer's queue are the desktop's own and not shown.\n\n" +
+      "# Gallery\n\n"
+      "Every page that has a drawing, for every roof type, and every dialog. `./gallery` takes these\n"
+      "pictures again. The dialogs for files and printing belong to the desktop and are not shown.\n\n" +
       lines_.join('\n').trimmed().toUtf8() + "\n";
   if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
     GiveUp(page + " cannot be written");

@@ -9,23 +9,23 @@
 
 namespace pitchcraft {
 
-/// Each shot becomes a PNG file in the folder and an entry of the page. A picture that cannot be written ends
-/// the program with a message: half a gallery is none.
+/// Each shot becomes a PNG file in the folder and an entry on the page. If a picture cannot be written, the
+/// program ends with a message, because half a gallery is no use.
 class Gallery {
  public:
   explicit Gallery(const QString& folder);
 
   void Heading(const QString& text);
-  /// A widget as it stands; it need not be on a screen.
+  /// Takes a widget as it is; it need not be on a screen.
   void Take(QWidget& widget, const QString& caption);
-  /// Runs `open`, which waits in a dialog, and takes that as `take` says: by one shot unless it has more
-  /// pages. The dialog is closed as Esc would close it.
+  /// Runs `open`, which waits in a dialog, and takes the dialog with `take`, or in a single shot without it.
+  /// The dialog is then closed as Esc would close it.
   void TakeDialog(const QString& caption, const std::function<void()>& open,
                   const std::function<void(QDialog&)>& take = {});
-  /// Runs `open`, after which a menu is open, and takes that.
+  /// Runs `open`, which opens a menu, and takes the menu.
   void TakeMenu(const QString& caption, const std::function<void()>& open);
 
-  /// Writes `page`, which stands beside the folder, with every shot in order.
+  /// Writes `page`, a file next to the folder, with every shot in order.
   void WritePage(const QString& page) const;
   int Count() const { return count_; }
 

@@ -1,4 +1,4 @@
-// Takes a picture of everything that the window can show.
+// Takes pictures of everything that the window can show.
 #include <QApplication>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -13,7 +13,7 @@
 #include "gallery/calculator.h"
 #include "gallery/gallery.h"
 #include "platform/program_folder.h"
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 #include "shell/help_window.h"
 #include "shell/main_window.h"
 #include "shell/program.h"
@@ -26,11 +26,11 @@
 namespace pitchcraft {
 namespace {
 
-constexpr QSize kScreen(1280, 720);  // the least screen that is still common
+constexpr QSize kScreen(1280, 720);  // the smallest screen that is still common
 
 QString Text(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
 
-/// A desktop at night.
+/// The colours of a dark desktop.
 QPalette DarkPalette() {
   const QColor window(0x2B, 0x2D, 0x30);
   const QColor text(0xE6, 0xE6, 0xE6);
@@ -77,7 +77,7 @@ class Photographer {
     return around;
   }
 
-  /// Something was done to the document: the window shows it.
+  /// After an action on the document, updates the window.
   void Do(const Refusal& refusal) {
     if (refusal) {
       std::fprintf(stderr, "gallery: %s\n", refusal->c_str());
@@ -87,7 +87,7 @@ class Photographer {
     QApplication::processEvents();
   }
 
-  /// Every roof shows itself best at a common slope; some know none.
+  /// Every roof looks best at a common slope; some roofs have no slope field.
   void SlopeOfSixInTwelve() {
     for (const char* field : {"LWSlope(0)", "LWSlope(1)", "LWSlope(2)"})
       static_cast<void>(actions_.Type(field, "6 | 12"));
@@ -95,11 +95,11 @@ class Photographer {
   }
 
   void Pages(const QString& roof) {
-    const IndexTab& tab = window_.Document().sheet.Tabs[0];
+    const IndexTab& tab = window_.Document().design.sheet.Tabs[0];
     for (int page = 0; page < tab.PageCount(); ++page) {
       Do(actions_.Page("VSTab(0)", page));
       // A page whose drawing is still to come shows only that it is.
-      if (!window_.Document().DrawingExists) continue;
+      if (!window_.Document().HasFigure()) continue;
       gallery_.Take(window_, roof + ": " + Text(tab.Pages()[static_cast<std::size_t>(page)]));
     }
     Do(actions_.Page("VSTab(0)", 0));
@@ -114,7 +114,7 @@ class Photographer {
     }
     Do(actions_.Press("Hip"));
     Do(actions_.Type("LWSlope(2)", "10 | 12"));
-    Pages("Hip of unequal slopes");
+    Pages("Hip with unequal slopes");
   }
 
   void Views() {
@@ -127,7 +127,7 @@ class Photographer {
     QWheelEvent turn(seat, picture.mapToGlobal(seat), {}, {0, 960}, Qt::NoButton, Qt::NoModifier,
                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(&picture, &turn);
-    gallery_.Take(window_, "A part of the drawing");
+    gallery_.Take(window_, "Part of the drawing");
     picture.Fit();
     Do(actions_.Click("mnuMetric"));
     gallery_.Take(window_, "Millimetres");

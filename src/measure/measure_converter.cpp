@@ -14,10 +14,11 @@ namespace pitchcraft {
 namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
-constexpr std::int64_t kSixteenths = 16;  // to the inch
+constexpr std::int64_t kSixteenths = 16;  // per inch
 constexpr std::int64_t kInchesPerFoot = 12;
 
-// Up to here a measure is written out in full; 1e9 inches are 25,000 km. Decimals past the seventh are noise.
+// Up to here a measure is written out in full; 1e9 inches are 25,000 km. Decimals after the seventh are
+// noise.
 constexpr double kLongest = 1e9;
 constexpr int kMostDecimals = 7;
 
@@ -31,7 +32,7 @@ std::string InchesText(std::int64_t sixteenths, bool afterFeet) {
   return whole == 0 && !afterFeet ? fraction : std::to_string(whole) + ' ' + fraction;
 }
 
-// To the nearest sixteenth; half of one goes to the even neighbour, as decimals do.
+// To the nearest sixteenth; half a sixteenth goes to the even neighbour, as with decimals.
 std::string TapeText(double inches, bool withFeet) {
   const auto sixteenths = static_cast<std::int64_t>(RoundTo(std::abs(inches) * kSixteenths, 0));
   constexpr std::int64_t kFoot = kSixteenths * kInchesPerFoot;
@@ -43,7 +44,7 @@ std::string TapeText(double inches, bool withFeet) {
 std::string DecimalText(double value, int decimals) {
   decimals = std::clamp(decimals, 0, kMostDecimals);
   const double rounded = RoundTo(value, decimals);
-  if (rounded == 0) return "0";  // and no "-0"
+  if (rounded == 0) return "0";  // never "-0"
   std::array<char, 32> buffer{};
   char* end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded, std::chars_format::fixed, decimals)
@@ -55,7 +56,9 @@ std::string DecimalText(double value, int decimals) {
   return {buffer.data(), end};
 }
 
-bool IsWrittenOut(double value) { return std::abs(value) < kLongest; }  // neither an infinity nor undefined
+bool IsWrittenOut(double value) {
+  return std::abs(value) < kLongest;
+}  // false for infinities and undefined numbers, too
 
 }  // namespace
 
@@ -66,7 +69,7 @@ double MeasureConverter::ToValue(std::string_view text) const {
   double value = measure->amount;
   if (measure->system == LengthSystem::Inches && inMillimetres) value *= kMillimetresPerInch;
   if (measure->system == LengthSystem::Millimetres && !inMillimetres) value /= kMillimetresPerInch;
-  return std::isfinite(value) && value != 0 ? value : 0;  // and no -0
+  return std::isfinite(value) && value != 0 ? value : 0;  // and never -0
 }
 
 std::string MeasureConverter::ToText(double value) const {

@@ -16,7 +16,7 @@ inline constexpr int kMillimetres = 6;
 inline constexpr int kBaseInches = 0;
 inline constexpr int kBaseMillimetres = 1;
 
-/// Turns text into a number in base units and back. Rounding is for the eye: no number held is touched by it.
+/// Turns text into a number in base units and back. Only the text is rounded, never a stored number.
 class MeasureConverter {
  public:
   int Units = kFeetAndInches;
@@ -24,13 +24,15 @@ class MeasureConverter {
   int DecimalPlaces = 4;  // of millimetres and plain numbers: 0 to 7, trailing zeros cut
   bool Imperial = true;
 
-  /// The number in base units that the text stands for: always finite, 0 where it cannot be read. A unit
-  /// converts, whatever BaseUnits is; a bare number is in base units. See measure_parser.h for what is read.
+  /// The number in base units that the text means: always finite, and 0 if it cannot be read. A unit in the
+  /// text is converted, whatever BaseUnits is; a bare number is in base units. measure_parser.h says what can
+  /// be read.
   double ToValue(std::string_view text) const;
 
   /// The text of a number in base units: 12' 6 1/2", 19 3/16", 3600 mm, 26.5651. Half a sixteenth or half a
-  /// last decimal goes to the even neighbour. What is too small to show is 0; from 1e9 on the number stands
-  /// bare with an exponent, as 1E+30. An infinity is "inf" or "-inf", an undefined number "nan".
+  /// last decimal goes to the even neighbour. A number too small to show is 0; from 1e9 on it is written
+  /// without a unit and with an exponent, as in 1E+30. An infinity is "inf" or "-inf", an undefined number
+  /// "nan".
   std::string ToText(double value) const;
 };
 

@@ -36,7 +36,7 @@ constexpr auto kIsDigit = [](char c) { return c >= '0' && c <= '9'; };
 constexpr auto kIsLetter = [](char c) { return c >= 'a' && c <= 'z'; };
 constexpr auto kIsBlank = [](char c) { return c == ' '; };
 
-// Each Take... removes from the front of the rest what it reads, or nothing.
+// Each Take... removes from the front of the rest what it can read, or nothing.
 
 template <typename Kind>
 std::string_view TakeWhile(std::string_view& rest, Kind kind) {
@@ -88,7 +88,7 @@ bool MayGroupThousands(std::string_view whole, std::string_view part) {
   return !whole.empty() && whole.size() <= 3 && whole.front() != '0' && part.size() == 3;
 }
 
-// e or E with at least one digit behind it; the e of a word stays.
+// e or E with at least one digit after it; the e of a word is left alone.
 std::string_view TakeExponent(std::string_view& rest) {
   std::string_view ahead = rest;
   if (!TakeOneOf(ahead, "e")) return {};

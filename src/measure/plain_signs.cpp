@@ -14,7 +14,7 @@ struct Sign {
 
 constexpr std::array kSigns = {
     Sign{"\u2018", "'"},    Sign{"\u2019", "'"},    Sign{"\u2032", "'"},     // single quotes, prime
-    Sign{"\u00B4", "'"},    Sign{"`", "'"},                                  // accents used as one
+    Sign{"\u00B4", "'"},    Sign{"`", "'"},                                  // accents used as quotes
     Sign{"\u201C", "\""},   Sign{"\u201D", "\""},   Sign{"\u201E", "\""},    // double quotes
     Sign{"\u2033", "\""},                                                    // double prime
     Sign{"\u00BC", " 1/4"}, Sign{"\u00BD", " 1/2"}, Sign{"\u00BE", " 3/4"},  // quarters
@@ -29,7 +29,7 @@ constexpr std::array kSigns = {
 
 constexpr std::size_t At(char c) { return static_cast<unsigned char>(c); }
 
-// Most bytes begin no sign of the table, and need no look at it.
+// Most bytes do not start a sign of the table and can skip the search.
 constexpr auto kBeginsASign = [] {
   std::array<bool, 256> begins{};
   for (const Sign& sign : kSigns) begins[At(sign.written.front())] = true;

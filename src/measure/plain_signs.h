@@ -1,4 +1,4 @@
-// The many ways to write one sign, brought to one: what keyboards and word processors make of quotes and
+// Reduces the many ways to write a sign to one: keyboards and word processors have several for quotes and
 // fractions.
 #pragma once
 
@@ -7,9 +7,9 @@
 
 namespace pitchcraft {
 
-/// The text in small letters with plain signs: every kind of quote and prime is ' or ", two ' are one ", a
-/// fraction sign is written out with a blank in front, dashes are -, unusual blanks are blanks. Takes UTF-8;
-/// a byte that is none of these is kept as it is.
+/// The text in small letters with plain signs: every kind of quote and prime is ' or ", two ' become one ", a
+/// fraction sign is written out with a blank before it, dashes become -, unusual blanks become plain ones.
+/// Takes UTF-8; any other byte is kept as it is.
 std::string WithPlainSigns(std::string_view text);
 
 }  // namespace pitchcraft

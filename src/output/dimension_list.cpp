@@ -23,7 +23,7 @@ class ListReader {
   }
 
  private:
-  /// A text: the two numbers before it are its place, those before them strokes.
+  /// The last two numbers before a text are its position; all earlier ones are strokes.
   void ReadText() {
     const auto* text = std::get_if<std::string>(&values_[at_]);
     ++at_;
@@ -36,7 +36,7 @@ class ListReader {
     if (at_ < values_.size() && std::holds_alternative<Single>(values_[at_])) {
       listed.Angle = std::get<Single>(values_[at_++]);
     }
-    // Another text behind it can only be the letter: numbers come before every text.
+    // If another text follows, it can only be the letter: every other text has numbers before it.
     if (at_ < values_.size() && std::holds_alternative<std::string>(values_[at_])) {
       const std::string& letter = std::get<std::string>(values_[at_++]);
       if (letter == "C" || letter == "R") listed.Align = letter.front();
@@ -53,7 +53,7 @@ class ListReader {
 
   std::span<const DimensionValue> values_;
   std::size_t at_ = 0;
-  std::vector<Single> numbers_;  // not yet known to be strokes or the place of a text
+  std::vector<Single> numbers_;  // so far either strokes or the position of a text
   ListedDimensions read_;
 };
 

@@ -1,4 +1,4 @@
-// The flat list of a drawing's recorded dimensions, taken apart into strokes and texts.
+// Splits the flat list of a drawing's recorded dimensions into strokes and texts.
 #pragma once
 
 #include <span>
@@ -13,7 +13,7 @@ struct ListedStroke {
   Single X1, Y1, X2, Y2;
 };
 
-/// Angle is in radians; Align is 'L', 'C' or 'R', and 'L' where the list names none.
+/// Angle is in radians; Align is 'L', 'C' or 'R', and 'L' if the list has no letter.
 struct ListedText {
   Single X, Y;
   std::string Text;
@@ -26,7 +26,7 @@ struct ListedDimensions {
   std::vector<ListedText> Texts;
 };
 
-/// Numbers that make up no whole stroke are left out.
+/// Numbers left over that do not make a whole stroke are dropped.
 ListedDimensions ReadDimensionList(std::span<const DimensionValue> values);
 
 }  // namespace pitchcraft

@@ -8,7 +8,7 @@
 namespace pitchcraft {
 namespace {
 
-// Shorter than this many arrowheads, a dimension has no room for them between its ends.
+// A dimension shorter than this many arrowheads has no room for them between its ends.
 constexpr double kRoomForArrows = 2.5;
 constexpr double kTailArrows = 2;
 constexpr double kHalfWidthOfArrow = 1.0 / 6;
@@ -76,8 +76,8 @@ void Drafter::DrawArrow(DxfPoint tip, DxfPoint back) {
   look_.Arrows.push_back({tip, middle + half, middle - half});
 }
 
-/// The text stands above its line, read from below or from the right. One that is longer than the line goes
-/// beside it.
+/// The text is above its line and reads from below or from the right. A text longer than its line goes beside
+/// it.
 void Drafter::PlaceText() {
   look_.Angle = ReadingAngle(along_);
   const DxfPoint reading = DirectionAt(look_.Angle);

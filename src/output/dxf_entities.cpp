@@ -20,7 +20,7 @@ void WriteArrow(DxfPairs& pairs, const std::array<DxfPoint, 3>& corners, int col
   pairs.Point(10, corners[0]);
   pairs.Point(11, corners[1]);
   pairs.Point(12, corners[2]);
-  pairs.Point(13, corners[2]);  // a triangle names its last corner twice
+  pairs.Point(13, corners[2]);  // a triangle repeats its last corner
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ void WriteDxfLine(DxfPairs& pairs, const DxfLine& line) {
 
 void WriteDxfText(DxfPairs& pairs, const DxfText& text) {
   BeginEntity(pairs, "TEXT", text.Layer, text.Color);
-  // A reader that does not know 72 and 11 begins the text here.
+  // A reader that does not know 72 and 11 starts the text here.
   pairs.Point(10, DxfTextStart(text));
   pairs.Real(40, text.Height);
   pairs.Name(1, DxfTextCode(text.Text));
@@ -76,12 +76,12 @@ void WriteDxfDimension(DxfPairs& pairs, const std::string& block, const DxfDimen
   pairs.Point(10, look.LineEnd);
   pairs.Point(11, look.TextMiddle);
   pairs.Whole(70, type + (look.TextMoved ? kTextMoved : 0));
-  // One blank keeps readers from writing the measure themselves.
+  // A blank keeps readers from writing the measure themselves.
   pairs.Name(1, look.Text ? DxfTextCode(look.Text->Text) : " ");
   pairs.Name(3, "STANDARD");
   pairs.Point(13, dimension.P1);
   pairs.Point(14, dimension.P2);
-  pairs.Real(50, look.Angle);  // an aligned one has it, too: some readers measure along it
+  pairs.Real(50, look.Angle);  // aligned ones need it too: some readers measure along it
 }
 
 }  // namespace pitchcraft

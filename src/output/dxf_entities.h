@@ -1,4 +1,4 @@
-// The entities of a DXF file, and the blocks that show its dimensions.
+// The entities of a DXF file, and the blocks that draw its dimensions.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace pitchcraft {
 void BeginDxfSection(DxfPairs& pairs, std::string_view name);
 void EndDxfSection(DxfPairs& pairs);
 
-/// Of the dimension with this index, from 0.
+/// The block of the dimension with this index, counted from 0.
 std::string DxfBlockName(std::size_t index);
 
 void WriteDxfLine(DxfPairs& pairs, const DxfLine& line);

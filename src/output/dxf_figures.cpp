@@ -13,7 +13,7 @@ DxfPoint DirectionAt(double degrees) {
 }
 
 double DxfTextWidth(const std::string& text, double height) {
-  // A DXF height is that of a capital letter.
+  // A DXF height is that of a capital letter, not of the cell.
   return ArialMeter().TextWidth(text, {"Arial", height / kCapitalPerCell, false, false});
 }
 

@@ -1,4 +1,4 @@
-// What a DXF file shows, before it becomes text.
+// The contents of a DXF file, before they become text.
 #pragma once
 
 #include <cmath>
@@ -29,9 +29,9 @@ struct DxfPoint {
 
 inline double Dot(DxfPoint a, DxfPoint b) { return a.X * b.X + a.Y * b.Y; }
 inline double Length(DxfPoint point) { return std::sqrt(Dot(point, point)); }
-/// The direction a quarter turn further on.
+/// The direction turned a quarter turn to the left.
 inline DxfPoint LeftOf(DxfPoint direction) { return {-direction.Y, direction.X}; }
-/// Where a text that runs at `degrees` goes.
+/// The direction of a text that runs at `degrees`.
 DxfPoint DirectionAt(double degrees);
 
 struct DxfLine {
@@ -40,8 +40,8 @@ struct DxfLine {
   int Color = kDxfByLayer;
 };
 
-/// Text is UTF-8. At is on the base line, at the left end, the middle or the right end as Align ('L', 'C',
-/// 'R') says. Angle is in degrees, counter-clockwise.
+/// Text is UTF-8. At is the left end, the middle or the right end of the base line, according to Align ('L',
+/// 'C', 'R'). Angle is in degrees, counter-clockwise.
 struct DxfText {
   std::string Text;
   DxfPoint At;
@@ -52,22 +52,22 @@ struct DxfText {
   int Color = kDxfByLayer;
 };
 
-/// About how wide a text comes out. Every reader has letters of its own, so this is an estimate.
+/// Roughly how wide a text will be. Every reader has letters of its own, so this is an estimate.
 double DxfTextWidth(const std::string& text, double height);
-/// The left end of a text's base line, by that estimate.
+/// The left end of a text's base line, from that estimate.
 DxfPoint DxfTextStart(const DxfText& text);
 
 enum class DxfDimensionKind { kAligned, kHorizontal, kVertical };
 
-/// OnLine is a point of the dimension line. TextX and TextY are the middle of the text as far as it has a
-/// place of its own.
+/// OnLine is a point of the dimension line. TextX and TextY are the middle of the text, each given only if
+/// the text does not take its usual place.
 struct DxfDimension {
   DxfDimensionKind Kind = DxfDimensionKind::kAligned;
   DxfPoint P1, P2, OnLine;
   std::optional<double> TextX, TextY;
 };
 
-/// The smallest box about what was put into it.
+/// The smallest box around everything put into it.
 struct DxfExtents {
   DxfPoint Min{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
   DxfPoint Max{-std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
@@ -76,7 +76,7 @@ struct DxfExtents {
   void Include(DxfPoint point);
   void Include(const DxfLine& line);
   void Include(const DxfText& text);
-  /// The origin where it is empty.
+  /// The middle of the box; the origin if it is empty.
   DxfPoint Middle() const { return IsEmpty() ? DxfPoint{} : 0.5 * (Min + Max); }
 };
 

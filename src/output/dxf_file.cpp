@@ -28,7 +28,7 @@ void WriteEntities(DxfPairs& pairs, const DxfDrawing& drawing, const DxfDimensio
   EndDxfSection(pairs);
 }
 
-/// The layers in use; that of centre lines is always there.
+/// The layers in use, and always that of centre lines.
 std::vector<std::string> LayersOf(const DxfDrawing& drawing) {
   std::vector<std::string> layers = {"0", kDxfCenterLayer};
   const auto use = [&layers](const std::string& layer) {

@@ -1,4 +1,4 @@
-// A drawing as the characters of a DXF file.
+// A drawing as the text of a DXF file.
 #pragma once
 
 #include <string>
@@ -8,15 +8,15 @@
 
 namespace pitchcraft {
 
-/// What counts for the file as a whole. Lengths are of real size.
+/// What applies to the file as a whole. Lengths are in real size.
 struct DxfFileStyle {
   DxfUnits Units = DxfUnits::kInch;
-  double TextHeight = 0;  ///< of a text that is added in the CAD program
+  double TextHeight = 0;  ///< of texts that are added later in the CAD program
   double DimIncrement = 0;
   DxfDimensionStyle Dimensions;
 };
 
-/// A whole file of release 12. Raises Overflow for a figure that is none as a Single.
+/// A complete file of release 12. Raises Overflow for a number that does not fit a Single.
 std::string DxfFile(const DxfDrawing& drawing, const DxfFileStyle& style);
 
 }  // namespace pitchcraft

@@ -12,7 +12,7 @@ namespace pitchcraft {
 namespace {
 
 constexpr char32_t kDegree = 0xB0;
-constexpr char32_t kOrdinal = 0xBA;  // what a keyboard often has in its place
+constexpr char32_t kOrdinal = 0xBA;  // which keyboards often have instead
 constexpr char32_t kLargestFourDigits = 0xFFFF;
 
 std::string UnicodeCode(char32_t code) {
@@ -23,12 +23,12 @@ std::string UnicodeCode(char32_t code) {
 }
 
 std::string CodeOf(char32_t code, char before) {
-  // Readers disagree about "%%%", so two of them never touch.
+  // Readers disagree about "%%%", so a blank keeps two codes apart.
   const std::string apart = before == '%' ? " " : "";
   if (code == '%') return apart + "%";
   if (code == kDegree || code == kOrdinal) return apart + "%%d";
   if (code < ' ' || code == 0x7F || (code >= 0x80 && code < 0xA0)) return " ";
-  if (code == '^') return "^ ";                // a caret alone begins a control character
+  if (code == '^') return "^ ";                // a caret alone starts a control character
   if (code == '\\') return UnicodeCode(code);  // and a backslash a code
   if (code < 0x7F) return {static_cast<char>(code)};
   return code > kLargestFourDigits || code == kNoCharacter ? "?" : UnicodeCode(code);
@@ -43,7 +43,7 @@ std::string DxfTextCode(std::string_view text) {
   while (!text.empty()) {
     const char32_t code = TakeCharacter(text).Code;
     const bool endOfOneBreak = last == '\r' && code == '\n';
-    // A degree sign ends in a letter, so only a typed per cent sign can run into the next code.
+    // A degree sign ends in a letter, so only a per cent sign that was typed can run into the next code.
     if (!endOfOneBreak) coded += CodeOf(code, last == '%' ? '%' : ' ');
     last = code;
   }
@@ -73,7 +73,7 @@ void DxfPairs::Whole(int code, int value) {
 }
 
 void DxfPairs::Real(int code, double value) {
-  // Far below what any drawing shows: a rest of arithmetic, and 40 digits of it.
+  // Far below anything that a drawing shows: this is rounding error, and would take 40 digits.
   constexpr double kNothing = 1e-9;
   const auto kept = static_cast<float>(double{Single(value)});
   if (!std::isfinite(kept)) throw RunTimeError::Overflow();

@@ -1,4 +1,4 @@
-// The characters of a DXF file: pairs of a group code and a value, a line each.
+// The text of a DXF file: pairs of a group code and a value, each on a line of its own.
 #pragma once
 
 #include <string>
@@ -8,21 +8,21 @@
 
 namespace pitchcraft {
 
-/// A text as the value of a pair, in ASCII alone: control characters become a blank, degree signs "%%d",
-/// other characters beyond ASCII "\U+XXXX" or, where four digits do not do, "?". What a person typed is never
-/// taken for such a code: a blank stands between two per cent signs.
+/// A text as the value of a pair, in plain ASCII: control characters become blanks, degree signs "%%d", other
+/// characters beyond ASCII "\U+XXXX" or, if four digits are not enough, "?". Nothing that a person types is
+/// taken for such a code: two per cent signs get a blank between them.
 std::string DxfTextCode(std::string_view text);
 
 class DxfPairs {
  public:
   void Name(int code, std::string_view value);
   void Whole(int code, int value);
-  /// As few digits as a Single needs, whatever the locale. Raises Overflow for an infinity, a not-a-number or
-  /// what is none as a Single.
+  /// As few digits as a Single needs, in any locale. Raises Overflow for an infinity, a not-a-number or a
+  /// number that does not fit a Single.
   void Real(int code, double value);
-  /// Group codes `code` and ten more.
+  /// Group codes `code` and `code` + 10.
   void Flat(int code, DxfPoint point);
-  /// The same with a z of 0.
+  /// The same, with a z of 0.
   void Point(int code, DxfPoint point);
   /// A variable of the header.
   void Variable(std::string_view name) { Name(9, name); }

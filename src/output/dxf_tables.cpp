@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kWhite = 7;
 constexpr const char* kHiddenLineType = "HIDDEN";
-// One dash and dot of the line type CENTER are 2 units long; at this scale 2 feet of a building.
+// One dash and dot of the line type CENTER are 2 units long; this scale makes them 2 feet of a building.
 constexpr double kInchLineScale = 12;
 constexpr double kMillimetreLineScale = 300;
 
@@ -31,7 +31,7 @@ void Name(DxfPairs& pairs, std::string_view name, int code, std::string_view val
   pairs.Name(code, value);
 }
 
-/// The height of texts in dimensions must not be 0 even where none is shown.
+/// Dimension texts need a height other than 0 even if none is shown.
 double TextHeightOf(const DxfFileStyle& style) {
   if (style.Dimensions.TextHeight > 0) return style.Dimensions.TextHeight;
   return style.TextHeight > 0 ? style.TextHeight : 1;
@@ -55,8 +55,8 @@ struct StyleValue {
   double Value;
 };
 
-/// The lengths of a dimension, as header and table both hold them. A factor of 1 is told, too: some readers
-/// take the units for one.
+/// The lengths of a dimension, for both the header and the table. A factor of 1 is written, too: otherwise
+/// some readers use the units as a factor.
 std::array<StyleValue, 8> DimensionLengths(const DxfFileStyle& style) {
   const DxfDimensionStyle& dim = style.Dimensions;
   return {{{"$DIMSCALE", 40, 1},
@@ -69,7 +69,7 @@ std::array<StyleValue, 8> DimensionLengths(const DxfFileStyle& style) {
            {"$DIMGAP", 147, dim.TextGap}}};
 }
 
-/// Texts run along their line, above it, and the line goes through.
+/// Texts run along their line and above it, and the line is not broken for them.
 std::array<StyleValue, 7> DimensionModes(const DxfFileStyle& style) {
   const double color = style.Dimensions.Color;
   return {{{"$DIMTIH", 73, 0},
@@ -95,7 +95,7 @@ void BeginEntry(DxfPairs& pairs, std::string_view table, std::string_view name) 
 
 void EndTable(DxfPairs& pairs) { pairs.Name(0, "ENDTAB"); }
 
-/// The window in which the file is opened: all of the drawing and a little air.
+/// The view when the file is opened: the whole drawing with a small margin.
 void WriteView(DxfPairs& pairs, const DxfExtents& extents) {
   constexpr double kAspect = 1.5;
   constexpr double kAir = 1.1;
@@ -110,7 +110,7 @@ void WriteView(DxfPairs& pairs, const DxfExtents& extents) {
   pairs.Flat(14, {1, 1});
   pairs.Flat(15, {0, 0});
   pairs.Flat(16, {0, 0});
-  pairs.Real(36, 1);  // looked at from above
+  pairs.Real(36, 1);  // seen from above
   pairs.Point(17, {0, 0});
   pairs.Real(40, height > 0 ? height : 1);
   pairs.Real(41, kAspect);
@@ -161,7 +161,7 @@ void WriteTextStyle(DxfPairs& pairs, double textHeight) {
 void WriteDimensionStyle(DxfPairs& pairs, const DxfFileStyle& style) {
   BeginTable(pairs, "DIMSTYLE", 1);
   BeginEntry(pairs, "DIMSTYLE", "STANDARD");
-  for (const int code : {3, 4, 5, 6, 7}) pairs.Name(code, "");  // arrowheads and affixes are the usual ones
+  for (const int code : {3, 4, 5, 6, 7}) pairs.Name(code, "");  // the usual arrowheads and affixes
   for (const StyleValue& length : DimensionLengths(style)) pairs.Real(length.Code, length.Value);
   for (const StyleValue& mode : DimensionModes(style)) pairs.Whole(mode.Code, static_cast<int>(mode.Value));
   EndTable(pairs);

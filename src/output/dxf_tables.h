@@ -1,4 +1,4 @@
-// What stands before the blocks of a DXF file: the header and the tables.
+// What comes before the blocks of a DXF file: the header and the tables.
 #pragma once
 
 #include <string>

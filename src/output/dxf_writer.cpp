@@ -32,7 +32,7 @@ double AtLeastZero(double length) {
 
 char AlignOf(const std::string& align) { return align == "C" || align == "R" ? align.front() : 'L'; }
 
-/// A name as every reader knows it: capitals, figures, "$", "-" and "_".
+/// A name that every reader accepts: capitals, digits, "$", "-" and "_".
 std::string LayerName(std::optional<std::string_view> wanted) {
   std::string name;
   for (const char c : wanted.value_or("").substr(0, kLongestLayerName)) {

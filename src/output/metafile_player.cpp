@@ -16,7 +16,7 @@ constexpr std::size_t kLongestFontName = 31;
 constexpr std::size_t kLongestText = 0x7FFF;
 constexpr std::size_t kMostPoints = 0x7FFF;
 
-// The characters that the code page has in the place of 0x80 to 0x9F; 0 where it has none.
+// The characters of the code page from 0x80 to 0x9F; 0 where it has none.
 constexpr std::array<char32_t, 32> kHighControls = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -46,7 +46,7 @@ int MetafilePlayer::Scaled(std::int32_t coordinate) const {
   return static_cast<int>(std::lround(coordinate * scale_));
 }
 
-// An object must not be deleted while it is selected, so the new one comes first.
+// A selected object must not be deleted, so the new one is selected first.
 template <typename Kind>
 void MetafilePlayer::Replace(Selected<Kind>& selected, const Kind& object, MetaFunction create,
                              const MetaWords& words) {
@@ -89,12 +89,12 @@ void MetafilePlayer::UseBrush(const DrawnBrush& brush) {
 void MetafilePlayer::UseFont(const Font& font) {
   if (font_.Object == font) return;
   MetaWords words;
-  words.Word(font.Height);  // above 0: of the cell
+  words.Word(font.Height);  // positive: of the cell
   words.Word(0);
   words.Word(font.Escapement);
   words.Word(font.Escapement);
   words.Word(font.Bold ? 700 : 400);
-  words.Word(font.Italic ? 1 : 0);  // and no underline
+  words.Word(font.Italic ? 1 : 0);  // no underline
   words.Word(0);                    // no strike-through; the code page is the western one
   words.Word(0);
   words.Word(0);
@@ -127,8 +127,8 @@ void MetafilePlayer::Play(const LineOp& line) {
 void MetafilePlayer::Play(const TextOp& text) {
   const std::string bytes = Windows1252(text.Text).substr(0, kLongestText);
   const int height = Scaled(text.Height);
-  if (bytes.empty() || height <= 0) return;  // a height of 0 is the player's own, which is any
-  // Where y grows upward, players turn a text the other way round.
+  if (bytes.empty() || height <= 0) return;  // a player would replace a height of 0 by one of its own
+  // Where y grows upward, players turn texts the other way round.
   const double turn = std::remainder(upward_ ? -text.Angle : text.Angle, 360);
   UseFont({height, static_cast<int>(std::lround(turn * 10)), text.Bold, text.Italic, text.Font});
   UseTextColor(text.Color);
@@ -163,7 +163,7 @@ void MetafilePlayer::Play(const EllipseOp& ellipse) {
 
 void MetafilePlayer::Play(const ArcOp& arc) {
   UsePen(arc.Pen);
-  // Players go counter-clockwise as it is seen; a picture upside down is seen from behind.
+  // Players draw counter-clockwise as seen on the paper; a picture turned upside down is seen from behind.
   const DrawnPoint start = upward_ ? arc.Start : arc.End;
   const DrawnPoint end = upward_ ? arc.End : arc.Start;
   const Box box = BoxOf(arc.From, arc.To);

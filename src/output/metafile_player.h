@@ -11,14 +11,14 @@
 
 namespace pitchcraft {
 
-/// A text in the code page 1252 of the metafile; what it lacks becomes "?".
+/// A text in the code page of the metafile, 1252; a character that it lacks becomes "?".
 std::string Windows1252(std::string_view text);
 
-/// Coordinates of the recording times `scale` become those of the file. Pens, brushes and fonts are made when
-/// they change, and what they replace is deleted.
+/// Coordinates of the recording times `scale` are those of the file. Pens, brushes and fonts are created when
+/// they change, and the old ones are deleted.
 class MetafilePlayer {
  public:
-  /// `upward` says that y grows upward in the picture.
+  /// `upward`: y grows upward in the picture.
   MetafilePlayer(MetaRecords& records, double scale, bool upward)
       : records_(records), scale_(scale), upward_(upward) {}
 
@@ -40,14 +40,14 @@ class MetafilePlayer {
     std::string Name;
     bool operator==(const Font&) const = default;
   };
-  /// The object of one kind that is selected; none before the first.
+  /// The selected object of one kind; at first there is none.
   template <typename Kind>
   struct Selected {
     std::optional<Kind> Object;
     int Slot = 0;
   };
 
-  /// Bottom, right, top and left as they are seen: the order of the records.
+  /// Bottom, right, top and left as seen on the paper, in the order of the records.
   using Box = std::array<int, 4>;
 
   int Scaled(std::int32_t coordinate) const;

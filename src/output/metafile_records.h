@@ -8,7 +8,7 @@
 
 namespace pitchcraft {
 
-/// What the functions of the records are called by.
+/// The codes of the records' functions.
 enum class MetaFunction : std::uint16_t {
   kEof = 0x0000,
   kSetBkMode = 0x0102,
@@ -33,12 +33,12 @@ enum class MetaFunction : std::uint16_t {
   kArc = 0x0817,
 };
 
-/// 16-bit words, the lower byte first.
+/// 16-bit words, low byte first.
 class MetaWords {
  public:
   void Word(int value);
   void Long(std::uint32_t value);
-  /// Padded to a whole word with a 0.
+  /// Padded with a 0 to a whole number of words.
   void Text(const std::string& bytes);
 
   const std::string& Bytes() const { return bytes_; }
@@ -48,7 +48,7 @@ class MetaWords {
   std::string bytes_;
 };
 
-/// The records in their order, and the two figures that the header has to state about them.
+/// The records in order, with the two numbers that the header states about them.
 class MetaRecords {
  public:
   void Add(MetaFunction function, const MetaWords& parameters);
@@ -63,12 +63,12 @@ class MetaRecords {
   std::size_t largest_ = 0;
 };
 
-/// Players put a new object into the first free slot: this foretells which.
+/// Players put a new object into the first free slot; this keeps count of the slots in the same way.
 class MetaSlots {
  public:
   int Take();
   void Free(int slot) { used_[static_cast<std::size_t>(slot)] = false; }
-  /// The most that were taken at one time.
+  /// The most slots that were in use at one time.
   int Count() const { return static_cast<int>(used_.size()); }
 
  private:

@@ -14,17 +14,17 @@
 namespace pitchcraft {
 namespace {
 
-constexpr double kLargest = 32000;  // with a little room below 16 bits for a player's own arithmetic
+constexpr double kLargest = 32000;  // leaves a player's own arithmetic some room within 16 bits
 constexpr double kLongerSideInches = 8;
 
-/// The frame in the units of the file. A side of 0 would show nothing.
+/// The frame in the units of the file. No side may be 0, or nothing would show.
 struct Bounds {
   int Left, Top, Right, Bottom;
   int Width() const { return Right - Left; }
   int Height() const { return Bottom - Top; }
 };
 
-/// The largest figure that the file would have to hold.
+/// The largest number that the file would have to hold.
 class Reach {
  public:
   double Largest() const { return largest_; }
@@ -128,7 +128,7 @@ void SetWindow(MetaRecords& records, const Bounds& bounds, bool upward) {
   constexpr int kWinding = 2;
   const int top = upward ? bounds.Bottom : bounds.Top;
   const int height = upward ? -bounds.Height() : bounds.Height();
-  records.Add(MetaFunction::kSetMapMode, {8});  // both axes stretch as the player wants
+  records.Add(MetaFunction::kSetMapMode, {8});  // the player may stretch either axis
   records.Add(MetaFunction::kSetWindowOrg, {top, bounds.Left});
   records.Add(MetaFunction::kSetWindowExt, {height, bounds.Width()});
   records.Add(MetaFunction::kSetBkMode, {kTransparent});

@@ -16,7 +16,7 @@ constexpr double kHalfPoint = 10;
 constexpr double kPrintWidth = 1400;
 constexpr double kPrintHeight = 1600;
 
-/// Pen widths that are counted in half points, as drawing units at a scale in twips for a unit.
+/// Turns pen widths counted in half points into drawing units, at a scale in twips per unit.
 Recording WithPaperPens(Recording drawing, double scale) {
   const auto widen = [scale](DrawnPen& pen) {
     if (pen.Width > 0) pen.Width = std::max(1, ToLong(std::min(pen.Width * kHalfPoint / scale, 1e6)));
@@ -58,7 +58,7 @@ double Printer::TextWidth(std::string_view text) const { return meter_.TextWidth
 
 double Printer::TextHeight() const { return Downward() * Face().Height; }
 
-/// Rows and rules share a layer as long as no drawing comes between them.
+/// Rows and rules share a layer until a drawing comes between them.
 PageLayer& Printer::RowLayer() {
   const CanvasMap rows{1, Downward(), 0, 0};
   if (page_.Layers.empty() || page_.Layers.back().Map != rows) page_.Layers.push_back({{}, rows});

@@ -1,4 +1,4 @@
-// The printer as the sheets see it: one page that is written row by row, and drawings played onto it.
+// The printer that prints are written to: one page, written row by row, and drawings played onto it.
 #pragma once
 
 #include <string>
@@ -10,9 +10,9 @@
 
 namespace pitchcraft {
 
-/// One page in the making. Lengths are twips within the printable area. With ScaleHeight below 0, y is 0 at
-/// the top edge and grows upward, so that the bottom edge is y = ScaleHeight; a text's height then counts
-/// downward, too.
+/// One page in the making. Lengths are in twips within the printable area. If ScaleHeight is negative, y is 0
+/// at the top edge and grows upward, so that the bottom edge is at y = ScaleHeight; the height of a text is
+/// then negative, too.
 class Printer {
  public:
   Printer(const Paper& paper, const TextMeter& meter);
@@ -27,25 +27,26 @@ class Printer {
   bool FontBold = false;
   bool FontItalic = false;
   DrawColor ForeColor = 0;
-  int ColorMode;  ///< 2 prints in colour, 1 in black alone
+  int ColorMode;  ///< 2 prints in colour, 1 only in black
 
   double TextWidth(std::string_view text) const;
-  /// The way from one row to the next, below 0 where y grows upward.
+  /// The step from one row to the next, negative where y grows upward.
   double TextHeight() const;
-  /// The lower edge of the page less that far up, whichever way y grows.
+  /// The y that is `twips` above the bottom edge, whichever way y grows.
   double AboveBottom(double twips) const { return ScaleHeight - Downward() * twips; }
 
-  /// Writes with the left upper corner of the text at the current position, then goes to the left edge of the
+  /// Writes the text with its left upper corner at the current position, then moves to the left edge of the
   /// next row.
   void Print(std::string_view text);
-  /// A straight line in ForeColor, a point thick.
+  /// A straight line in ForeColor, one point wide.
   void Line(double x1, double y1, double x2, double y2);
-  /// Plays a finished drawing into an area, Top counted in y; its pen widths are half points of the paper.
+  /// Plays a finished drawing into an area whose Top is a y of this page; pen widths count in half points on
+  /// paper.
   void Play(const DrawingRecorder& drawing, const PlayArea& area);
-  /// Plays a finished drawing alone into a window of 1400 by 1600 units that fills the page. "No metafile to
-  /// print!" when there is none.
+  /// Plays a finished drawing by itself into a window of 1400 by 1600 units that fills the page. "No metafile
+  /// to print!" when there is none.
   void PrintRecording(const DrawingRecorder& drawing);
-  /// Gives the page away; an empty one stands for it.
+  /// Hands over the page and starts an empty one.
   PrintedPage EndDoc();
 
  private:

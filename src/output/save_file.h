@@ -1,4 +1,4 @@
-// An export as a file, with the errors that a person is told.
+// Saves an export as a file and raises the errors that people are shown.
 #pragma once
 
 #include <filesystem>
@@ -6,8 +6,8 @@
 
 namespace pitchcraft {
 
-/// Raises "Path not found" (76) where the folder is missing, "Path/File access error" (75) for anything else
-/// that keeps the file from being written. An old file is untouched then. Only a regular file is replaced.
+/// Raises "Path not found" (76) if the folder is missing, "Path/File access error" (75) if anything else
+/// keeps the file from being written; an old file then stays as it was. Only a regular file is replaced.
 void SaveFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace pitchcraft

@@ -15,7 +15,7 @@ const QString& FamilyName() {
   return name;
 }
 
-// Only the name is looked up: to ask for a font would load one of a size that nobody uses.
+// Looks up only the name: asking for a font would load one in a size that nobody uses.
 bool IsThere() { return QFontDatabase::hasFamily(FamilyName()); }
 
 void IgnoreMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
@@ -58,14 +58,14 @@ void EnsureGui() {
   static int argumentCount = 1;
   static char name[] = "pitchcraft";
   static char* arguments[] = {name, nullptr};
-  // The pictures are painted in memory: a display, even one that is there, is none of their business, and so
-  // are the toolkit's remarks about the desktop.
+  // Pictures are painted in memory, so a display does not matter even if there is one, nor do the toolkit's
+  // remarks about the desktop.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QtMessageHandler handler = qInstallMessageHandler(IgnoreMessage);
-  // Ends with the process; by then nobody holds a font or an image.
+  // Ends with the process, when no fonts or images are left.
   static const auto application = std::make_unique<QGuiApplication>(argumentCount, arguments);
   qInstallMessageHandler(handler);
-  // The toolkit takes over the user's locale; numbers in files keep their decimal point.
+  // The toolkit adopts the user's locale; numbers in files keep their decimal point.
   std::setlocale(LC_NUMERIC, "C");
   EnsureDrawingFont();
 }

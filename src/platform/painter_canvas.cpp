@@ -14,7 +14,7 @@ namespace {
 constexpr double kHairlineTwips = 15;
 constexpr double kPaperHairlineTwips = 6;  // 0.3 points: finer than the finest outline
 constexpr double kHatchTwips = 90;
-// Beyond this many units a point lies so far off any picture that only its direction matters.
+// A point beyond this many units is so far outside any picture that only its direction matters.
 constexpr double kFarAway = 1e6;
 
 QColor ToColor(DrawColor color) {
@@ -28,7 +28,7 @@ QPointF ToPoint(CanvasPoint point) {
 
 QRectF ToRect(CanvasPoint from, CanvasPoint to) { return {ToPoint(from), ToPoint(to)}; }
 
-/// Degrees at which the ray from the middle of the box through the point meets its ellipse.
+/// The angle, in degrees, at which the ray from the middle of the box through the point meets the ellipse.
 double AngleOn(const QRectF& box, CanvasPoint point) {
   const double x = (point.X - box.center().x()) / (box.width() / 2);
   const double y = (box.center().y() - point.Y) / (box.height() / 2);
@@ -50,7 +50,7 @@ PainterCanvas::PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter
 
 void PainterCanvas::doPen(const CanvasPen& pen) {
   const double width = std::max(pen.Width, hairline_);
-  // Whole device pixels: a line then begins and ends between two of them and is not smeared.
+  // A whole number of device pixels: the line's edges then fall between pixels and are not blurred.
   penWidth_ = std::max(1.0, std::round(width / devicePixel_)) * devicePixel_;
   QPen qtPen(ToColor(pen.Color), penWidth_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
   if (!pen.Dashes.empty()) {
@@ -62,7 +62,7 @@ void PainterCanvas::doPen(const CanvasPen& pen) {
   painter_.setPen(qtPen);
 }
 
-/// The nearest place where an upright or level line of the present width covers whole device pixels.
+/// The nearest place where an upright or level line of the current width covers whole device pixels.
 double PainterCanvas::OnGrid(double coordinate) const {
   const double half = penWidth_ / devicePixel_ / 2;
   return (std::round(coordinate / devicePixel_ - half) + half) * devicePixel_;
@@ -88,7 +88,7 @@ void PainterCanvas::doText(const CanvasText& text) {
   painter_.setPen(ToColor(text.Color));
   painter_.translate(ToPoint(text.Origin));
   if (text.Angle != 0) painter_.rotate(-text.Angle);
-  // A font has whole pixels alone; the scale brings it to the exact size.
+  // A font comes only in whole pixels; the scale brings it to the exact size.
   const double scale = text.Height * kEmPerCell / font_.pixelSize();
   painter_.scale(scale, scale);
   painter_.drawText(QPointF(0, 0), QString::fromUtf8(text.Text.data(), qsizetype(text.Text.size())));
@@ -104,7 +104,7 @@ void PainterCanvas::Fill(const QPainterPath& path, const DrawnBrush& brush) {
   painter_.fillPath(path, ToColor(brush.Color));
 }
 
-// Drawn as lines and not as a pattern of the toolkit, which has one fixed size in device pixels.
+// Drawn line by line: the toolkit's hatch pattern has a fixed size in device pixels.
 void PainterCanvas::Hatch(const QPainterPath& path, const QColor& color) {
   const QRectF box = path.boundingRect();
   const double step = std::max(kHatchTwips * UnitsPerTwip(), (box.width() + box.height()) / 1000);

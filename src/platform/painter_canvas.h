@@ -1,4 +1,4 @@
-// A canvas that paints with QPainter: on the screen, on an image, on paper.
+// A canvas that paints with QPainter: on screen, on an image or on paper.
 #pragma once
 
 #include <QFont>
@@ -8,14 +8,14 @@
 
 namespace pitchcraft {
 
-/// Paints in the painter's own coordinates, sharp at any device pixel ratio. The thinnest line is as thick as
-/// 15 twips, a pixel of a screen at the usual scale, on paper 6, and never thinner than a pixel of the
+/// Paints in the painter's own coordinates, sharp at any device pixel ratio. The thinnest line is 15 twips
+/// wide, a pixel of an ordinary screen; on paper it is 6 twips; and it is never thinner than a pixel of the
 /// device.
 class PainterCanvas : public Canvas {
  public:
-  /// The painter outlives the canvas. `unitsPerTwip` is the size of a twip in the painter's coordinates,
-  /// where the picture is looked at `magnified` times its size: its thinnest lines then stay as thin as they
-  /// are. The painter's origin stands on a whole device pixel, and it neither scales nor turns.
+  /// The painter must outlive the canvas. `unitsPerTwip` is the size of a twip in the painter's coordinates
+  /// in a picture magnified `magnified` times; the thinnest lines do not grow with it. The painter's origin
+  /// must be on a whole device pixel, and it must neither scale nor rotate.
   PainterCanvas(QPainter& painter, CanvasSize size, const TextMeter& meter, double unitsPerTwip,
                 double magnified = 1);
 
@@ -34,7 +34,7 @@ class PainterCanvas : public Canvas {
 
   QPainter& painter_;
   QFont font_;
-  QString arialFamily_;  ///< the face that stands for Arial
+  QString arialFamily_;  ///< the face used for Arial
   double devicePixel_;   ///< size of a device pixel in the painter's coordinates
   double hairline_;      ///< the thinnest line, in the painter's coordinates
   double penWidth_ = 1;

@@ -23,7 +23,7 @@ namespace {
 constexpr int kPngWidth = 1600;
 constexpr int kTallestPng = 16000;
 
-// So that no stroke is lost at the edge.
+// Keeps strokes from being cut off at the edge.
 constexpr double kBorderTwips = 120;
 const PlayArea kArea{0, 0, {}, {}, kBorderTwips};
 
@@ -61,7 +61,7 @@ QByteArray SvgOf(const Picture& picture) {
   return QByteArray::fromStdString(canvas.Document(picture.Background, picture.Title));
 }
 
-/// A page of the picture's own size, on its ground.
+/// A page of the picture's own size, filled with its background.
 QByteArray PdfOf(const Picture& picture) {
   PrintedPage page;
   page.Paper = {std::fabs(picture.Size.ScaleWidth), std::fabs(picture.Size.ScaleHeight), 0};
@@ -102,8 +102,11 @@ Outcome Save(const QByteArray& bytes, const std::filesystem::path& file) {
 }  // namespace
 
 Picture ShownPicture(const Document& document) {
-  const PictureBox& box = document.CurrentTab == 0 ? document.Picture1 : document.Picture3;
-  return {document.board.Recorder, box.Size(), static_cast<DrawColor>(document.BackColor), document.Title};
+  const Area area = document.FigureArea();
+  return {document.Board().Recorder,
+          {static_cast<double>(area.Width), static_cast<double>(area.Height), false},
+          static_cast<DrawColor>(document.preferences.BackColor),
+          document.window.Title};
 }
 
 QByteArray PictureBytes(const Picture& picture, PictureFormat format) {

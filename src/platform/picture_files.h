@@ -14,7 +14,7 @@ namespace pitchcraft {
 
 class Document;
 
-/// A finished drawing and the area that it is shown on.
+/// A finished drawing and the area in which it is shown.
 struct Picture {
   const DrawingRecorder& Drawing;
   CanvasSize Size;  ///< of the area, in twips
@@ -22,11 +22,11 @@ struct Picture {
   std::string Title;
 };
 
-/// The drawing that the document shows, on the colour of its views.
+/// The drawing that the document shows, with the background of its views.
 Picture ShownPicture(const Document& document);
 
-/// Paints the picture, its proportions kept, with a narrow border of its ground about it. The ground itself
-/// is there already. `unitsPerTwip` and `magnified` are those of PainterCanvas.
+/// Paints the picture with its proportions kept and a narrow border around it. The background must be painted
+/// already. `unitsPerTwip` and `magnified` are those of PainterCanvas.
 void PaintPicture(QPainter& painter, const Picture& picture, double unitsPerTwip, double magnified = 1);
 
 enum class PictureFormat { kPng, kSvg, kPdf };
@@ -34,9 +34,9 @@ enum class PictureFormat { kPng, kSvg, kPdf };
 /// The picture as the contents of a file.
 QByteArray PictureBytes(const Picture& picture, PictureFormat format);
 
-/// Writes the picture to a file whose ending tells the format: .png is 1600 pixels wide with the proportions
-/// of the area, .svg scalable. The file is replaced whole or not touched at all. Nothing on success; else
-/// what went wrong, as a sentence for the person.
+/// Writes the picture to a file in the format of its extension: .png is 1600 pixels wide with the proportions
+/// of the area, .svg is scalable. The file is replaced as a whole or not touched. Returns nothing on success,
+/// otherwise a sentence for the user about what went wrong.
 std::optional<std::string> WritePicture(const Picture& picture, const std::filesystem::path& file);
 
 }  // namespace pitchcraft

@@ -8,7 +8,7 @@
 namespace pitchcraft {
 
 std::filesystem::path ProgramFolder() {
-  // Told by the system, since the driver runs without an application object of the toolkit.
+  // From the system, because the driver has no application object of the toolkit.
   const QFileInfo executable(QFileInfo("/proc/self/exe").canonicalFilePath());
   const QFileInfo folder(executable.path());
   if (executable.exists() && folder.isWritable()) return QDir(folder.filePath()).filesystemPath();

@@ -5,11 +5,11 @@
 
 namespace pitchcraft {
 
-/// The executable's folder where it can be written, else the user's own, which is then made. Window and
-/// driver have the same.
+/// The executable's folder if it is writable, otherwise the user's own folder, created if necessary. The same
+/// for window and driver.
 std::filesystem::path ProgramFolder();
 
-/// What came with the program: beside the executable, or in share/pitchcraft next to its folder.
+/// The files that come with the program: beside the executable, or in share/pitchcraft next to its folder.
 std::filesystem::path DataFolder();
 
 }  // namespace pitchcraft

@@ -14,7 +14,7 @@ constexpr double kPixelsPerTwip = 1.0 / 15;
 constexpr double kHairline = 1;
 constexpr double kHatch = 6;
 
-/// A hundredth of a pixel is finer than any screen or printer shows.
+/// A hundredth of a pixel is finer than any screen or printer can show.
 std::string Number(double value) {
   if (!std::isfinite(value)) return "0";
   const double rounded = std::round(std::clamp(value, -1e9, 1e9) * 100) / 100;
@@ -40,7 +40,7 @@ std::string ColorText(DrawColor color) {
   return text;
 }
 
-/// Characters that no document may hold are left out.
+/// Leaves out characters that XML does not allow.
 std::string Escaped(std::string_view text) {
   std::string escaped;
   for (const char sign : text) {
@@ -80,7 +80,7 @@ std::string SvgCanvas::Document(DrawColor background, const std::string& title) 
   return text + "</svg>\n";
 }
 
-// Lines of one pen that follow each other are one path.
+// Successive lines with the same pen form one path.
 void SvgCanvas::EndStrokes() {
   if (!strokes_.empty()) body_ += PathElement(strokes_, pen_);
   strokes_.clear();
@@ -102,7 +102,7 @@ void SvgCanvas::doLine(CanvasPoint from, CanvasPoint to) {
   last_ = to;
 }
 
-// The length is written down, so that a viewer with another face keeps the text in its place.
+// States the length, so that a viewer with another face keeps the text in its place.
 void SvgCanvas::doText(const CanvasText& text) {
   if (text.Text.empty()) return;
   EndStrokes();
@@ -159,7 +159,7 @@ void SvgCanvas::doArc(CanvasPoint from, CanvasPoint to, CanvasPoint start, Canva
   const double first = angleOf(start);
   double sweep = angleOf(end) - first;
   if (sweep <= 0) sweep += 360 * kRadiansPerDegree;
-  // Two halves: a whole turn has no end of its own to go to.
+  // In two halves, because an arc that ends where it starts is not drawn.
   const std::string half = "A" + Pair(radius) + " 0 0 0 ";
   body_ += PathElement("M" + Pair(pointAt(first)) + half + Pair(pointAt(first + sweep / 2)) + half +
                            Pair(pointAt(first + sweep)),

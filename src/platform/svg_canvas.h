@@ -1,4 +1,4 @@
-// A canvas that writes a scalable picture: texts stay texts, lines stay lines.
+// A canvas that writes a scalable picture, in which texts stay texts and lines stay lines.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ class SvgCanvas : public Canvas {
  public:
   SvgCanvas(CanvasSize size, const TextMeter& meter);
 
-  /// The whole document, with the colour that it stands on.
+  /// The whole document, on the given background.
   std::string Document(DrawColor background, const std::string& title) const;
 
  private:
@@ -30,8 +30,8 @@ class SvgCanvas : public Canvas {
   std::string body_;
   std::string patterns_;
   int patternCount_ = 0;
-  std::string pen_;      ///< attributes of the present pen
-  std::string strokes_;  ///< path data of the lines drawn with it so far
+  std::string pen_;      ///< attributes of the current pen
+  std::string strokes_;  ///< path data of the lines drawn with this pen so far
   CanvasPoint last_;
 };
 

@@ -16,10 +16,11 @@ namespace pitchcraft {
 class MeasureControl : public Control {
  public:
   MeasureConverter Format;
-  std::uint32_t ForeColor = 0;
+  std::uint32_t ForeColor = 0;  ///< follows from the two flags below and the preferences
   std::uint32_t BackColor = 0;
   bool ReadOnly = false;    ///< takes no typing
   bool Calculated = false;  ///< its value was derived from the other fields
+  bool Grayed = false;      ///< its box was unticked: the text is that of something switched off
 
   double Value() const { return value_; }
   void SetValue(double value);

@@ -21,13 +21,11 @@ struct MenuItem {
   bool IsSeparator() const { return Caption == "-"; }
 };
 
-/// The items in the order of the menus. The check of an item is the state of its option: there is no second
-/// variable.
+/// The items in the order of the menus: plain, copyable state. A check mark shows a choice that the design
+/// holds.
 class Menus {
  public:
   Menus();
-  Menus(const Menus&) = delete;
-  Menus& operator=(const Menus&) = delete;
 
   MenuItem File, FileNew, FileOpen, FileSave, FileSaveAs, FileProjectName, FileExportMetafile, FileExportDXF,
       FileDXFSettings, FilePageSetup, FilePrint, FileExit;
@@ -53,18 +51,18 @@ class Menus {
   std::array<MenuItem, 26> Separator;
 
   /// All items, each bar item followed by those of its menu.
-  const std::vector<MenuItem*>& Items() const { return items_; }
-  /// The item of that name, written as `Metric` or `DutchLedger(1)`; null when there is none.
-  MenuItem* Find(std::string_view name) const;
+  std::vector<MenuItem*> Items();
+  std::vector<const MenuItem*> Items() const;
+  /// The item of that name, written as `mnuMetric` or `mnuDutchLedger(1)`; null when there is none.
+  MenuItem* Find(std::string_view name);
+  const MenuItem* Find(std::string_view name) const;
   /// The items of the menu under a bar item or of a popup.
-  std::vector<MenuItem*> ItemsUnder(const MenuItem& holder) const;
+  std::vector<MenuItem*> ItemsUnder(const MenuItem& holder);
+  std::vector<const MenuItem*> ItemsUnder(const MenuItem& holder) const;
 
   /// The bar item or popup that an item stands under; null for one of the bar itself.
   const MenuItem* HolderOf(const MenuItem& item) const;
   bool IsPopup(const MenuItem& holder) const;
-
- private:
-  std::vector<MenuItem*> items_;
 };
 
 }  // namespace pitchcraft

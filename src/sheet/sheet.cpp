@@ -1,7 +1,6 @@
 #include "sheet/sheet.h"
 
 #include <cstdlib>
-#include <utility>
 
 namespace pitchcraft {
 namespace {
@@ -42,6 +41,112 @@ void Place(ControlType& control, Host host, int top, int left, int width) {
   control.Width = width;
 }
 
+struct ControlRow {
+  AnyControl (*of)(Sheet&);
+  std::string_view name;
+};
+
+template <auto Control>
+AnyControl One(Sheet& sheet) {
+  return &(sheet.*Control);
+}
+template <auto Array, std::size_t Index>
+AnyControl OneOf(Sheet& sheet) {
+  return &(sheet.*Array)[Index];
+}
+
+// In the order of the eye, which is that of Tab, too: down the front page, down the rear page, then the
+// strips.
+// clang-format off
+constexpr ControlRow kControls[] = {
+    {One<&Sheet::RoofList>, "cboType"},
+    {OneOf<&Sheet::Slope, 0>, "LWSlope(0)"},
+    {OneOf<&Sheet::Degrees, 0>, "cboDegrees(0)"},
+    {One<&Sheet::UpperSlopeLock>, "chkUpperSlope"},
+    {OneOf<&Sheet::Slope, 2>, "LWSlope(2)"},
+    {OneOf<&Sheet::Degrees, 2>, "cboDegrees(2)"},
+    {One<&Sheet::LowerSlopeLock>, "chkLowerSlope"},
+    {OneOf<&Sheet::Span, 0>, "FtSpan(0)"},
+    {OneOf<&Sheet::Spin, 0>, "Spin(0)"},
+    {OneOf<&Sheet::Span, 2>, "FtSpan(2)"},
+    {OneOf<&Sheet::Spin, 2>, "Spin(2)"},
+    {One<&Sheet::UpperSpanLock>, "chkUpperSpan"},
+    {OneOf<&Sheet::RidgeLength, 0>, "FtRidge(0)"},
+    {OneOf<&Sheet::Spin, 3>, "Spin(3)"},
+    {One<&Sheet::UpperHeightLock>, "chkUpperHeight"},
+    {OneOf<&Sheet::RidgeLength, 1>, "FtRidge(1)"},
+    {OneOf<&Sheet::Spin, 4>, "Spin(4)"},
+    {OneOf<&Sheet::Spin, 7>, "Spin(7)"},
+    {One<&Sheet::LowerHeightLock>, "chkLowerHeight"},
+    {OneOf<&Sheet::Overhang, 0>, "FtOverhang(0)"},
+    {OneOf<&Sheet::Spin, 1>, "Spin(1)"},
+    {OneOf<&Sheet::Heel, 0>, "FtHeel(0)"},
+    {OneOf<&Sheet::HeelLock, 0>, "chkHeel(0)"},
+    {OneOf<&Sheet::Seat, 0>, "FtSeat(0)"},
+    {OneOf<&Sheet::SeatLock, 0>, "chkSeat(0)"},
+    {OneOf<&Sheet::Fascia, 0>, "LWFascia(0)"},
+    {One<&Sheet::Ridge>, "LWRidge"},
+    {OneOf<&Sheet::Common, 0>, "LWRafter(0)"},
+    {One<&Sheet::HipOrValley>, "LWHipVal"},
+    {OneOf<&Sheet::Kneewall, 0>, "FtKneewall(0)"},
+    {OneOf<&Sheet::HasKneewall, 0>, "chkKneewall(0)"},
+    {One<&Sheet::LastCommon>, "FtLastCommon"},
+    {One<&Sheet::HasLastCommon>, "chkLastCommon"},
+    {OneOf<&Sheet::Slope, 1>, "LWSlope(1)"},
+    {OneOf<&Sheet::Degrees, 1>, "cboDegrees(1)"},
+    {OneOf<&Sheet::Span, 1>, "FtSpan(1)"},
+    {OneOf<&Sheet::Spin, 5>, "Spin(5)"},
+    {OneOf<&Sheet::Overhang, 1>, "FtOverhang(1)"},
+    {OneOf<&Sheet::Spin, 6>, "Spin(6)"},
+    {OneOf<&Sheet::Heel, 1>, "FtHeel(1)"},
+    {OneOf<&Sheet::HeelLock, 1>, "chkHeel(1)"},
+    {OneOf<&Sheet::Seat, 1>, "FtSeat(1)"},
+    {OneOf<&Sheet::SeatLock, 1>, "chkSeat(1)"},
+    {OneOf<&Sheet::Fascia, 1>, "LWFascia(1)"},
+    {OneOf<&Sheet::Common, 1>, "LWRafter(1)"},
+    {OneOf<&Sheet::Kneewall, 1>, "FtKneewall(1)"},
+    {OneOf<&Sheet::HasKneewall, 1>, "chkKneewall(1)"},
+    {One<&Sheet::UpperFasciaLabel>, "txtUpperFascia"},
+    {One<&Sheet::UpperFascia>, "FTUpperFascia"},
+    {One<&Sheet::LedgerLabel>, "txtLedger"},
+    {One<&Sheet::Ledger>, "cboLedger"},
+    {One<&Sheet::SpacingLabel>, "txtSpacing"},
+    {One<&Sheet::Spacing>, "cboSpacing"},
+    {One<&Sheet::DimensionStrip>, "Toolbar1"},
+    {One<&Sheet::Projection>, "FtProjection"},
+    {One<&Sheet::Face>, "FtFace"},
+    {One<&Sheet::Back>, "FtBack"},
+    {One<&Sheet::BayAngle>, "FtBayAngle"},
+    {One<&Sheet::ResetBay>, "Command1"},
+    {OneOf<&Sheet::Label, 0>, "Label(0)"},
+    {OneOf<&Sheet::Label, 1>, "Label(1)"},
+    {OneOf<&Sheet::Label, 2>, "Label(2)"},
+    {OneOf<&Sheet::Label, 3>, "Label(3)"},
+    {OneOf<&Sheet::Label, 4>, "Label(4)"},
+    {OneOf<&Sheet::Label, 5>, "Label(5)"},
+    {OneOf<&Sheet::Label, 6>, "Label(6)"},
+    {OneOf<&Sheet::Label, 7>, "Label(7)"},
+    {OneOf<&Sheet::Label, 8>, "Label(8)"},
+    {OneOf<&Sheet::Label, 9>, "Label(9)"},
+    {OneOf<&Sheet::Label, 10>, "Label(10)"},
+    {OneOf<&Sheet::Label, 11>, "Label(11)"},
+    {OneOf<&Sheet::Label, 12>, "Label(12)"},
+    {OneOf<&Sheet::Label, 13>, "Label(13)"},
+    {OneOf<&Sheet::Label, 14>, "Label(14)"},
+    {OneOf<&Sheet::Label, 15>, "Label(15)"},
+    {OneOf<&Sheet::Label, 16>, "Label(16)"},
+    {OneOf<&Sheet::Label, 17>, "Label(17)"},
+    {OneOf<&Sheet::Label, 18>, "Label(18)"},
+    {OneOf<&Sheet::Label, 19>, "Label(19)"},
+    {OneOf<&Sheet::Label, 20>, "Label(20)"},
+    {OneOf<&Sheet::Label, 21>, "Label(21)"},
+    {OneOf<&Sheet::Label, 22>, "Label(22)"},
+    {OneOf<&Sheet::Label, 23>, "Label(23)"},
+    {OneOf<&Sheet::Frames, 1>, "VSElastic(1)"},
+    {OneOf<&Sheet::Frames, 2>, "VSElastic(2)"},
+};
+// clang-format on
+
 }  // namespace
 
 Control& ControlOf(const AnyControl& any) {
@@ -49,79 +154,30 @@ Control& ControlOf(const AnyControl& any) {
 }
 
 Sheet::Sheet() {
-  NameControls();
+  for (const ControlRow& row : kControls) ControlOf(row.of(*this)).Name = row.name;
   PlaceControls();
   FillConstants();
 }
 
-void Sheet::Register(AnyControl any, std::string name) {
-  indexByName_.emplace(name, controls_.size());
-  ControlOf(any).Name = std::move(name);
-  controls_.push_back(any);
+std::vector<AnyControl> Sheet::Controls() {
+  std::vector<AnyControl> controls;
+  controls.reserve(std::size(kControls));
+  for (const ControlRow& row : kControls) controls.push_back(row.of(*this));
+  return controls;
 }
 
-void Sheet::NameControls() {
-  const auto indexed = [this](auto& array, std::size_t index, const char* name) {
-    Register(&array[index], std::string(name) + "(" + std::to_string(index) + ")");
-  };
-  Register(&RoofList, "cboType");
-  const auto page = [&](std::size_t i) {
-    indexed(Slope, i, "LWSlope");
-    indexed(Degrees, i, "cboDegrees");
-    if (i == 0) {
-      Register(&UpperSlopeLock, "chkUpperSlope");
-      indexed(Slope, 2, "LWSlope");
-      indexed(Degrees, 2, "cboDegrees");
-      Register(&LowerSlopeLock, "chkLowerSlope");
-    }
-    indexed(Span, i, "FtSpan");
-    indexed(Spin, i == 0 ? 0 : 5, "Spin");
-    if (i == 0) {
-      indexed(Span, 2, "FtSpan");
-      indexed(Spin, 2, "Spin");
-      Register(&UpperSpanLock, "chkUpperSpan");
-      indexed(RidgeLength, 0, "FtRidge");
-      indexed(Spin, 3, "Spin");
-      Register(&UpperHeightLock, "chkUpperHeight");
-      indexed(RidgeLength, 1, "FtRidge");
-      indexed(Spin, 4, "Spin");
-      indexed(Spin, 7, "Spin");
-      Register(&LowerHeightLock, "chkLowerHeight");
-    }
-    indexed(Overhang, i, "FtOverhang");
-    indexed(Spin, i == 0 ? 1 : 6, "Spin");
-    indexed(Heel, i, "FtHeel");
-    indexed(HeelLock, i, "chkHeel");
-    indexed(Seat, i, "FtSeat");
-    indexed(SeatLock, i, "chkSeat");
-    indexed(Fascia, i, "LWFascia");
-    if (i == 0) Register(&Ridge, "LWRidge");
-    indexed(Common, i, "LWRafter");
-    if (i == 0) Register(&HipOrValley, "LWHipVal");
-    indexed(Kneewall, i, "FtKneewall");
-    indexed(HasKneewall, i, "chkKneewall");
-    if (i == 0) {
-      Register(&LastCommon, "FtLastCommon");
-      Register(&HasLastCommon, "chkLastCommon");
-    }
-  };
-  page(0);
-  page(1);
-  Register(&UpperFasciaLabel, "txtUpperFascia");
-  Register(&UpperFascia, "FTUpperFascia");
-  Register(&LedgerLabel, "txtLedger");
-  Register(&Ledger, "cboLedger");
-  Register(&SpacingLabel, "txtSpacing");
-  Register(&Spacing, "cboSpacing");
-  Register(&DimensionStrip, "Toolbar1");
-  Register(&Projection, "FtProjection");
-  Register(&Face, "FtFace");
-  Register(&Back, "FtBack");
-  Register(&BayAngle, "FtBayAngle");
-  Register(&ResetBay, "Command1");
-  for (std::size_t i = 0; i < Label.size(); ++i) indexed(Label, i, "Label");
-  indexed(Frames, 1, "VSElastic");
-  indexed(Frames, 2, "VSElastic");
+// A row only finds its control; with a constant sheet nobody writes to what it gives.
+std::vector<AnyControl> Sheet::Controls() const { return const_cast<Sheet*>(this)->Controls(); }
+
+std::optional<AnyControl> Sheet::Find(std::string_view name) {
+  for (const ControlRow& row : kControls) {
+    if (row.name == name) return row.of(*this);
+  }
+  return std::nullopt;
+}
+
+std::optional<AnyControl> Sheet::Find(std::string_view name) const {
+  return const_cast<Sheet*>(this)->Find(name);
 }
 
 void Sheet::PlaceControls() {
@@ -231,11 +287,6 @@ void Sheet::FillConstants() {
   // A slope is a plain number in both boxes, never a length; so is an angle.
   for (PairControl& slope : Slope) slope.Format.Units = kPlainNumber;
   BayAngle.Format.Units = kPlainNumber;
-}
-
-const AnyControl* Sheet::Find(std::string_view name) const {
-  const auto found = indexByName_.find(std::string(name));
-  return found == indexByName_.end() ? nullptr : &controls_[found->second];
 }
 
 std::string Sheet::AccessibleNameOf(const Control& control) const {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -23,13 +23,12 @@ using AnyControl = std::variant<MeasureControl*, PairControl*, ComboControl*, Ch
 /// The common part of any control.
 Control& ControlOf(const AnyControl& any);
 
-/// The sheet. Index 0 of an array is the front or only roof, 1 the rear roof, 2 the extra field of the front
-/// page. No row is ever made or destroyed: rows are moved, renamed, shown and hidden (row_layouts.h).
+/// The sheet as a copyable value. Index 0 of an array is the front or only roof, 1 the rear roof, 2 the extra
+/// field of the front page. No row is ever made or destroyed: rows are moved, renamed, shown and hidden
+/// by the roof type.
 class Sheet {
  public:
   Sheet();
-  Sheet(const Sheet&) = delete;
-  Sheet& operator=(const Sheet&) = delete;
 
   ComboControl RoofList;
   std::array<PairControl, 3> Slope;
@@ -66,9 +65,11 @@ class Sheet {
 
   /// Every control in the order of the eye: down the front page, down the rear page, then the strips. It is
   /// the order of Tab, too.
-  const std::vector<AnyControl>& Controls() const { return controls_; }
-  /// The control of that name, written as `Span(0)` or `Ridge`; null when there is none.
-  const AnyControl* Find(std::string_view name) const;
+  std::vector<AnyControl> Controls();
+  std::vector<AnyControl> Controls() const;
+  /// The control of that name, written as `FtSpan(0)` or `LWRidge`; nothing when there is none.
+  std::optional<AnyControl> Find(std::string_view name);
+  std::optional<AnyControl> Find(std::string_view name) const;
   /// The caption of the label that stands beside a field, without its colon; its tool tip where there is no
   /// label.
   std::string AccessibleNameOf(const Control& control) const;
@@ -76,20 +77,15 @@ class Sheet {
   /// Runs `action` on every MeasureControl of the sheet, then on every PairControl.
   template <typename Action>
   void ForEachMeasure(Action action) {
-    for (const AnyControl& any : controls_) {
+    for (const AnyControl& any : Controls()) {
       if (auto* const* field = std::get_if<MeasureControl*>(&any)) action(**field);
       if (auto* const* pair = std::get_if<PairControl*>(&any)) action(**pair);
     }
   }
 
  private:
-  void Register(AnyControl any, std::string name);
-  void NameControls();
   void PlaceControls();
   void FillConstants();
-
-  std::vector<AnyControl> controls_;
-  std::unordered_map<std::string, std::size_t> indexByName_;
 };
 
 }  // namespace pitchcraft

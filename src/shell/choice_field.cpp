@@ -23,8 +23,8 @@ void ChoiceField::ShowState() {
   const QSignalBlocker quiet(this);
   const Document& document = TheSession().Document();
   const bool isField = combo_.Host != Host::kTabStrip;
-  const std::uint32_t fore = isField ? document.CtlForeColor : kSystemWindowTextColor;
-  const std::uint32_t back = isField ? document.CtlBackColor : kSystemWindowColor;
+  const std::uint32_t fore = isField ? document.preferences.CtlForeColor : kSystemWindowTextColor;
+  const std::uint32_t back = isField ? document.preferences.CtlBackColor : kSystemWindowColor;
   if (colors_.Take(fore, back, parentWidget()->palette())) setPalette(colors_.Palette());
   if (rows_ != combo_.List()) {
     rows_ = combo_.List();

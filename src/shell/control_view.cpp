@@ -21,7 +21,7 @@ void ControlView::Sync(bool shown, const QRect& place) {
     FitTo(place);
   }
   // A row is called differently in other roofs.
-  const QString name = QString::fromStdString(session_.Document().sheet.AccessibleNameOf(control_));
+  const QString name = QString::fromStdString(session_.Document().design.sheet.AccessibleNameOf(control_));
   if (name != name_) {
     name_ = name;
     ShowName(name);

@@ -173,8 +173,8 @@ ComboField::ComboField(Session& session, ComboControl& combo, QWidget* host)
 void ComboField::ShowState() {
   const Document& document = TheSession().Document();
   const bool isField = combo_.Host != Host::kTabStrip;
-  Color(isField ? document.CtlForeColor : kSystemWindowTextColor,
-        isField ? document.CtlBackColor : kSystemWindowColor);
+  Color(isField ? document.preferences.CtlForeColor : kSystemWindowTextColor,
+        isField ? document.preferences.CtlBackColor : kSystemWindowColor);
   SetLocked(combo_.Locked);
   Box(0).ShowText(combo_.Text());
 }

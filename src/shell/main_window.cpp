@@ -12,6 +12,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "design/questions.h"
+#include "document/files.h"
+#include "document/menu_forms.h"
+#include "document/session_ends.h"
+#include "document/side_programs.h"
 #include "shell/entry_box.h"
 #include "shell/icons.h"
 #include "shell/twips.h"
@@ -43,7 +48,7 @@ QString DraggedProject(const QMimeData& dragged) {
 
 MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings) {
   setObjectName("frmDocument");
-  Document().Form_Load();
+  pitchcraft::Start(Document());
   FitToScreens();
   menus_ = new MenuStrip(session_, this);
   tools_ = new ToolStrip(session_, this);
@@ -60,12 +65,12 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   AddViewCommands();
   setWindowIcon(ProgramIcon());
   FitWords();
-  resize(ToPixels(Document().Window.Width), ToPixels(Document().Window.Height));
+  resize(ToPixels(Document().window.Place.Width), ToPixels(Document().window.Place.Height));
   ChainTabOrder();
   TakeDroppedProjects();
   auto* help = new QShortcut(QKeySequence::HelpContents, this);
   connect(help, &QShortcut::activated, this,
-          [this] { session_.Do([this](Actions&) { Document().ShowHelp(HelpPlace::kTopic); }); });
+          [this] { session_.Do([this](Actions&) { ShowHelp(Document(), HelpPlace::kTopic); }); });
   connect(&session_, &Session::Changed, this, &MainWindow::FinishAction);
   // The action that asks for it comes to its end first.
   connect(this, &MainWindow::CloseAsked, this, &QWidget::close, Qt::QueuedConnection);
@@ -76,11 +81,11 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
 // The screens of the last time may have been larger.
 void MainWindow::FitToScreens() {
   const QSize room = QGuiApplication::primaryScreen()->virtualSize() * kTwipsPerPixel;
-  Area& place = Document().Window;
+  Area& place = Document().window.Place;
   if (place.Width <= room.width() && place.Height <= room.height()) return;
   place.Width = std::min(place.Width, room.width());
   place.Height = std::min(place.Height, room.height());
-  Document().Form_Resize();
+  pitchcraft::FollowSize(Document());
 }
 
 // --- The font at hand
@@ -119,8 +124,8 @@ void MainWindow::FitWords() {
     words = RoomForWords();
   }
   fitsWords_ = false;
-  const bool changed = words != Document().Words;
-  Document().Words = words;
+  const bool changed = words != Document().window.Words;
+  Document().window.Words = words;
   setMinimumSize(ToRect(LeastForm(words)).size());
   if (changed) LayOut();
 }
@@ -132,7 +137,7 @@ void MainWindow::ForEachView(Action action) {
   }
 }
 
-PictureView& MainWindow::ShownView() { return Document().CurrentTab == 0 ? *picture1_ : *picture3_; }
+PictureView& MainWindow::ShownView() { return PageShown(Document().design) == 0 ? *picture1_ : *picture3_; }
 
 void MainWindow::AddViewCommands() {
   commands_ = new ViewCommands(
@@ -163,21 +168,21 @@ void MainWindow::ChainTabOrder() {
 
 void MainWindow::Open() {
   pitchcraft::Document& document = Document();
-  QPoint place(ToPixels(document.Window.Left), ToPixels(document.Window.Top));
+  QPoint place(ToPixels(document.window.Place.Left), ToPixels(document.window.Place.Top));
   // The screen of the last time may be gone.
   if (QGuiApplication::screenAt(place + QPoint(ToPixels(kReach), ToPixels(kReach))) == nullptr) {
     place = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
-    document.Window.Left = place.x() * kTwipsPerPixel;
-    document.Window.Top = place.y() * kTwipsPerPixel;
+    document.window.Place.Left = place.x() * kTwipsPerPixel;
+    document.window.Place.Top = place.y() * kTwipsPerPixel;
   }
   move(place);
-  if (document.WindowState == kMaximized) {
+  if (document.preferences.WindowState == kMaximized) {
     showMaximized();
   } else {
     // A window that was put away is laid out only now.
-    if (document.WindowState == kMinimized) {
-      Document().WindowState = kNormal;
-      session_.Do([this](Actions&) { Document().Form_Resize(); });
+    if (document.preferences.WindowState == kMinimized) {
+      Document().preferences.WindowState = kNormal;
+      session_.Do([this](Actions&) { pitchcraft::FollowSize(Document()); });
     }
     show();
   }
@@ -195,7 +200,7 @@ void MainWindow::TakeDroppedProjects() {
 void MainWindow::OpenProject(const QString& path) {
   EntryBox::CommitFocused();
   const std::string file = QFileInfo(path).absoluteFilePath().toStdString();
-  session_.Do([&](Actions&) { Document().OpenProject(file); });
+  session_.Do([&](Actions&) { pitchcraft::OpenProject(Document(), file); });
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -212,7 +217,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::ShowStartForms() {
-  session_.Do([this](Actions&) { Document().ShowStartForms(); });
+  session_.Do([this](Actions&) { pitchcraft::ShowStartForms(Document()); });
 }
 
 // --- The document's state into the widgets
@@ -244,14 +249,14 @@ void MainWindow::SyncOnce() {
   commands_->Sync();
   SyncStatus();
   // A title's own brackets with a star are no mark of the toolkit.
-  const QString title = QString::fromStdString(Document().Title).replace("[*]", "[*][*]");
+  const QString title = QString::fromStdString(Document().window.Title).replace("[*]", "[*][*]");
   if (title != windowTitle()) setWindowTitle(title);
   GiveFocus();
-  if (Document().CloseRequested && !closed_) emit CloseAsked();
+  if (Document().window.CloseRequested && !closed_) emit CloseAsked();
 }
 
 void MainWindow::SyncStatus() {
-  const QString text = QString::fromStdString(Document().StatusText);
+  const QString text = QString::fromStdString(Document().window.Status);
   if (text != status_->text()) status_->setText(text);
 }
 
@@ -261,7 +266,7 @@ void MainWindow::PlaceParts() {
     if (shown) part.setGeometry(ToRect(area));
     if (part.isHidden() == shown) part.setVisible(shown);
   };
-  const bool design = Document().sheet.Tabs[0].Page == 0;
+  const bool design = Document().design.sheet.Tabs[0].Page == 0;
   put(*menus_, layout.menuBar, true);
   menus_->move(0, std::max(0, (ToPixels(layout.menuBar.Height) - menus_->sizeHint().height()) / 2));
   put(*tools_, layout.toolBar, layout.toolBar.Height > 0);
@@ -279,8 +284,8 @@ void MainWindow::PlaceParts() {
 // A dialog keeps the focus, and a control that does not show cannot take it.
 void MainWindow::GiveFocus() {
   std::string wanted;
-  std::swap(wanted, Document().FocusRequest);
-  if (wanted.empty() || Document().DialogIsActive || QApplication::activeModalWidget() != nullptr) return;
+  std::swap(wanted, Document().window.FocusRequest);
+  if (wanted.empty() || Document().window.DialogIsActive || QApplication::activeModalWidget() != nullptr) return;
   ForEachView([&](ControlView& view) {
     if (view.Of().Name != wanted || view.TabStops().empty()) return;
     QWidget* stop = view.TabStops().front();
@@ -294,7 +299,7 @@ void MainWindow::GiveFocus() {
 // ----------------------------------------------------------------------------------------
 
 void MainWindow::FollowSize() {
-  Area& place = Document().Window;
+  Area& place = Document().window.Place;
   const Area now{place.Left, place.Top, width() * kTwipsPerPixel, height() * kTwipsPerPixel};
   // A size in twips that is no whole number of pixels is the same window.
   const bool same = ToRect(now).size() == ToRect(place).size();
@@ -306,7 +311,7 @@ void MainWindow::FollowSize() {
 // Under an open form the parts follow at once; what is drawn is drawn for the new size when the form is
 // closed.
 void MainWindow::LayOut() {
-  if (session_.Do([this](Actions&) { Document().Form_Resize(); })) return;
+  if (session_.Do([this](Actions&) { pitchcraft::FollowSize(Document()); })) return;
   layoutIsDue_ = true;
   Sync();
 }
@@ -315,13 +320,13 @@ void MainWindow::resizeEvent(QResizeEvent*) { FollowSize(); }
 
 void MainWindow::moveEvent(QMoveEvent*) {
   if (isMaximized() || isMinimized() || !isVisible()) return;
-  Document().Window.Left = x() * kTwipsPerPixel;
-  Document().Window.Top = y() * kTwipsPerPixel;
+  Document().window.Place.Left = x() * kTwipsPerPixel;
+  Document().window.Place.Top = y() * kTwipsPerPixel;
 }
 
 void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) {
-    Document().WindowState = isMinimized() ? kMinimized : isMaximized() ? kMaximized : kNormal;
+    Document().preferences.WindowState = isMinimized() ? kMinimized : isMaximized() ? kMaximized : kNormal;
   }
   // The fields mix the desktop's colours with their own. The parts learn of the new ones after the window.
   if (event->type() == QEvent::PaletteChange) {
@@ -343,7 +348,7 @@ bool MainWindow::event(QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!closed_) {
     closed_ = true;
-    Document().Form_Unload();
+    pitchcraft::Close(Document());
   }
   event->accept();
 }

@@ -49,7 +49,7 @@ void MeasureField::EndEntry() {
 
 // The spin button that stands in the field's row.
 void MeasureField::Step(bool up) {
-  for (const SpinControl& spin : TheSession().Document().sheet.Spin) {
+  for (const SpinControl& spin : TheSession().Document().design.sheet.Spin) {
     const bool beside = spin.Visible && spin.Host == field_.Host && spin.Top == field_.Top;
     if (!beside) continue;
     emit Left();
@@ -72,7 +72,7 @@ QSize MeasureField::SizeForWords() const {
 
 void MeasureField::contextMenuEvent(QContextMenuEvent* event) {
   if (!HasIncrement(Name())) return EntryBox::contextMenuEvent(event);
-  ShowPopup(TheSession(), TheSession().Document().menus.Spin, event->globalPos());
+  ShowPopup(TheSession(), TheSession().Document().design.menus.Spin, event->globalPos());
 }
 
 }  // namespace pitchcraft

@@ -9,8 +9,8 @@ namespace pitchcraft {
 MenuStrip::MenuStrip(Session& session, QWidget* window) : QMenuBar(window) {
   setObjectName("MenuBar");
   setAccessibleName(tr("Menus"));
-  const Menus& menus = session.Document().menus;
-  for (MenuItem* item : menus.Items()) {
+  const Menus& menus = session.Document().design.menus;
+  for (const MenuItem* item : menus.Items()) {
     if (item->Level != 0 || menus.IsPopup(*item)) continue;
     if (menus.ItemsUnder(*item).empty()) {
       rows_.emplace_back(item, MakeMenuAction(session, *item, this));

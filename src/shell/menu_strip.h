@@ -17,7 +17,7 @@ class MenuStrip : public QMenuBar {
   void Append(const QString& menu, const QList<QAction*>& commands);
 
  private:
-  std::vector<std::pair<MenuItem*, QAction*>> rows_;
+  std::vector<std::pair<const MenuItem*, QAction*>> rows_;
 };
 
 }  // namespace pitchcraft

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <cmath>
 
+#include "design/questions.h"
+#include "document/pages.h"
 #include "platform/picture_files.h"
 #include "shell/entry_box.h"
 #include "shell/field_look.h"
@@ -33,7 +35,7 @@ PictureView::PictureView(Session& session, int picture, QWidget* window)
 
 void PictureView::Sync() {
   const Document& document = session_.Document();
-  const Subject now{document.RoofType, document.CurrentTab, HasDrawing()};
+  const Subject now{static_cast<int>(document.design.RoofType), PageShown(document.design), HasDrawing()};
   if (now != subject_) {
     subject_ = now;
     zoom_.Fit();
@@ -43,7 +45,7 @@ void PictureView::Sync() {
 
 bool PictureView::HasDrawing() const {
   const Document& document = session_.Document();
-  return document.DrawingExists && document.board.Recorder.IsClosed();
+  return document.HasFigure() && document.Board().Recorder.IsClosed();
 }
 
 // --- Painting
@@ -51,7 +53,7 @@ bool PictureView::HasDrawing() const {
 
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), ColorOf(session_.Document().BackColor, palette()));
+  painter.fillRect(rect(), ColorOf(session_.Document().preferences.BackColor, palette()));
   PaintDrawing(painter);
   if (!hasFocus() || !cameByTab_) return;
   painter.setPen(palette().color(QPalette::Highlight));
@@ -70,14 +72,14 @@ void PictureView::focusInEvent(QFocusEvent* event) {
 
 void PictureView::PaintDrawing(QPainter& painter) {
   const Document& document = session_.Document();
-  if (!document.DrawingExists) {
-    QColor dim = ColorOf(document.LineColor, palette());
+  if (!document.HasFigure()) {
+    QColor dim = ColorOf(document.preferences.LineColor, palette());
     dim.setAlpha(130);
     painter.setPen(dim);
     painter.drawText(rect(), Qt::AlignCenter, tr("This drawing is not available yet."));
     return;
   }
-  if (!document.board.Recorder.IsClosed()) return;
+  if (!document.Board().Recorder.IsClosed()) return;
   Picture picture = ShownPicture(document);
   picture.Size = {static_cast<double>(width()) * kTwipsPerPixel,
                   static_cast<double>(height()) * kTwipsPerPixel, false};
@@ -178,7 +180,7 @@ void PictureView::PressAt(int button, QPointF place, const QPoint& onScreen) {
   const QPointF at = zoom_.ToDrawing(place) * kTwipsPerPixel;
   const MenuItem* popup = nullptr;
   session_.Do([&](Actions&) {
-    popup = session_.Document().Picture_MouseDown(picture_, button, qRound(at.x()), qRound(at.y()));
+    popup = PressOnFigure(session_.Document(), button, qRound(at.x()));
   });
   if (popup != nullptr) ShowPopup(session_, *popup, onScreen, actions());
 }

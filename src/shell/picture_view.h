@@ -43,7 +43,7 @@ class PictureView : public QWidget {
  private:
   /// What is drawn: another one starts with all of it in view.
   struct Subject {
-    int roofType = -1;
+    int roofType = -1;  // none before the first figure
     int page = -1;
     bool drawn = false;
     bool operator==(const Subject&) const = default;

@@ -25,11 +25,11 @@ bool IsOption(const Menus& menus, const MenuItem& item) {
 
 }  // namespace
 
-QAction* MakeMenuAction(Session& session, MenuItem& item, QObject* parent) {
+QAction* MakeMenuAction(Session& session, const MenuItem& item, QObject* parent) {
   auto* action = new QAction(parent);
   action->setObjectName(QString::fromStdString(item.Name));
   action->setSeparator(item.IsSeparator());
-  action->setCheckable(!item.IsSeparator() && IsOption(session.Document().menus, item));
+  action->setCheckable(!item.IsSeparator() && IsOption(session.Document().design.menus, item));
   for (const Shortcut& shortcut : kShortcuts) {
     if (item.Name == shortcut.item) action->setShortcuts(shortcut.key);
   }
@@ -53,9 +53,9 @@ void SyncMenuAction(QAction& action, const MenuItem& item) {
   action.setVisible(item.Visible);
 }
 
-std::vector<std::pair<MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu) {
-  std::vector<std::pair<MenuItem*, QAction*>> rows;
-  for (MenuItem* item : session.Document().menus.ItemsUnder(holder)) {
+std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu) {
+  std::vector<std::pair<const MenuItem*, QAction*>> rows;
+  for (MenuItem* item : session.Document().design.menus.ItemsUnder(holder)) {
     rows.emplace_back(item, MakeMenuAction(session, *item, &menu));
     menu.addAction(rows.back().second);
   }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "document/actions.h"
+#include "document/pages.h"
 #include "document/document.h"
 
 namespace pitchcraft {
@@ -32,7 +33,7 @@ class Session : public QObject {
 
   /// The pointer or the focus came to something; an empty name when it left.
   void Hint(std::string_view name) {
-    document_.Hint(name);
+    ShowHint(document_, name);
     emit StatusChanged();
   }
 

@@ -1,12 +1,10 @@
 #include "shell/sheet_panel.h"
 
 #include <algorithm>
-#include <set>
 #include <tuple>
 #include <utility>
 
-#include "sheet/roof_types.h"
-#include "sheet/row_layouts.h"
+#include "document/roof_words.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -27,25 +25,13 @@ QSize UsualSize(const ControlView& view) {
   return isCaption ? size - QSize(0, 2 * ToPixels(kCaptionDrop)) : size;
 }
 
-std::set<std::string> CaptionsOfAllRoofs() {
-  std::set<std::string> captions;
-  const auto sheet = std::make_unique<Sheet>();
-  for (const RoofTypeRow& roof : RoofTypes()) {
-    for (const bool purlins : {false, true}) {
-      LayOutRows(*sheet, roof.Code, purlins);
-      for (const LabelControl& label : sheet->Label) captions.insert(label.Caption);
-    }
-  }
-  return captions;
-}
-
 }  // namespace
 
 SheetPanel::SheetPanel(Session& session, QWidget* window)
     : QWidget(window), session_(session), roofTabs_(new PageTabs(session, 1, this)) {
   setObjectName("Sheet");
   setAccessibleName(tr("Design sheet"));
-  for (const AnyControl& any : session.Document().sheet.Controls()) {
+  for (const AnyControl& any : session.Document().design.sheet.Controls()) {
     const Host host = ControlOf(any).Host;
     if (host != Host::kSheet && host != Host::kFrontPage && host != Host::kRearPage) continue;
     auto view = MakeControlView(session, any, this);
@@ -56,7 +42,7 @@ SheetPanel::SheetPanel(Session& session, QWidget* window)
 }
 
 bool SheetPanel::IsShown(const Control& control) const {
-  const IndexTab& roofs = session_.Document().sheet.Tabs[1];
+  const IndexTab& roofs = session_.Document().design.sheet.Tabs[1];
   const int roof = roofs.OnePageOnly ? 0 : roofs.Page;
   if (control.Host == Host::kFrontPage && roof != 0) return false;
   if (control.Host == Host::kRearPage && roof != 1) return false;
@@ -72,7 +58,7 @@ WordRoom SheetPanel::Words() const {
   };
   for (const auto& view : views_) hold(view->SizeForWords(), UsualSize(*view));
   const LabelView& caption = *captions_.front();
-  for (const std::string& text : CaptionsOfAllRoofs()) {
+  for (const std::string& text : WordsOfAllRoofs().RowCaptions) {
     hold(caption.SizeFor(QString::fromStdString(text)), UsualSize(caption));
   }
   return words;

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "sheet/roof_types.h"
+#include "document/roof_words.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -16,7 +16,7 @@ constexpr int kAboveAndBelowPage = 10;
 
 std::vector<std::unique_ptr<ControlView>> ViewsOn(Host host, Session& session, QWidget* strip) {
   std::vector<std::unique_ptr<ControlView>> views;
-  for (const AnyControl& any : session.Document().sheet.Controls()) {
+  for (const AnyControl& any : session.Document().design.sheet.Controls()) {
     if (ControlOf(any).Host != host) continue;
     if (auto view = MakeControlView(session, any, strip)) views.push_back(std::move(view));
   }
@@ -43,7 +43,7 @@ BayStrip::BayStrip(Session& session, QWidget* window)
     const bool isButton = view->Of().Name == "Command1";
     captions_.push_back(isButton ? nullptr : new QLabel(this));
     if (isButton) continue;
-    const std::string name = session.Document().sheet.AccessibleNameOf(view->Of());
+    const std::string name = session.Document().design.sheet.AccessibleNameOf(view->Of());
     captions_.back()->setText(QString::fromStdString(name) + ":");
   }
 }
@@ -83,8 +83,8 @@ TabStrip::TabStrip(Session& session, QWidget* window)
 
 // A field has its caption before it.
 int TabStrip::LeastWidth() const {
-  int pages = pages_->WidthFor(kBastardHipPages);
-  for (const RoofTypeRow& row : RoofTypes()) pages = std::max(pages, pages_->WidthFor(row.Pages));
+  int pages = 0;
+  for (const auto& captions : WordsOfAllRoofs().Pages) pages = std::max(pages, pages_->WidthFor(captions));
   int field = 0;
   for (std::size_t i = 1; i < views_.size(); i += 2) {
     field = std::max(field, SizeOf(*views_[i - 1]).width() + kGap + SizeOf(*views_[i]).width());

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QShortcut>
 
+#include "document/menu_actions.h"
 #include "shell/entry_box.h"
 #include "shell/hint_watcher.h"
 #include "shell/icons.h"
@@ -28,7 +29,7 @@ QKeySequence KeysOf(const ToolButton& row) {
 ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), session_(session) {
   setObjectName("tbToolBar");
   setAccessibleName(tr("Tool bar"));
-  for (const ToolButton& row : session.Document().toolBar.Buttons()) {
+  for (const ToolButton& row : session.Document().design.toolBar.Buttons()) {
     auto* button = new QToolButton(this);
     const QString key = QString::fromUtf8(row.Key.data(), qsizetype(row.Key.size()));
     const QString tip = QString::fromUtf8(row.ToolTip.data(), qsizetype(row.ToolTip.size()));
@@ -59,11 +60,11 @@ ToolStrip::ToolStrip(Session& session, QWidget* window) : QWidget(window), sessi
 // The keys serve while the bar is hidden, too, where a hand could not press the button.
 void ToolStrip::PressByKeys(std::string_view key) {
   EntryBox::CommitFocused();
-  session_.Do([&](Actions&) { session_.Document().tbToolBar_ButtonClick(key); });
+  session_.Do([&](Actions&) { PressToolButton(session_.Document(), key); });
 }
 
 void ToolStrip::Sync() {
-  const auto rows = session_.Document().toolBar.Buttons();
+  const auto rows = session_.Document().design.toolBar.Buttons();
   bool moved = false;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     QToolButton& button = *buttons_[i];
@@ -71,14 +72,14 @@ void ToolStrip::Sync() {
     moved = moved || button.isHidden() == rows[i].Visible;
     button.setCheckable(checkable);
     button.setChecked(rows[i].Pressed);
-    button.setEnabled(session_.Document().ToolButtonEnabled(rows[i]));
+    button.setEnabled(IsToolButtonEnabled(session_.Document(), rows[i]));
     button.setVisible(rows[i].Visible);
   }
   if (moved) Place();
 }
 
 void ToolStrip::Place() {
-  const auto rows = session_.Document().toolBar.Buttons();
+  const auto rows = session_.Document().design.toolBar.Buttons();
   const int side = height() - 2;
   int left = kMargin;
   gaps_.clear();

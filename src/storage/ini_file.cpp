@@ -27,13 +27,13 @@ bool IsQuoted(std::string_view text) {
   return text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.front() == text.back();
 }
 
-/// No longer than a value can be; a letter of several bytes is not cut in two.
+/// Cuts a value to the greatest length, but not inside a character of several bytes.
 std::string_view Cut(std::string_view value) {
   if (value.size() <= IniText::kLongestValue) return value;
   std::size_t length = IniText::kLongestValue;
   const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; };
   while (length > 0 && continues(value[length])) --length;
-  // Bytes that are no letters at all are cut where the length ends.
+  // Bytes that form no characters are cut exactly at that length.
   if (length + 4 <= IniText::kLongestValue) length = IniText::kLongestValue;
   return value.substr(0, length);
 }
@@ -50,7 +50,7 @@ void AppendUtf8(std::string& text, unsigned code) {
   put(0x80 | (code & 0x3F));
 }
 
-// Letters beyond the first 65,536 stay two halves: nothing that is read here knows them.
+// A character beyond the first 65,536 stays split in two halves: no text read here means anything by one.
 std::string FromUtf16(std::string_view bytes) {
   std::string text;
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {

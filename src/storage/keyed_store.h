@@ -1,4 +1,4 @@
-// A store of texts by application, section and key: what belongs to the user and not to a project.
+// A store of texts by application, section and key, for what belongs to the user rather than to a project.
 #pragma once
 
 #include <map>
@@ -11,14 +11,14 @@ namespace pitchcraft {
 class KeyedStore {
  public:
   virtual ~KeyedStore() = default;
-  /// The stored text, or nothing when the key was never written.
+  /// The stored text, or nothing if the key was never written.
   virtual std::optional<std::string> Get(const std::string& application, const std::string& section,
                                          const std::string& key) const = 0;
   virtual void Set(const std::string& application, const std::string& section, const std::string& key,
                    const std::string& text) = 0;
 };
 
-/// A store that forgets: for tests, and for a program that has no place of its own.
+/// A store in memory only: for tests, and for a program without a place of its own.
 class MemoryStore : public KeyedStore {
  public:
   std::optional<std::string> Get(const std::string& application, const std::string& section,
@@ -30,7 +30,7 @@ class MemoryStore : public KeyedStore {
            const std::string& text) override {
     values_[{application, section, key}] = text;
   }
-  /// Runs action(application, section, key, text) for all that is stored, in order.
+  /// Runs action(application, section, key, text) for everything stored, in order.
   template <typename Action>
   void ForEach(Action action) const {
     for (const auto& [address, text] : values_) std::apply(action, std::tuple_cat(address, std::tie(text)));

@@ -9,7 +9,7 @@
 namespace pitchcraft {
 namespace {
 
-// Some million rows: more than anybody scrolls through, and little for a memory.
+// A few million rows: more than anyone scrolls through, and little memory.
 constexpr std::size_t kLargestList = std::size_t{32} << 20U;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
@@ -26,8 +26,8 @@ std::string BytesOf(const std::filesystem::path& file) {
   return std::move(*bytes);
 }
 
-/// Runs action(row) for every line; a comma ends a row, since a line is read as values with commas between
-/// them.
+/// Runs action(row) for every line. A row ends at a comma, because a line may hold several values with commas
+/// between them.
 template <typename Action>
 void ForEachRow(std::string_view text, Action action) {
   if (text.starts_with(kUtf8Mark)) text.remove_prefix(kUtf8Mark.size());

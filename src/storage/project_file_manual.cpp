@@ -1,7 +1,8 @@
-// docs/project-file.md, made from the tables of keys and losses.
+// docs/project-file.md, generated from the tables of keys and losses.
 #include <vector>
 
-#include "sheet/roof_types.h"
+#include "core/number_text.h"
+#include "roofs/roof_types.h"
 #include "storage/project_keys.h"
 
 namespace pitchcraft {
@@ -9,28 +10,25 @@ namespace {
 
 constexpr const char* kHead =
     "# The project file\n\n"
-    "A project is a small text file with the ending `.pcf`: the section `[Settings]` and one `key=value` a "
-    "line. It holds\n"
-    "what was entered, never a result. Opening it plays the entries through the menus and the sheet and "
-    "calculates.\n"
-    "This page is made from the tables in `src/storage`; a test holds it to them.\n\n"
-    "The writer ends lines with CR LF and replaces the file whole. The reader takes CR LF, LF and CR, a "
-    "byte-order mark,\n"
-    "UTF-8 and UTF-16, blanks around key and value, one pair of quotes around a value, keys in any case and "
-    "order, other\n"
-    "sections, lines that begin with `;`, and of two same keys the first. A value has at most 99 bytes. A "
-    "file without\n"
-    "the section, or of more than one megabyte, is refused.\n\n"
-    "Numbers are plain, with a point and up to seven digits. Lengths are inches or millimetres by `Units`, "
-    "slopes rises\n"
-    "for a run of 12 or 1000. A text that is no number reads as 0.\n\n";
+    "A project is a small text file with the extension `.pcf`: a section `[Settings]` with one\n"
+    "`key=value` per line. It holds what was entered, never a result. Opening it runs the entries through\n"
+    "the menus and the sheet, then calculates. This page is generated from the tables in `src/storage`; a\n"
+    "test checks that it matches them.\n\n"
+    "The program ends lines with CR LF and replaces the file as a whole. It reads CR LF, LF and CR, a\n"
+    "byte-order mark, UTF-8 and UTF-16, blanks around keys and values, one pair of quotes around a value,\n"
+    "and keys in any case and order. It skips other sections and lines that begin with `;`; of two equal\n"
+    "keys the first counts. A value has at most 99 bytes. A file without the section, or larger than one\n"
+    "megabyte, is refused.\n\n"
+    "Numbers are plain, with a decimal point and up to seven digits. `Units` says whether lengths are in\n"
+    "inches or in millimetres; a slope is the rise for a run of 12 or 1000. A text that is not a number\n"
+    "reads as 0.\n\n";
 
 std::string RoofNames(const RoofSet& set) {
   if (set == RoofSet::All()) return "all";
   std::string names;
-  for (int code = 0; code <= roof::kGambrel; ++code) {
-    if (!set.Has(code)) continue;
-    names += (names.empty() ? "" : ", ") + std::to_string(code);
+  for (int code = 0; code <= static_cast<int>(Roof::kGambrel); ++code) {
+    if (!set.Has(static_cast<Roof>(code))) continue;
+    names += (names.empty() ? "" : ", ") + PlainText(code);
   }
   return names.empty() ? "never" : names;
 }
@@ -38,21 +36,21 @@ std::string RoofNames(const RoofSet& set) {
 const char* HowRead(ProjectStep step) {
   switch (step) {
     case ProjectStep::kPutBack:
-    case ProjectStep::kPutBackTwice: return "put back";
-    case ProjectStep::kUnits: return "switches the units, with all defaults";
+    case ProjectStep::kPutBackTwice: return "restored";
+    case ProjectStep::kUnits: return "switches the units and with them all defaults";
     case ProjectStep::kSlopeMode: return "switches the slope mode";
-    case ProjectStep::kRafterType: return "picks the roof type; empty or unknown is refused";
+    case ProjectStep::kRafterType: return "picks the roof type; an empty or unknown one is refused";
     case ProjectStep::kSquareCut: return "True: square cut; False: plumb cut";
     case ProjectStep::kPlumbCut: return "True: plumb cut";
     case ProjectStep::kLevelCut: return "True: level cut";
     case ProjectStep::kKneewall:
-    case ProjectStep::kRearKneewall: return "put back; the box of the front row follows";
-    case ProjectStep::kHipLayout: return "Center, whatever it says";
+    case ProjectStep::kRearKneewall: return "restored; sets the box of the front row";
+    case ProjectStep::kHipLayout: return "always Center";
     case ProjectStep::kOverhangsEqual:
-    case ProjectStep::kJackMeasurement: return "False, whatever it says";
-    case ProjectStep::kSpacing: return "put back, and becomes the spacing of the session";
-    case ProjectStep::kBay: return "put back; of a bay before the numbers";
-    case ProjectStep::kGambrelType: return "holds Regular: regular, else custom";
+    case ProjectStep::kJackMeasurement: return "always False";
+    case ProjectStep::kSpacing: return "restored, also as the spacing of the session";
+    case ProjectStep::kBay: return "restored; for a bay, before the numbers";
+    case ProjectStep::kGambrelType: return "regular if it contains Regular, otherwise custom";
     case ProjectStep::kSupport: return "picks the support";
   }
   return "";
@@ -66,11 +64,12 @@ std::string Line(const std::vector<std::string>& cells) {
 
 std::string RoofTable() {
   std::string text = "## Roofs\n\n" + Line({"`RafterType`", "Roof"}) + "|---|---|\n";
-  for (int code = 0; code <= roof::kGambrel; ++code) {
-    const RoofTypeRow* row = RoofTypeByCode(code);
-    if (row != nullptr) text += Line({std::to_string(code), std::string(row->Item)});
-    if (code == 6) text += Line({"6", "Bay Roof, too"});
-    if (code == roof::kBastardHip) text += Line({"12", "Hip with two slopes"});
+  for (int code = 0; code <= static_cast<int>(Roof::kGambrel); ++code) {
+    const auto roof = static_cast<Roof>(code);
+    const RoofType* type = roof == Roof::kBastardHip ? nullptr : RoofTypeByCode(roof);
+    if (type != nullptr) text += Line({PlainText(code), std::string(type->About().Item)});
+    if (code == 6) text += Line({"6", "Bay Roof"});
+    if (roof == Roof::kBastardHip) text += Line({"12", "Hip with two slopes"});
   }
   return text + "\nAny other number is refused.\n\n";
 }
@@ -79,8 +78,9 @@ std::string RoofTable() {
 
 std::string ProjectFileManual() {
   std::string text =
-      kHead + RoofTable() + "## Keys\n\nIn the order of writing. Roofs are named by their number.\n\n";
-  text += Line({"Key", "Holds", "Where missing", "Written for", "Read for", "How it is read"}) +
+      kHead + RoofTable() +
+      "## Keys\n\nIn the order in which they are written. Roofs are given by their number.\n\n";
+  text += Line({"Key", "Holds", "If missing", "Written for", "Read for", "When read"}) +
           "|---|---|---|---|---|---|\n";
   for (const ProjectKey& key : ProjectKeys()) {
     const std::string missing = *key.Default == '\0' ? "empty" : "`" + std::string(key.Default) + "`";

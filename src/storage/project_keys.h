@@ -1,4 +1,4 @@
-// The keys of a project file: one table that writing, reading, the defaults and docs/project-file.md follow.
+// The keys of a project file: one table for writing, reading, the defaults and docs/project-file.md.
 #pragma once
 
 #include <cstdint>
@@ -7,84 +7,74 @@
 #include <string>
 #include <string_view>
 
-#include "core/rafter.h"
-#include "sheet/menus.h"
-#include "sheet/sheet.h"
+#include "core/trade.h"
+#include "design/design.h"
 
 namespace pitchcraft {
 
 inline constexpr const char* kProjectSection = "Settings";
 
-/// What a project is taken from and put back into.
-struct ProjectParts {
-  int RoofType;
-  Rafter& Rafter1;
-  Rafter& Rafter2;
-  Sheet& sheet;
-  Menus& menus;
-};
-
 /// A set of roof types.
 class RoofSet {
  public:
-  constexpr RoofSet(std::initializer_list<int> codes) {
-    for (const int code : codes) bits_ |= BitOf(code);
+  constexpr RoofSet(std::initializer_list<Roof> codes) {
+    for (const Roof code : codes) bits_ |= BitOf(code);
   }
   static constexpr RoofSet All() {
     RoofSet all{};
     all.bits_ = ~std::uint32_t{0};
     return all;
   }
-  constexpr bool Has(int code) const { return (bits_ & BitOf(code)) != 0; }
+  constexpr bool Has(Roof code) const { return (bits_ & BitOf(code)) != 0; }
   constexpr bool operator==(const RoofSet&) const = default;
 
  private:
-  static constexpr std::uint32_t BitOf(int code) { return std::uint32_t{1} << static_cast<unsigned>(code); }
+  static constexpr std::uint32_t BitOf(Roof code) { return std::uint32_t{1} << static_cast<unsigned>(code); }
   std::uint32_t bits_ = 0;
 };
 
-/// What reading a key takes beside putting the value where it came from.
+/// What reading a key does besides putting the value back.
 enum class ProjectStep {
-  kPutBack,          ///< nothing more
-  kPutBackTwice,     ///< handlers that run later may change it: it is put back again before the roof is
-                     ///< calculated
-  kUnits,            ///< the unit switch runs
-  kSlopeMode,        ///< the slope mode's menu item runs
-  kRafterType,       ///< the roof type is picked
-  kSquareCut,        ///< the menu item runs
-  kPlumbCut,         ///< the menu item runs
-  kLevelCut,         ///< the menu item runs
-  kKneewall,         ///< the number, its field, and the box of row 0
-  kRearKneewall,     ///< the number, its field, and the box of row 0 too
-  kHipLayout,        ///< Center, whatever stands here
-  kOverhangsEqual,   ///< no, whatever stands here
-  kJackMeasurement,  ///< no, whatever stands here
-  kSpacing,          ///< the text, and the spacing of the session and of both rafters
-  kBay,          ///< the field and the rafter that carries the bay; of a bay it is read before all numbers
-  kGambrelType,  ///< the menu item runs
-  kSupport,      ///< the menu item runs
+  kPutBack,       ///< nothing more
+  kPutBackTwice,  ///< later handlers may change it, so it is put back once more before the roof is calculated
+  kUnits,         ///< the unit switch runs
+  kSlopeMode,     ///< the slope mode's menu item runs
+  kRafterType,    ///< the roof type is picked
+  kSquareCut,     ///< the menu item runs
+  kPlumbCut,      ///< the menu item runs
+  kLevelCut,      ///< the menu item runs
+  kKneewall,      ///< the number, its field, and the box of row 0
+  kRearKneewall,  ///< the number, its field, and the box of row 0 too
+  kHipLayout,     ///< always Center, whatever the file says
+  kOverhangsEqual,   ///< always off, whatever the file says
+  kJackMeasurement,  ///< always off, whatever the file says
+  kSpacing,          ///< the text, and the spacing of the session and both rafters
+  kBay,              ///< the field and the rafter that carries the bay; for a bay, read before all numbers
+  kGambrelType,      ///< the menu item runs
+  kSupport,          ///< the menu item runs
 };
 
-/// One key. `Write` gives its text; `PutBack` puts a text where it came from; null where the
-/// step does that.
+/// One key. `Write` gives its text; `PutBack` puts a text back where it came from. Null where the step does
+/// it.
 struct ProjectKey {
   const char* Key;
-  const char* What;  ///< in the words of docs/project-file.md
+  const char* What;  ///< as worded in docs/project-file.md
   const char* Default;
   RoofSet Written;
-  RoofSet Read;  ///< here a hip with two slopes has a code of its own
+  RoofSet Read;  ///< here a hip with two slopes has its own code
   ProjectStep Step;
-  std::string (*Write)(const ProjectParts&);
-  void (*PutBack)(const ProjectParts&, const std::string& text);
+  std::string (*Write)(const Design&);
+  void (*PutBack)(Design&, const std::string& text);
 };
 
-/// In the order of writing, which is the order of reading too.
+/// In the order of writing and reading.
 std::span<const ProjectKey> ProjectKeys();
 
-/// What does not come back from a project file as it was.
+/// Something that a project file does not bring back unchanged.
 struct ProjectLoss {
-  const char* Members;  ///< of the rafters, by name, with blanks between them; empty where it is no member
-  RoofSet Roofs;        ///< here a hip with two slopes has a code of its own
+  const char*
+      Members;  ///< names of the rafters' members with blanks between them; empty if it is not about members
+  RoofSet Roofs;  ///< here a hip with two slopes has its own code
   const char* RoofNames;
   const char* Why;
 
@@ -93,12 +83,9 @@ struct ProjectLoss {
 std::span<const ProjectLoss> ProjectLosses();
 
 /// The text of a whole project file.
-std::string ProjectText(const ProjectParts& parts);
+std::string ProjectText(const Design& design);
 
-/// The code of the roof in a file: a hip with two slopes is told from one with equal slopes.
-int ProjectRoofCode(const ProjectParts& parts);
-
-/// docs/project-file.md.
+/// The text of docs/project-file.md.
 std::string ProjectFileManual();
 
 }  // namespace pitchcraft

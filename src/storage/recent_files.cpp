@@ -15,7 +15,7 @@ std::string PrefixOf(std::size_t place) { return "&" + std::to_string(place + 1)
 std::string CaptionKey(std::size_t place) { return "MRU" + std::to_string(place + 1); }
 std::string PathKey(std::size_t place) { return CaptionKey(place) + "A"; }
 
-/// Where each letter begins, and the end of the text: a path is shortened between letters.
+/// Where each letter begins, and the end of the text, so that a path is shortened between letters.
 std::vector<std::size_t> LetterStarts(const std::string& text) {
   std::vector<std::size_t> starts;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -26,7 +26,7 @@ std::vector<std::size_t> LetterStarts(const std::string& text) {
   return starts;
 }
 
-// Capital and small letters of ASCII and, by their second byte after 0xC3, of Western Europe.
+// Capitals and small letters of Western Europe, by their second byte after 0xC3.
 bool IsWesternCapital(unsigned char second) { return second >= 0x80 && second <= 0x9E && second != 0x97; }
 bool IsWesternSmall(unsigned char second) { return second >= 0xA0 && second <= 0xBE && second != 0xB7; }
 constexpr char kWesternLead = '\xC3';
@@ -74,7 +74,7 @@ void RecentFileList::AddNewFile(const std::string& path) {
   std::array<Entry, kPlaces> entries;
   for (std::size_t place = 0; place < kPlaces; ++place) entries[place] = Read(place);
   if (entries[0].name == added.name) {
-    entries[0] = added;  // the same caption may stand for another case of the path
+    entries[0] = added;  // the same caption may come from another case of the path
   } else {
     const Entry fallenOut = entries[3];
     std::move_backward(entries.begin(), entries.end() - 1, entries.end());
@@ -99,7 +99,7 @@ std::string RecentFileList::ShortenedPath(const std::string& path, int length) {
   const std::vector<std::size_t> starts = LetterStarts(path);
   const int letters = static_cast<int>(starts.size()) - 1;
   if (letters <= length) return path;
-  // A name that is itself too long has no separator left to begin at: its end is shown.
+  // A name too long by itself has no separator left to start at: only its end is shown.
   const int first = std::clamp(letters - (length - 6) - 1, 0, letters);
   const std::size_t from = starts[static_cast<std::size_t>(first)];
   const std::size_t separator = path.find_first_of(kSeparators, from);

@@ -12,7 +12,7 @@
 namespace pitchcraft {
 
 /// Keeps captions ("&1 " and the shortened path) and full paths in the store, under AppName and Section. The
-/// caption shows the path in proper case; what is opened is the path as it is, since case counts on some
+/// caption shows the path in proper case; the path itself is opened unchanged, because case matters on some
 /// disks. "/" separates folders like "\".
 class RecentFileList {
  public:
@@ -26,19 +26,20 @@ class RecentFileList {
   bool ProperCase = true;
 
   int MenuLength() const { return menuLength_; }
-  /// A length that is not above 0 is ignored.
+  /// A length of 0 or less is ignored.
   void SetMenuLength(int length);
 
-  /// Shows what is stored in the menu items; an item without a file is hidden.
+  /// Shows the stored files in the menu items; an item without a file is hidden.
   void Load();
-  /// Puts a file on the first place, the others move down; no file stands twice.
+  /// Puts a file first and moves the others down; no file appears twice.
   void AddNewFile(const std::string& path);
-  /// The full path behind the item of that index, counted from 0; empty when there is none.
+  /// The full path for the item with this index, counted from 0; empty if there is none.
   std::string Selected(int index) const;
 
-  /// Shortens a path to about `length` letters: its first three, "...", and the last folders and the name.
+  /// Shortens a path to about `length` letters: its first three, "...", and the last folders with the name.
   static std::string ShortenedPath(const std::string& path, int length);
-  /// Each word's first letter capital, the others small. A word begins behind a blank or a separator.
+  /// Makes the first letter of each word a capital and the others small. A word begins after a blank or a
+  /// separator.
   std::string InProperCase(const std::string& text) const;
   /// Lets go of the menu items.
   void Destroy() { Items = {}; }

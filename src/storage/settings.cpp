@@ -24,7 +24,7 @@ struct SettingRow {
 };
 
 constexpr const char* kApplication = "Pitchcraft";
-// The choice of the tips stands under the name of the program's file, where the dialog of the tips keeps it.
+// The choice about tips is stored under the name of the program file, where the tips dialog keeps it.
 constexpr const char* kOptionsApplication = "pitchcraft";
 constexpr const char* kOptionsSection = "Options";
 constexpr const char* kShowTips = "Show Tips at Startup";
@@ -84,7 +84,7 @@ Integer IntegerIn(const std::string& text, Integer unreadable) {
 void Take(const std::string& text, bool& value) { value = text == "True" || LeadingNumber(text) != 0; }
 void Take(const std::string& text, int& value) { value = IntegerIn(text, value); }
 void Take(const std::string& text, std::uint32_t& value) {
-  // A colour code with its highest bit set may have been stored as a negative 32-bit number.
+  // A colour code with its highest bit set may be stored as a negative 32-bit number.
   const double number = std::nearbyint(LeadingNumber(text));
   value = number < 0 ? static_cast<std::uint32_t>(IntegerIn<std::int32_t>(text, 0)) : IntegerIn(text, value);
 }

@@ -1,4 +1,4 @@
-// The user's settings: read once when the window loads, written once when it unloads.
+// The user's settings: read once when the window opens, written once when it closes.
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,13 @@
 
 namespace pitchcraft {
 
-/// Codes of system colours, as they stand in a colour value.
+/// Codes of system colours, as used in a colour value.
 inline constexpr std::uint32_t kSystemWindowColor = 0x80000005;
 inline constexpr std::uint32_t kSystemWindowTextColor = 0x80000008;
 inline constexpr std::uint32_t kSystemGrayTextColor = 0x80000011;
 
-/// What a session works with as it is stored. The initial values are those of a first run. Colours are
-/// 0xBBGGRR, or a system colour code from 0x80000000 up.
+/// The settings that a session uses just as they are stored. The initial values are those of a first run.
+/// Colours are 0xBBGGRR, or a system colour code from 0x80000000 up.
 struct Preferences {
   bool UseSystemColors = false;
   bool RotateFonts = false;
@@ -43,8 +43,8 @@ struct Preferences {
   Single DxfDimTextSize = 2;
 };
 
-/// All that is stored: with the preferences what a session turns into something else. Places and sizes are
-/// twips.
+/// Everything stored: the preferences, and the settings that a session turns into something else. Positions
+/// and sizes are in twips.
 struct Settings : Preferences {
   int Units = 0;         ///< 0 imperial, 1 metric
   bool Degrees = false;  ///< slopes are entered in degrees
@@ -61,16 +61,16 @@ struct Settings : Preferences {
   int ShowTipsAtStartup = 1;
 };
 
-/// Reads every setting that the store holds; a text that is not of its kind gives what its leading number
-/// says. With UseSystemColors the three colours of the fields are those of the system, whatever is stored.
+/// Reads every setting in the store. A text of the wrong kind counts as the number it begins with. With
+/// UseSystemColors the three field colours are those of the system, whatever is stored.
 Settings ReadSettings(const KeyedStore& store);
 
-/// Writes the settings that belong to the end of a session. Place and size go only while the window is
-/// normal, the imperial spacing only from an imperial session; the metric spacing, the disclaimer and the
-/// tips are not written.
+/// Writes the settings at the end of a session: position and size only if the window is normal, the imperial
+/// spacing only if the session is imperial. The metric spacing, the disclaimer and the tips are not written
+/// here.
 void WriteSettings(const Settings& settings, KeyedStore& store);
 
-/// The two that their forms write at once.
+/// These two are written at once by their dialogs.
 void WriteShowDisclaimer(int value, KeyedStore& store);
 void WriteShowTips(int value, KeyedStore& store);
 

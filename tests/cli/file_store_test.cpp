@@ -1,4 +1,4 @@
-#include "cli/file_store.h"
+#include "session/file_store.h"
 
 #include <gtest/gtest.h>
 

@@ -50,7 +50,7 @@ bool EndsIn(const std::string& text, const std::string& end) {
 /// The texts of the lengths that show, by control.
 std::vector<std::pair<std::string, std::string>> LengthsShown(const Json& dump) {
   std::vector<std::pair<std::string, std::string>> texts;
-  const bool bayStrip = dump["document"]["RoofType"] == roof::kBay;
+  const bool bayStrip = dump["document"]["RoofType"] == Roof::kBay;
   const std::set<std::string> onBayStrip{"FtProjection", "FtFace", "FtBack"};
   for (const auto& [name, control] : dump["sheet"].items()) {
     const bool hidden = !control["Visible"].get<bool>() || (onBayStrip.contains(name) && !bayStrip);
@@ -98,7 +98,7 @@ TEST_P(MetricSession, ShowsMillimetresOnEveryPageAndInTheOpenedProject) {
   const Json& start = dumps[0];
   EXPECT_EQ(start["sheet"]["FtSpan(0)"]["Text"], "12' 0\"");
   ExpectMillimetres(dumps[1]);
-  EXPECT_EQ(dumps[1]["document"]["RoofType"], roof::kGable) << "another system begins with a gable";
+  EXPECT_EQ(dumps[1]["document"]["RoofType"], Roof::kGable) << "another system begins with a gable";
   EXPECT_EQ(dumps[1]["sheet"]["FtSpan(0)"]["Text"], "3600 mm");
   for (std::size_t i = 0; i < pages; ++i) {
     const Json& dump = dumps[2 + i];
@@ -112,7 +112,7 @@ TEST_P(MetricSession, ShowsMillimetresOnEveryPageAndInTheOpenedProject) {
   const Json& fresh = dumps[2 + pages];
   const Json& opened = dumps[3 + pages];
   const Json& imperial = dumps[4 + pages];
-  EXPECT_EQ(fresh["document"]["RoofType"], roof::kGable);
+  EXPECT_EQ(fresh["document"]["RoofType"], Roof::kGable);
   EXPECT_EQ(fresh["title"], "Pitchcraft - [Shed]");
   ExpectMillimetres(fresh);
   EXPECT_EQ(opened["document"]["RoofType"], roof.code);
@@ -127,7 +127,7 @@ TEST_P(MetricSession, ShowsMillimetresOnEveryPageAndInTheOpenedProject) {
     if (roof.twoRafters) ExpectSevenDigits(opened["Rafter2"][member], entered["Rafter2"][member], member);
   }
   EXPECT_EQ(imperial["document"]["UnitRun"], 12);
-  EXPECT_EQ(imperial["document"]["RoofType"], roof::kGable);
+  EXPECT_EQ(imperial["document"]["RoofType"], Roof::kGable);
   EXPECT_EQ(LengthsShown(imperial), LengthsShown(start));
   for (const char* member : {"Units", "Slope", "Span", "Overhang", "Rise", "Length1", "Length2", "Heel"}) {
     EXPECT_EQ(imperial["Rafter1"][member], start["Rafter1"][member]) << member;
@@ -156,9 +156,9 @@ double ScaleOf(const std::string& member) {
 bool IsOfTheSystem(const MetricRoof& roof, bool second, const std::string& member) {
   if (member == "Units" || member.find("Difference") != std::string::npos) return true;
   if (!second) return false;
-  const bool hip = roof.code == roof::kDutchHip || roof.code == roof::kUnequalSpanValley;
+  const bool hip = roof.code == Roof::kDutchHip || roof.code == Roof::kUnequalSpanValley;
   if (member == "degrees" || member == "HipEndDegrees") return true;
-  if (roof.code == roof::kDutchHip && member == "Span") return true;
+  if (roof.code == Roof::kDutchHip && member == "Span") return true;
   return !hip && member.find("Hip") != std::string::npos;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/script.h"
+#include "session/script.h"
 
 namespace pitchcraft {
 
@@ -21,14 +21,14 @@ inline ScriptRun RunScript(const std::string& text) {
   MemoryStore store;
   ScriptDialogs dialogs(output);
   Document document({dialogs, store, {}});
-  document.Form_Load();
+  Start(document);
   Script script(document, dialogs, output, [&run](Document&, const std::string& file) {
     run.pictures.push_back(file);
     return file == "fails.png" ? std::optional<std::string>("no such folder") : std::nullopt;
   });
   std::istringstream input(text);
   run.status = script.Run(input);
-  document.Form_Unload();
+  Close(document);
   std::istringstream lines(output.str());
   for (std::string line; std::getline(lines, line);) run.events.push_back(Json::parse(line));
   return run;

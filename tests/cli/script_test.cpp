@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/script_line.h"
+#include "session/script_line.h"
 
 namespace pitchcraft {
 namespace {

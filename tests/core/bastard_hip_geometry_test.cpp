@@ -33,7 +33,7 @@ struct BastardCorner {
 
 void DrawBastardHip(Rafter& rafter) {
   const RandomRoof roof(rafter);
-  rafter.RafterType = RafterType::kBastardHip;
+  rafter.RafterType = Member::kBastardHip;
   rafter.Slope = roof.Slope(3, 18);
   rafter.HipEndSlope = roof.Slope(3, 18);
 }
@@ -192,7 +192,7 @@ RC_GTEST_PROP(EqualOverhangGeometry, EndCommonRunsFromTheMovedWall, ()) {
   const Vector foot = Intersect(end, AtX(wall));
   const Vector top = Intersect(end, AtHeight(rafter.Rise));
   const double scale = Distance(top, {}) + rafter.Overhang;
-  rafter.RafterType = RafterType::kHipEndCommon;
+  rafter.RafterType = Member::kHipEndCommon;
   rafter.CalculateAdjustedBastardHip();
   Agree("HipEndRise", rafter.HipEndRise, top.z - foot.z, scale);
   Agree("Length1", rafter.Length1, Distance(foot, top), scale);

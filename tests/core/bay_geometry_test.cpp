@@ -32,7 +32,7 @@ struct BayRoof {
 
 void DrawBay(Rafter& rafter) {
   const RandomRoof roof(rafter);
-  rafter.RafterType = RafterType::kBayCommon;
+  rafter.RafterType = Member::kBayCommon;
   const int degrees = *rc::gen::inRange(15, 91);
   rafter.BayAngle = degrees;
   rafter.HipRunFactor = rafter.SlopeBase / std::cos(Radians(degrees) / 2);

@@ -14,7 +14,7 @@ class BastardHipTable : public testing::TestWithParam<CalculationRow> {};
 TEST_P(BastardHipTable, Gives) { CheckRow(GetParam()); }
 
 void Slopes(Rafter& r, double main, double end) {
-  r.RafterType = RafterType::kBastardHip;
+  r.RafterType = Member::kBastardHip;
   r.Slope = main;
   r.HipEndSlope = end;
 }
@@ -89,21 +89,21 @@ const CalculationRow kNatural[] = {
     {"MainCommonOfTheSameRoof",
      [](Rafter& r) {
        FlatterEnd(r);
-       r.RafterType = RafterType::kCommon;
+       r.RafterType = Member::kCommon;
      },
      kBastardHip,
      {{"Length1", 186.46971101}, {"Length2", 200.13764795}}},
     {"EndCommonOfTheSameRoof",
      [](Rafter& r) {
        FlatterEnd(r);
-       r.RafterType = RafterType::kHipEndCommon;
+       r.RafterType = Member::kHipEndCommon;
      },
      kBastardHip,
      {{"Length1", 206.52494584}, {"Length2", 221.66289999}}},
     {"OtherMembersKeepTheirLengths",
      [](Rafter& r) {
        FlatterEnd(r);
-       r.RafterType = RafterType::kHip;
+       r.RafterType = Member::kHip;
        r.Length1 = 5;
      },
      kBastardHip,
@@ -150,7 +150,7 @@ const CalculationRow kNatural[] = {
     {"CalculateKeepsTheEndCommonToItself",
      [](Rafter& r) {
        FlatterEnd(r);
-       r.RafterType = RafterType::kHipEndCommon;
+       r.RafterType = Member::kHipEndCommon;
      },
      &Rafter::Calculate,
      {{"HipEndSpan", 144.0}, {"HipEndSlope", 10.0}}},
@@ -276,7 +276,7 @@ const CalculationRow kEqualOverhangs[] = {
      [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
-       r.RafterType = RafterType::kHipEndCommon;
+       r.RafterType = Member::kHipEndCommon;
      },
      kAdjusted,
      {{"Length1", 208.79563896}, {"Length2", 221.66289999}}},
@@ -284,7 +284,7 @@ const CalculationRow kEqualOverhangs[] = {
      [](Rafter& r) {
        FlatterEnd(r);
        EqualOverhangs(r);
-       r.RafterType = RafterType::kCommon;
+       r.RafterType = Member::kCommon;
      },
      kAdjusted,
      {{"Length1", 186.46971101}, {"Length2", 200.13764795}}},

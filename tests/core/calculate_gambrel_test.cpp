@@ -18,14 +18,14 @@ class GambrelTable : public testing::TestWithParam<CalculationRow> {};
 TEST_P(GambrelTable, Gives) { CheckRow(GetParam()); }
 
 void Bottom(Rafter& r) {
-  r.RafterType = RafterType::kGambrelBottom;
+  r.RafterType = Member::kGambrelBottom;
   r.Slope = kSteep;
   r.HipValSlope = kFlat;
   r.Span = 35;
 }
 
 void Top(Rafter& r, double heel) {
-  r.RafterType = RafterType::kGambrelTop;
+  r.RafterType = Member::kGambrelTop;
   r.Slope = kFlat;
   r.HipValSlope = kSteep;
   r.Span = 85;

@@ -108,7 +108,7 @@ const CalculationRow kHeels[] = {
     // run.
     {"ZeroHeelLeavesTheOverhangsOfTheHipThisOnce",
      [](Rafter& r) {
-       r.RafterType = RafterType::kHip;
+       r.RafterType = Member::kHip;
        LockHeel(r, 0);
      },
      kCalculate,
@@ -160,14 +160,14 @@ const CalculationRow kFascias[] = {
     // Lower than the plumb cut of the common but taller than that of the hip: it goes up to the common's.
     {"TallerThanAShallowHip",
      [](Rafter& r) {
-       r.RafterType = RafterType::kHip;
+       r.RafterType = Member::kHip;
        r.HipValDepth = 5.5;
      },
      kCalculate,
      {{"HipValPlumbCut", 5.83363089}, {"AdjFasciaHeight", 7.84058137}}},
     {"AsTallAsAShallowHipStays",
      [](Rafter& r) {
-       r.RafterType = RafterType::kHip;
+       r.RafterType = Member::kHip;
        r.HipValDepth = 5.5;
        r.Calculate();
        r.FasciaHeight = r.HipValPlumbCut;
@@ -176,7 +176,7 @@ const CalculationRow kFascias[] = {
      {{"AdjFasciaHeight", 5.56846584}}},
     {"TallerThanAShallowValley",
      [](Rafter& r) {
-       r.RafterType = RafterType::kValley;
+       r.RafterType = Member::kValley;
        r.HipValDepth = 5.5;
      },
      kCalculate,
@@ -187,7 +187,7 @@ const CalculationRow kFascias[] = {
      {{"AdjFasciaHeight", 7.25}}},
     {"TheDropOfTheHipLowersIt",
      [](Rafter& r) {
-       r.RafterType = RafterType::kHip;
+       r.RafterType = Member::kHip;
        r.Slope = 12;
      },
      kCalculate,

@@ -12,9 +12,9 @@ class OctagonTable : public testing::TestWithParam<CalculationRow> {};
 
 TEST_P(OctagonTable, Gives) { CheckRow(GetParam()); }
 
-void Hip(Rafter& r) { r.RafterType = RafterType::kOctagonHip; }
+void Hip(Rafter& r) { r.RafterType = Member::kOctagonHip; }
 
-void Jack(Rafter& r) { r.RafterType = RafterType::kOctagonJack; }
+void Jack(Rafter& r) { r.RafterType = Member::kOctagonJack; }
 
 const CalculationRow kOctagons[] = {
     {"Hip",
@@ -114,7 +114,7 @@ const CalculationRow kOctagons[] = {
       {"CommonDifference24", 0.0}}},
     {"OtherMembersKeepRiseAndLength",
      [](Rafter& r) {
-       r.RafterType = RafterType::kCommon;
+       r.RafterType = Member::kCommon;
        r.Rise = 5;
        r.Length1 = 6;
      },

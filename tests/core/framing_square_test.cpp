@@ -45,7 +45,7 @@ void PrintTo(const SquareColumn& column, std::ostream* out) { *out << column.Ris
 class FramingSquare : public testing::TestWithParam<SquareColumn> {
  protected:
   // One foot of run between two points: no boards.
-  void RunOneFoot(RafterType type) {
+  void RunOneFoot(Member type) {
     rafter_.RafterType = type;
     rafter_.Slope = GetParam().Rise;
     rafter_.Span = 12;
@@ -57,22 +57,22 @@ class FramingSquare : public testing::TestWithParam<SquareColumn> {
 };
 
 TEST_P(FramingSquare, CommonPerFootOfRun) {
-  RunOneFoot(RafterType::kCommon);
+  RunOneFoot(Member::kCommon);
   EXPECT_NEAR(rafter_.Length1, GetParam().CommonPerFoot, kHalfAHundredth);
 }
 
 TEST_P(FramingSquare, HipPerFootOfRun) {
-  RunOneFoot(RafterType::kHip);
+  RunOneFoot(Member::kHip);
   EXPECT_NEAR(rafter_.Length1, GetParam().HipPerFoot, kHalfAHundredth);
 }
 
 TEST_P(FramingSquare, ValleyPerFootOfRun) {
-  RunOneFoot(RafterType::kValley);
+  RunOneFoot(Member::kValley);
   EXPECT_NEAR(rafter_.Length1, GetParam().HipPerFoot, kHalfAHundredth);
 }
 
 TEST_P(FramingSquare, JackDifferences) {
-  RunOneFoot(RafterType::kHip);
+  RunOneFoot(Member::kHip);
   EXPECT_NEAR(rafter_.CommonDifference16, GetParam().Difference16, kHalfASixteenth);
   EXPECT_NEAR(rafter_.CommonDifference24, GetParam().Difference24, kHalfASixteenth);
   EXPECT_NEAR(rafter_.CommonDifference * 16, GetParam().Difference16, kHalfASixteenth);
@@ -80,7 +80,7 @@ TEST_P(FramingSquare, JackDifferences) {
 
 TEST_P(FramingSquare, BastardHipWithEqualSlopesIsTheSame) {
   rafter_.HipEndSlope = GetParam().Rise;
-  RunOneFoot(RafterType::kBastardHip);
+  RunOneFoot(Member::kBastardHip);
   EXPECT_NEAR(rafter_.Length1, GetParam().HipPerFoot, kHalfAHundredth);
   EXPECT_NEAR(rafter_.CommonDifference16, GetParam().Difference16, kHalfASixteenth);
   EXPECT_NEAR(rafter_.HipEndCommonDifference24, GetParam().Difference24, kHalfASixteenth);

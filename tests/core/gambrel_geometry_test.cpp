@@ -35,13 +35,13 @@ struct Break {
 struct GambrelPair {
   GambrelPair() {
     const RandomRoof roof(Bottom);
-    Bottom.RafterType = RafterType::kGambrelBottom;
+    Bottom.RafterType = Member::kGambrelBottom;
     Bottom.Slope = roof.Slope(13, 40);
     Bottom.HipValSlope = roof.Slope(2, 12);
     Bottom.Span = roof.Length(24, 100);
     Bottom.Purlins = true;
     Top.SetUnits(Bottom.Units());
-    Top.RafterType = RafterType::kGambrelTop;
+    Top.RafterType = Member::kGambrelTop;
     Top.Slope = Bottom.HipValSlope;
     Top.HipValSlope = Bottom.Slope;
     Top.Span = roof.Length(24, 100);
@@ -134,7 +134,7 @@ RC_GTEST_PROP(GambrelGeometry, OnACircleTheBisectorMeetsTheCentre, ()) {
   const double chord = *rc::gen::inRange(30, 46);  // degrees of arc under each rafter
   const double radius = 200;
   Rafter bottom;
-  bottom.RafterType = RafterType::kGambrelBottom;
+  bottom.RafterType = Member::kGambrelBottom;
   bottom.Depth = 7.25;
   bottom.Purlins = true;
   // Wall at the circle's left, break one arc up, top one more arc.

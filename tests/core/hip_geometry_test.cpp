@@ -20,7 +20,7 @@ struct HipCorner {
 };
 
 void CalculateHip(Rafter& rafter) {
-  rafter.RafterType = RafterType::kHip;
+  rafter.RafterType = Member::kHip;
   rafter.Calculate();
 }
 

@@ -13,14 +13,14 @@ constexpr double kDegrees = 57.295779513082;
 constexpr double kRadians = 0.01745329252;
 
 template <typename Action>
-void ForManyRoofs(RafterType type, void (Rafter::*calculate)(), Action action) {
+void ForManyRoofs(Member type, void (Rafter::*calculate)(), Action action) {
   for (int rise = 2; rise <= 18; ++rise) {
     for (int step = 0; step < 80; ++step) {
       Rafter rafter;
       rafter.RafterType = type;
       rafter.Slope = rise + step / 96.0;
       rafter.HipEndSlope = rise + 1 + step / 37.0;
-      if (type == RafterType::kGambrelBottom) rafter.HipValSlope = rise / 3.0 + step / 96.0;
+      if (type == Member::kGambrelBottom) rafter.HipValSlope = rise / 3.0 + step / 96.0;
       rafter.Span = 100 + 2.3 * step;
       rafter.Overhang = 10.1;
       rafter.Thickness = 1.5;
@@ -46,7 +46,7 @@ struct BastardRuns {
 
 TEST(LocalPrecision, HipRunForOneUnitOfABastardHip) {
   Comparison comparison("HipValSpan");
-  ForManyRoofs(RafterType::kBastardHip, &Rafter::CalculateBastardHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kBastardHip, &Rafter::CalculateBastardHip, [&](const Rafter& r) {
     const double hip = BastardRuns(r).hip;
     comparison.Check(r.HipValSpan, r.Span * F(hip), F(r.Span * hip));
   });
@@ -54,7 +54,7 @@ TEST(LocalPrecision, HipRunForOneUnitOfABastardHip) {
 
 TEST(LocalPrecision, RunToTheRaisedEndWall) {
   Comparison comparison("HipValSpan");
-  ForManyRoofs(RafterType::kBastardHip, &Rafter::CalculateAdjustedBastardHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kBastardHip, &Rafter::CalculateAdjustedBastardHip, [&](const Rafter& r) {
     const float whole = F(r.Span * F(BastardRuns(r).hip));
     const double toWall = 12 * r.HipEndDrop / r.HipValSlope;
     comparison.Check(r.HipValSpan, double{whole} - F(toWall), F(whole - toWall));
@@ -63,7 +63,7 @@ TEST(LocalPrecision, RunToTheRaisedEndWall) {
 
 TEST(LocalPrecision, JackOfABastardHip) {
   Comparison comparison("CommonDifference16");
-  ForManyRoofs(RafterType::kBastardHip, &Rafter::CalculateBastardHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kBastardHip, &Rafter::CalculateBastardHip, [&](const Rafter& r) {
     const double run = 12 * r.Span / r.HipEndSpan;
     const float storedRun = F(run);
     const float storedRise = F(r.Slope * storedRun / 12);
@@ -77,7 +77,7 @@ TEST(LocalPrecision, JackOfABastardHip) {
 // An angle is stored as radians first and as degrees then.
 TEST(LocalPrecision, AnglesOfAGambrel) {
   Comparison comparison("JointAngle");
-  ForManyRoofs(RafterType::kGambrelBottom, &Rafter::CalculateGambrel, [&](const Rafter& r) {
+  ForManyRoofs(Member::kGambrelBottom, &Rafter::CalculateGambrel, [&](const Rafter& r) {
     const auto joint = [](double own, double other) { return (((90 - own) + 90 + other) / 2) - (90 - own); };
     const float own = F(kDegrees * F(std::atan(r.Slope / 12)));
     const float other = F(kDegrees * F(std::atan(r.HipValSlope / 12)));
@@ -89,7 +89,7 @@ TEST(LocalPrecision, AnglesOfAGambrel) {
 
 TEST(LocalPrecision, HalfPurlinOfAGambrel) {
   Comparison comparison("RidgeAllowance");
-  ForManyRoofs(RafterType::kGambrelBottom, &Rafter::CalculateGambrel, [&](const Rafter& r) {
+  ForManyRoofs(Member::kGambrelBottom, &Rafter::CalculateGambrel, [&](const Rafter& r) {
     const float own = F(kDegrees * F(std::atan(r.Slope / 12)));
     const float skew = F(own - r.JointAngle);
     const double half = r.RidgeThickness / 2 / std::cos(skew * kRadians);
@@ -100,7 +100,7 @@ TEST(LocalPrecision, HalfPurlinOfAGambrel) {
 
 TEST(LocalPrecision, RatioOfAnOctagon) {
   Comparison comparison("HipValSlope");
-  ForManyRoofs(RafterType::kOctagonHip, &Rafter::CalculateOctagon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kOctagonHip, &Rafter::CalculateOctagon, [&](const Rafter& r) {
     const double ratio = F(r.Span / 0.923879532511) / r.Span;
     comparison.Check(r.HipValSlope, r.Slope / F(ratio), F(r.Slope / ratio));
   });
@@ -108,7 +108,7 @@ TEST(LocalPrecision, RatioOfAnOctagon) {
 
 TEST(LocalPrecision, JackOfAnOctagon) {
   Comparison comparison("CommonDifference16");
-  ForManyRoofs(RafterType::kOctagonJack, &Rafter::CalculateOctagon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kOctagonJack, &Rafter::CalculateOctagon, [&](const Rafter& r) {
     const double run = r.spacing / std::tan(22.5 * kRadians);
     const auto length = [&r](double level) {
       const double rise = level * r.Slope / 12;

@@ -28,7 +28,7 @@ struct Octagon {
   Vector Peak;
 };
 
-void DrawOctagon(Rafter& rafter, RafterType type) {
+void DrawOctagon(Rafter& rafter, Member type) {
   const RandomRoof roof(rafter);
   rafter.RafterType = type;
   rafter.CalculateOctagon();
@@ -36,7 +36,7 @@ void DrawOctagon(Rafter& rafter, RafterType type) {
 
 RC_GTEST_PROP(OctagonGeometry, HipRunsFromCornerToPeak, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonHip);
+  DrawOctagon(rafter, Member::kOctagonHip);
   const Octagon octagon(rafter);
   const Vector tail = Intersect(octagon.Hip, AtX(rafter.Span + rafter.Overhang));
   Agree("HipValSpan", rafter.HipValSpan, PlanDistance(octagon.Corner, octagon.Peak));
@@ -55,7 +55,7 @@ RC_GTEST_PROP(OctagonGeometry, HipRunsFromCornerToPeak, ()) {
 // The run to a corner alone gives the same octagon.
 RC_GTEST_PROP(OctagonGeometry, EitherRunGivesTheOther, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonHip);
+  DrawOctagon(rafter, Member::kOctagonHip);
   const double span = rafter.Span;
   rafter.Span = 0;
   rafter.CalculateOctagon();
@@ -65,7 +65,7 @@ RC_GTEST_PROP(OctagonGeometry, EitherRunGivesTheOther, ()) {
 // The longest jack stands half a spacing beside the middle of its side and ends at the cheek of the hip.
 RC_GTEST_PROP(OctagonGeometry, LongestJackEndsAtTheCheekOfTheHip, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonJack);
+  DrawOctagon(rafter, Member::kOctagonJack);
   const Octagon octagon(rafter);
   const Line edge = Intersect(octagon.First, AtY(rafter.spacing / 2));
   const Vector toJack{1, -1, 0};
@@ -86,7 +86,7 @@ RC_GTEST_PROP(OctagonGeometry, LongestJackEndsAtTheCheekOfTheHip, ()) {
 // or 24.
 RC_GTEST_PROP(OctagonGeometry, JacksGrowByTheDifference, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonJack);
+  DrawOctagon(rafter, Member::kOctagonJack);
   const Octagon octagon(rafter);
   const auto jackAt = [&](double fromMiddle) {
     const Line edge = Intersect(octagon.First, AtY(fromMiddle));
@@ -104,7 +104,7 @@ RC_GTEST_PROP(OctagonGeometry, JacksGrowByTheDifference, ()) {
 // great by the factor 1 / cos(22.5 degrees), about 8 in 100.
 RC_GTEST_PROP(OctagonGeometry, DropIsALittleGreaterThanTheFacesNeed, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonHip);
+  DrawOctagon(rafter, Member::kOctagonHip);
   const Octagon octagon(rafter);
   const double needed = DropBeside(octagon.Hip, octagon.First, rafter.HipValThickness / 2, {1, -1, 0});
   Agree("HipDrop", rafter.HipDrop, needed / std::cos(Radians(22.5)));
@@ -112,7 +112,7 @@ RC_GTEST_PROP(OctagonGeometry, DropIsALittleGreaterThanTheFacesNeed, ()) {
 
 RC_GTEST_PROP(OctagonGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
   Rafter rafter;
-  DrawOctagon(rafter, RafterType::kOctagonHip);
+  DrawOctagon(rafter, Member::kOctagonHip);
   const Octagon octagon(rafter);
   const Vector inward = Unit(-1 * octagon.Corner);
   const Plane top = RoofFace({0, 0, rafter.HipHeel}, inward, SlopeOf(octagon.Hip));

@@ -31,7 +31,7 @@ TEST(RafterMembers, AreInTheOrderOfTheRecord) {
 TEST(RafterMembers, ReadTheirOwnMember) {
   Rafter rafter;
   SmallHouse(rafter);
-  rafter.RafterType = RafterType::kBayLedger;
+  rafter.RafterType = Member::kBayLedger;
   rafter.Name = "Bay";
   rafter.BayAngle = 50;
   rafter.Back = 150;
@@ -44,14 +44,14 @@ TEST(RafterMembers, ReadTheirOwnMember) {
   rafter.Heel = 4;
   rafter.OverhangsEqual = true;
   rafter.CalculateBay();
-  EXPECT_EQ(std::get<std::string>(Member(rafter, "Name")), "Bay");
-  EXPECT_EQ(std::get<int>(Member(rafter, "RafterType")), 12);
-  EXPECT_EQ(std::get<int>(Member(rafter, "Units")), 0);
-  EXPECT_EQ(std::get<int>(Member(rafter, "SlopeBase")), 12);
-  EXPECT_EQ(std::get<double>(Member(rafter, "HipRun")), 16.970562);
-  EXPECT_TRUE(std::get<bool>(Member(rafter, "HeelLocked")));
-  EXPECT_FALSE(std::get<bool>(Member(rafter, "SeatLocked")));
-  EXPECT_TRUE(std::get<bool>(Member(rafter, "OverhangsEqual")));
+  EXPECT_EQ(std::get<std::string>(ValueOf(rafter, "Name")), "Bay");
+  EXPECT_EQ(std::get<int>(ValueOf(rafter, "RafterType")), 12);
+  EXPECT_EQ(std::get<int>(ValueOf(rafter, "Units")), 0);
+  EXPECT_EQ(std::get<int>(ValueOf(rafter, "SlopeBase")), 12);
+  EXPECT_EQ(std::get<double>(ValueOf(rafter, "HipRun")), 16.970562);
+  EXPECT_TRUE(std::get<bool>(ValueOf(rafter, "HeelLocked")));
+  EXPECT_FALSE(std::get<bool>(ValueOf(rafter, "SeatLocked")));
+  EXPECT_TRUE(std::get<bool>(ValueOf(rafter, "OverhangsEqual")));
   EXPECT_EQ(Number(rafter, "HipLength1"), rafter.HipLength1);
   EXPECT_EQ(Number(rafter, "HipLength2"), rafter.HipLength2);
   EXPECT_EQ(Number(rafter, "LedgerLength1"), rafter.LedgerLength1);
@@ -61,7 +61,7 @@ TEST(RafterMembers, ReadTheirOwnMember) {
   EXPECT_EQ(Number(rafter, "HipValSeat"), rafter.HipValSeat);
   EXPECT_EQ(Number(rafter, "PlumbCut"), rafter.PlumbCut);
   EXPECT_EQ(Number(rafter, "HipCommonDifference16"), rafter.HipCommonDifference16);
-  EXPECT_EQ(std::get<std::string>(Member(rafter, "LedgerPitch")), std::string(rafter.LedgerPitch));
+  EXPECT_EQ(std::get<std::string>(ValueOf(rafter, "LedgerPitch")), std::string(rafter.LedgerPitch));
   std::set<double> numbers;
   for (const char* name : {"HipLength1", "HipLength2", "LedgerLength1", "LedgerLength2", "LedgerRise",
                            "LedgerSeat", "HipValSeat", "PlumbCut", "HipCommonDifference16"}) {

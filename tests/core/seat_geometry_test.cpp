@@ -41,7 +41,7 @@ RC_GTEST_PROP(CommonGeometry, RunsFromWallToTheFaceOfTheRidge, ()) {
 RC_GTEST_PROP(CommonGeometry, ShedRunsToTheNearFaceOfABoardWithinTheSpan, ()) {
   Rafter rafter;
   RandomRoof roof(rafter);
-  rafter.RafterType = RafterType::kShed;
+  rafter.RafterType = Member::kShed;
   rafter.Calculate();
   MeasureCommon(rafter, rafter.Span - rafter.RidgeThickness);
 }

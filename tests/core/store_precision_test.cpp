@@ -10,7 +10,7 @@ namespace pitchcraft {
 namespace {
 
 template <typename Action>
-void ForManyRoofs(RafterType type, Action action) {
+void ForManyRoofs(Member type, Action action) {
   for (int rise = 2; rise <= 18; ++rise) {
     for (int step = 0; step < 80; ++step) {
       Rafter rafter;
@@ -31,7 +31,7 @@ void ForManyRoofs(RafterType type, Action action) {
 
 TEST(StorePrecision, PlumbCut) {
   Comparison comparison("PlumbCut");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const float rise = F(r.Slope * r.Depth / 12);
     const float in32 =
         std::sqrt(F(r.Depth) * F(r.Depth) + F(r.Slope) * F(r.Depth) / 12 * (F(r.Slope) * F(r.Depth) / 12));
@@ -41,7 +41,7 @@ TEST(StorePrecision, PlumbCut) {
 
 TEST(StorePrecision, LengthOfACommon) {
   Comparison comparison("Length1");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const float in32 = std::sqrt(F(r.Rise) * F(r.Rise) + F(r.AdjSpan) * F(r.AdjSpan));
     comparison.Check(r.Length1, std::sqrt(r.Rise * r.Rise + r.AdjSpan * r.AdjSpan), in32);
   });
@@ -49,7 +49,7 @@ TEST(StorePrecision, LengthOfACommon) {
 
 TEST(StorePrecision, LengthOfAHip) {
   Comparison comparison("Length1");
-  ForManyRoofs(RafterType::kHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kHip, [&](const Rafter& r) {
     const float in32 = std::sqrt(F(r.Rise) * F(r.Rise) + F(r.AdjHipSpan) * F(r.AdjHipSpan));
     comparison.Check(r.Length1, std::sqrt(r.Rise * r.Rise + r.AdjHipSpan * r.AdjHipSpan), in32);
   });
@@ -57,14 +57,14 @@ TEST(StorePrecision, LengthOfAHip) {
 
 TEST(StorePrecision, Rise) {
   Comparison comparison("Rise");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     comparison.Check(r.Rise, r.Slope * r.AdjSpan / 12, F(r.Slope) * F(r.AdjSpan) / 12);
   });
 }
 
 TEST(StorePrecision, Seat) {
   Comparison comparison("Seat");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const float in32 = (F(r.PlumbCut) - F(r.Heel)) * 12 / F(r.Slope);
     comparison.Check(r.Seat, (r.PlumbCut - r.Heel) * 12 / r.Slope, in32);
   });
@@ -72,7 +72,7 @@ TEST(StorePrecision, Seat) {
 
 TEST(StorePrecision, SeatOfAHip) {
   Comparison comparison("HipValSeat");
-  ForManyRoofs(RafterType::kHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kHip, [&](const Rafter& r) {
     const float in32 = (F(r.HipValPlumbCut) - F(r.HipHeel)) * 12 / F(r.Slope) * F(r.HipFactor);
     comparison.Check(r.HipValSeat, ((r.HipValPlumbCut - r.HipHeel) * 12 / r.Slope) * r.HipFactor, in32);
   });
@@ -80,14 +80,14 @@ TEST(StorePrecision, SeatOfAHip) {
 
 TEST(StorePrecision, SpanOfAHipUsesTheFactorIn64Bits) {
   Comparison comparison("HipValSpan");
-  ForManyRoofs(RafterType::kHip, [&](const Rafter& r) {
+  ForManyRoofs(Member::kHip, [&](const Rafter& r) {
     comparison.Check(r.HipValSpan, r.Span * (16.970562 / 12), F(r.Span) * F(16.970562 / 12));
   });
 }
 
 TEST(StorePrecision, JackDifference) {
   Comparison comparison("CommonDifference16");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const float length = F(std::sqrt(r.Slope * r.Slope + 144));
     const float in32 = std::sqrt(F(r.Slope) * F(r.Slope) + 144) * 16 / 12;
     comparison.Check(r.CommonDifference16, double{length} * 16 / 12, in32);
@@ -98,7 +98,7 @@ TEST(StorePrecision, JackDifference) {
 // storing the rise gives other digits.
 TEST(StorePrecision, LengthGoesByTheStoredRise) {
   Comparison comparison("Length1");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const double unstored = r.Slope * r.AdjSpan / 12;
     const float without = F(std::sqrt(unstored * unstored + r.AdjSpan * r.AdjSpan));
     comparison.Check(r.Length1, std::sqrt(r.Rise * r.Rise + r.AdjSpan * r.AdjSpan), without);
@@ -107,7 +107,7 @@ TEST(StorePrecision, LengthGoesByTheStoredRise) {
 
 TEST(StorePrecision, SeatGoesByTheStoredHeel) {
   Comparison comparison("Seat");
-  ForManyRoofs(RafterType::kCommon, [&](const Rafter& r) {
+  ForManyRoofs(Member::kCommon, [&](const Rafter& r) {
     const float without = F((r.PlumbCut - r.PlumbCut * 0.6666667) * 12 / r.Slope);
     comparison.Check(r.Seat, (r.PlumbCut - r.Heel) * 12 / r.Slope, without);
   });

@@ -13,7 +13,7 @@ Line ValleyLine(const Rafter& rafter) {
   return Intersect(RoofFace({}, {0, 1, 0}, Steepness(rafter)), RoofFace({}, {1, 0, 0}, Steepness(rafter)));
 }
 
-void CalculateAs(Rafter& rafter, RafterType type) {
+void CalculateAs(Rafter& rafter, Member type) {
   rafter.RafterType = type;
   rafter.Calculate();
 }
@@ -21,7 +21,7 @@ void CalculateAs(Rafter& rafter, RafterType type) {
 RC_GTEST_PROP(ValleyGeometry, RunsFromCornerToTheFaceOfTheRidge, ()) {
   Rafter rafter;
   RandomRoof roof(rafter);
-  CalculateAs(rafter, *rc::gen::element(RafterType::kValley, RafterType::kLongValley));
+  CalculateAs(rafter, *rc::gen::element(Member::kValley, Member::kLongValley));
   const Line valley = ValleyLine(rafter);
   const Vector top = Intersect(valley, AtY(rafter.Span - rafter.RidgeThickness / 2));
   const Vector tail = Intersect(valley, AtY(-rafter.Overhang));
@@ -38,7 +38,7 @@ RC_GTEST_PROP(ValleyGeometry, RunsFromCornerToTheFaceOfTheRidge, ()) {
 RC_GTEST_PROP(ValleyGeometry, ShortValleyButtsTheCheekOfTheLongOne, ()) {
   Rafter rafter;
   RandomRoof roof(rafter);
-  CalculateAs(rafter, RafterType::kShortValley);
+  CalculateAs(rafter, Member::kShortValley);
   const Line valley = ValleyLine(rafter);
   const Vector meeting = Intersect(valley, AtY(rafter.Span));
   const Vector along = Unit(InPlan(valley.direction));
@@ -55,7 +55,7 @@ RC_GTEST_PROP(ValleyGeometry, ShortValleyButtsTheCheekOfTheLongOne, ()) {
 RC_GTEST_PROP(ValleyGeometry, SeatEndsWhereItsUndersideMeetsThePlate, ()) {
   Rafter rafter;
   RandomRoof roof(rafter);
-  CalculateAs(rafter, RafterType::kValley);
+  CalculateAs(rafter, Member::kValley);
   const double slope = SlopeOf(ValleyLine(rafter));
   const double plumb = rafter.HipValDepth / std::cos(std::atan(slope));
   RC_ASSERT(rafter.HipDrop == 0);

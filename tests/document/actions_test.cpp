@@ -27,9 +27,9 @@ TEST_F(ActionsTest, HiddenDisabledAndUnknownControlsRefuse) {
 
 TEST_F(ActionsTest, ABoxThatIsSoAlreadyIsNotClicked) {
   Check("chkHeel(0)", false);
-  EXPECT_EQ(document.FocusRequest, "LWSlope(0)") << "the click would have moved the focus";
+  EXPECT_EQ(document.window.FocusRequest, "LWSlope(0)") << "the click would have moved the focus";
   Check("chkHeel(0)", true);
-  EXPECT_EQ(document.FocusRequest, "FtHeel(0)");
+  EXPECT_EQ(document.window.FocusRequest, "FtHeel(0)");
 }
 
 TEST_F(ActionsTest, EditingStaysInTheField) {

@@ -43,7 +43,7 @@ TEST_P(BadInputTest, NoFieldOfTheRoofBreaks) {
         (actions.*action)(name, text);
       }
     }
-    EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]") << name;
+    EXPECT_EQ(document.window.Title, "Pitchcraft - [Untitled]") << name;
   }
   for (const auto& [title, text] : around.dialogs.messages) {
     EXPECT_FALSE(title.empty());

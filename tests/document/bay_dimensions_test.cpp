@@ -30,7 +30,7 @@ TEST_F(BayDimensionsTest, AnyThreeGiveTheFourth) {
     for (int i = 0; i < 4; ++i) {
       if (i != solved) Type(rows[i].field, rows[i].text);
     }
-    EXPECT_EQ(document.BayEditMode, solved + 1);
+    EXPECT_EQ(document.design.BayEditMode, solved + 1);
     EXPECT_NEAR(rafter.Projection, 30, 1e-4) << solved;
     EXPECT_NEAR(rafter.Face, 60, 1e-4) << solved;
     EXPECT_NEAR(rafter.Back, 120, 1e-4) << solved;
@@ -38,7 +38,7 @@ TEST_F(BayDimensionsTest, AnyThreeGiveTheFourth) {
     EXPECT_NEAR(rafter.BaySide, 30 * std::sqrt(2.0), 1e-4) << solved;
     const auto* field = std::get<MeasureControl*>(*sheet.Find(rows[solved].field));
     EXPECT_TRUE(field->Calculated && field->ReadOnly) << solved;
-    EXPECT_EQ(field->ForeColor, document.CtlCalcColor);
+    EXPECT_EQ(field->ForeColor, document.preferences.CtlCalcColor);
   }
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
@@ -46,7 +46,7 @@ TEST_F(BayDimensionsTest, AnyThreeGiveTheFourth) {
 TEST_F(BayDimensionsTest, TwoEmptyFieldsWaitWithoutAWord) {
   Type("FtBack", "120");
   Type("FtFace", "60");
-  EXPECT_EQ(document.BayEditMode, 0);
+  EXPECT_EQ(document.design.BayEditMode, 0);
   EXPECT_EQ(rafter.Back, 0);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
@@ -57,7 +57,7 @@ TEST_F(BayDimensionsTest, ASquareCornerNeedsItsProjection) {
   Type("FtBayAngle", "90");
   EXPECT_EQ(LastMessage().first, "Pitchcraft");
   EXPECT_EQ(LastMessage().second, "Projection must be entered if bay angle = 90\u00BA");
-  EXPECT_EQ(document.FocusRequest, "Command1");
+  EXPECT_EQ(document.window.FocusRequest, "Command1");
   EXPECT_EQ(sheet.Projection.Value(), 0);
 }
 
@@ -92,7 +92,7 @@ TEST_F(BayDimensionsTest, HipsThatWouldCrossResetTheBay) {
   for (const MeasureControl* field : {&sheet.Projection, &sheet.Face, &sheet.Back, &sheet.BayAngle}) {
     EXPECT_EQ(field->Text(), "");
     EXPECT_FALSE(field->Calculated || field->ReadOnly);
-    EXPECT_EQ(field->ForeColor, document.CtlForeColor);
+    EXPECT_EQ(field->ForeColor, document.preferences.CtlForeColor);
   }
 }
 
@@ -106,7 +106,7 @@ TEST_F(BayDimensionsTest, ADutchHipTooDeepGoesBackToTwoThirds) {
 
 TEST_F(BayDimensionsTest, APageOfAnIncompleteBayStaysBlank) {
   Page(2);
-  EXPECT_TRUE(document.board.Recorder.Operations().empty());
+  EXPECT_TRUE(document.Board().Recorder.Operations().empty());
   EXPECT_EQ(static_cast<int>(rafter.RafterType), 10);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }

@@ -39,10 +39,10 @@ const RoofRow kRoofs[] = {
 TEST_F(CalculateRoofTest, EveryTypeHasItsRafterItsPagesAndItsHelp) {
   for (const RoofRow& row : kRoofs) {
     Pick("cboType", row.item);
-    EXPECT_EQ(document.RoofType, row.code) << row.item;
+    EXPECT_EQ(static_cast<int>(document.design.RoofType), row.code) << row.item;
     EXPECT_EQ(static_cast<int>(rafter.RafterType), row.rafter1) << row.item;
     EXPECT_EQ(sheet.Tabs[0].Caption(), row.pages);
-    EXPECT_EQ(document.HelpContext, row.help) << row.item;
+    EXPECT_EQ(RoofOf(document.design).About().HelpTopic, row.help) << row.item;
   }
   EXPECT_TRUE(around.dialogs.messages.empty()) << around.dialogs.messages[0].second;
 }
@@ -54,43 +54,28 @@ TEST_F(CalculateRoofTest, AShedButtsTheWholeBoard) {
   EXPECT_EQ(rafter.RidgeAllowance, 0.75);
 }
 
-TEST_F(CalculateRoofTest, BeforeTheEndOfStartUpNothingHappens) {
-  document.CalcEnabled = false;
-  document.RoofType = roof::kHip;
-  document.CalculateRoof(false);
-  EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Rafter");
-  EXPECT_EQ(rafter.RafterType, RafterType::kCommon);
-}
-
 TEST_F(CalculateRoofTest, ABastardHipFromAProjectBecomesAHip) {
   rafter.HipEndSlope = 12;
-  document.RoofType = roof::kBastardHip;
-  document.CalculateRoof(true);
-  EXPECT_EQ(document.RoofType, roof::kHip);
-  EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip);
+  document.design.RoofType = Roof::kHip;
+  Reply reply;
+  RoofOf(document.design).Start(document.design, reply, true);
+  EXPECT_EQ(document.design.RoofType, Roof::kHip);
+  EXPECT_EQ(rafter.RafterType, Member::kBastardHip);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
-}
-
-TEST_F(CalculateRoofTest, AnUnknownCodeSaysSoAndKeepsTheTopic) {
-  document.RoofType = 6;
-  document.CalculateRoof(false);
-  ASSERT_EQ(around.dialogs.messages.size(), 1U);
-  EXPECT_EQ(around.dialogs.messages[0],
-            (std::pair<std::string, std::string>("SetHelpContext", "Unrecognized roof type!")));
-  EXPECT_EQ(document.HelpContext, 60);
 }
 
 TEST_F(CalculateRoofTest, ADualSlopePickedFromTheListCopiesTheFront) {
   Type("LWSlope(0)", "7 | 12");
   Type("FtSpan(0)", "15'");
   Pick("cboType", "Dual Slope");
-  EXPECT_EQ(document.Rafter2.Slope, 7);
-  EXPECT_EQ(document.Rafter2.Span, 180);
+  EXPECT_EQ(document.design.Rafter2.Slope, 7);
+  EXPECT_EQ(document.design.Rafter2.Span, 180);
   EXPECT_EQ(sheet.Span[1].Text(), "15' 0\"");
   EXPECT_EQ(sheet.Slope[1].LeftValue(), 7);
-  document.Rafter2.Span = 100;
-  document.CalculateRoof(true);
-  EXPECT_EQ(document.Rafter2.Span, 100) << "from a project the rear roof keeps its own";
+  document.design.Rafter2.Span = 100;
+  Reply reply;
+  RoofOf(document.design).Start(document.design, reply, true);
+  EXPECT_EQ(document.design.Rafter2.Span, 100) << "from a project the rear roof keeps its own";
 }
 
 TEST_F(CalculateRoofTest, ResultsComeBackToTheSheetAfterTheirLimits) {

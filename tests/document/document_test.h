@@ -5,15 +5,14 @@
 
 #include <string>
 
-#include "document/actions.h"
-#include "document/document.h"
 #include "document/null_surroundings.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 
 class DocumentTest : public testing::Test {
  protected:
-  DocumentTest() { document.Form_Load(); }
+  DocumentTest() { Start(document); }
 
   /// Takes the action and fails the test where it is refused.
   void Type(const char* name, const char* text) { Expect(actions.Type(name, text)); }
@@ -28,9 +27,9 @@ class DocumentTest : public testing::Test {
   NullSurroundings around;
   Document document{around.Get()};
   Actions actions{document};
-  Sheet& sheet = document.sheet;
-  Menus& menus = document.menus;
-  Rafter& rafter = document.Rafter1;
+  Sheet& sheet = document.design.sheet;
+  Menus& menus = document.design.menus;
+  Rafter& rafter = document.design.Rafter1;
 };
 
 }  // namespace pitchcraft

@@ -100,7 +100,7 @@ TEST_F(ExportTest, ACommonStandsInTheFileInRealSize) {
 TEST_F(ExportTest, ItsDimensionsMeasureWhatTheyShow) {
   Roof6In12();
   const std::vector<Entity> entities = Export();
-  EXPECT_EQ(Count(entities, "DIMENSION"), static_cast<int>(document.board.Dimensions.size()));
+  EXPECT_EQ(Count(entities, "DIMENSION"), static_cast<int>(document.Board().Dimensions.size()));
   bool run = false;
   for (const Entity& e : entities) {
     if (e.Kind != "DIMENSION") continue;
@@ -125,7 +125,7 @@ TEST_F(ExportTest, AHipCarriesItsBevelsAndCenterLines) {
   const std::vector<Entity> entities = Export();
   const std::vector<std::string> texts = TextsOf(entities);
   EXPECT_EQ(std::count(texts.begin(), texts.end(), "45d bevels"),
-            document.board.Pts(18).X != document.board.Pts(23).X ? 2 : 0);
+            document.Board().Pts(18).X != document.Board().Pts(23).X ? 2 : 0);
   int center = 0;
   for (const Entity& e : entities) {
     if (e.Kind != "LINE" || e.Text(8) != "CENTER") continue;
@@ -133,12 +133,12 @@ TEST_F(ExportTest, AHipCarriesItsBevelsAndCenterLines) {
     EXPECT_EQ(e.Text(62), "12") << "in the colour of the dimensions";
   }
   EXPECT_GE(center, 1);
-  EXPECT_EQ(document.Rafter1.RafterType, RafterType::kHip);
+  EXPECT_EQ(document.design.Rafter1.RafterType, Member::kHip);
 }
 
 TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {
-  document.DxfTextSize = 4;
-  document.DxfMetricTextSize = 60;
+  document.preferences.DxfTextSize = 4;
+  document.preferences.DxfMetricTextSize = 60;
   Roof6In12();
   for (const Entity& e : Export()) {
     if (e.Kind == "TEXT" && e.Text(1) == "63.4") {
@@ -160,20 +160,20 @@ TEST_F(ExportTest, TheTextSizeIsThatOfTheUnitSystem) {
 TEST_F(ExportTest, OtherDxfColorsChangeNothing) {
   Roof6In12();
   Export("a.dxf");
-  document.DxfLineColor = 3;
-  document.DxfTextColor = 4;
-  document.DxfBackColor = 0x123456;
-  document.DxfDimTextSize = 40;
+  document.preferences.DxfLineColor = 3;
+  document.preferences.DxfTextColor = 4;
+  document.preferences.DxfBackColor = 0x123456;
+  document.preferences.DxfDimTextSize = 40;
   Export("b.dxf");
   EXPECT_EQ(pitchcraft::testing::ReadWhole(File("a.dxf")), pitchcraft::testing::ReadWhole(File("b.dxf")));
-  document.DxfDimColor = 3;
+  document.preferences.DxfDimColor = 3;
   Export("c.dxf");
   EXPECT_NE(pitchcraft::testing::ReadWhole(File("a.dxf")), pitchcraft::testing::ReadWhole(File("c.dxf")));
 }
 
 TEST_F(ExportTest, TheFileBecomesTheDocumentsFile) {
   Export("house.dxf");
-  EXPECT_EQ(document.ProjectFile, File("house.dxf"));
+  EXPECT_EQ(document.project.File, File("house.dxf"));
   const std::size_t asked = dialogs.asked.size();
   Click("mnuFileSave");
   EXPECT_EQ(dialogs.asked.size(), asked) << "Save asks for no name";
@@ -191,7 +191,7 @@ TEST_F(ExportTest, TheDialogOffersTheFolderAndAnExtension) {
 TEST_F(ExportTest, ACancelledDialogDoesNothing) {
   dialogs.answers.emplace_back(std::nullopt);
   Click("mnuFileExportDXF");
-  EXPECT_EQ(document.ProjectFile, "");
+  EXPECT_EQ(document.project.File, "");
   EXPECT_TRUE(dialogs.messages.empty());
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 class FileMenuTest : public ProjectTest {
  protected:
-  FileMenuTest() { document.Form_Load(); }
+  FileMenuTest() { Start(document); }
   void Click(const char* name, std::optional<std::string> answer = std::nullopt) {
     if (answer) dialogs.answers.push_back(answer);
     const Refusal refusal = actions.Click(name);
@@ -22,8 +22,8 @@ class FileMenuTest : public ProjectTest {
 
 TEST_F(FileMenuTest, SaveAsksForANameOnce) {
   Click("mnuFileSave", PathOf("house.pcf"));
-  EXPECT_EQ(document.ProjectFile, PathOf("house.pcf"));
-  EXPECT_EQ(document.Title, "Pitchcraft - [" + RecentFileList::ShortenedPath(PathOf("house.pcf"), 60) + "]");
+  EXPECT_EQ(document.project.File, PathOf("house.pcf"));
+  EXPECT_EQ(document.window.Title, "Pitchcraft - [" + RecentFileList::ShortenedPath(PathOf("house.pcf"), 60) + "]");
   const std::string first = Read("house.pcf");
   EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
   Click("mnuFileSave");
@@ -40,8 +40,8 @@ TEST_F(FileMenuTest, ANameWithoutAnEndingGetsOne) {
   Click("mnufileSaveAs", PathOf("barn"));
   EXPECT_TRUE(std::filesystem::exists(PathOf("barn.pcf")));
   Click("mnuFileOpen", PathOf("barn"));
-  EXPECT_EQ(document.ProjectFile, PathOf("barn.pcf"));
-  EXPECT_EQ(document.ProjectName, "barn");
+  EXPECT_EQ(document.project.File, PathOf("barn.pcf"));
+  EXPECT_EQ(document.project.Name, "barn");
 }
 
 TEST_F(FileMenuTest, SaveAsLeavesOnlyTheKeysOfTheRoof) {
@@ -55,10 +55,10 @@ TEST_F(FileMenuTest, SaveAsLeavesOnlyTheKeysOfTheRoof) {
 
 TEST_F(FileMenuTest, OpenCancelledChangesNothing) {
   Click("mnuFileOpen");
-  EXPECT_EQ(document.ProjectFile, "");
+  EXPECT_EQ(document.project.File, "");
   EXPECT_TRUE(dialogs.messages.empty());
   Click("mnuFileOpen", PathOf("none.pcf"));
-  EXPECT_EQ(document.ProjectName, "Untitled");
+  EXPECT_EQ(document.project.Name, "Untitled");
   EXPECT_EQ(dialogs.messages.size(), 1U);
 }
 
@@ -67,20 +67,20 @@ TEST_F(FileMenuTest, NewKeepsTheValuesAndAsksForAName) {
   EXPECT_FALSE(actions.Pick("cboType", "Hip"));
   EXPECT_FALSE(actions.Page("VSTab(0)", 3));
   Click("mnuFileNew", "Barn");
-  EXPECT_EQ(document.RoofType, roof::kGable);
-  EXPECT_EQ(document.CurrentTab, 0);
-  EXPECT_EQ(double{document.Rafter1.Span}, 200);
-  EXPECT_EQ(document.Title, "Pitchcraft - [Barn]");
+  EXPECT_EQ(document.design.RoofType, Roof::kGable);
+  EXPECT_EQ(PageShown(document.design), 0);
+  EXPECT_EQ(double{document.design.Rafter1.Span}, 200);
+  EXPECT_EQ(document.window.Title, "Pitchcraft - [Barn]");
   Click("mnuFileNew");
-  EXPECT_EQ(document.ProjectName, "Barn");
+  EXPECT_EQ(document.project.Name, "Barn");
   EXPECT_EQ(dialogs.asked.back(), "New Project: Barn");
 }
 
 TEST_F(FileMenuTest, ProjectNameChangesTheTitle) {
   Click("mnuFileProjectName");
-  EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]");
+  EXPECT_EQ(document.window.Title, "Pitchcraft - [Untitled]");
   Click("mnuFileProjectName", "Shed at the lake");
-  EXPECT_EQ(document.Title, "Pitchcraft - [Shed at the lake]");
+  EXPECT_EQ(document.window.Title, "Pitchcraft - [Shed at the lake]");
 }
 
 TEST_F(FileMenuTest, RecentFilesOpenAgain) {
@@ -90,10 +90,10 @@ TEST_F(FileMenuTest, RecentFilesOpenAgain) {
   EXPECT_FALSE(actions.Type("FtSpan(0)", "300"));
   Click("mnufileSaveAs", PathOf("two.pcf"));
   Click("mnuFileMRU(1)");
-  EXPECT_EQ(document.ProjectName, "ONE");
-  EXPECT_EQ(double{document.Rafter1.Span}, 200);
+  EXPECT_EQ(document.project.Name, "ONE");
+  EXPECT_EQ(double{document.design.Rafter1.Span}, 200);
   Click("mnuFileMRU(1)");
-  EXPECT_EQ(double{document.Rafter1.Span}, 300) << "the one opened moved to the first place";
+  EXPECT_EQ(double{document.design.Rafter1.Span}, 300) << "the one opened moved to the first place";
 }
 
 TEST_F(FileMenuTest, ToolButtonsDoTheSame) {
@@ -103,26 +103,26 @@ TEST_F(FileMenuTest, ToolButtonsDoTheSame) {
   EXPECT_FALSE(actions.Press("New"));
   dialogs.answers.emplace_back(PathOf("house.pcf"));
   EXPECT_FALSE(actions.Press("Open"));
-  EXPECT_EQ(document.ProjectName, "house");
+  EXPECT_EQ(document.project.Name, "house");
 }
 
 TEST_F(FileMenuTest, AMetricProjectSwitchesTheSession) {
   Click("mnuMetric");
   Click("mnufileSaveAs", PathOf("metric.pcf"));
   Click("mnuMetric");
-  EXPECT_EQ(document.UnitRun, 12);
+  EXPECT_EQ(UnitRun(document.design), 12);
   Click("mnuFileOpen", PathOf("metric.pcf"));
-  EXPECT_EQ(document.UnitRun, 1000);
+  EXPECT_EQ(UnitRun(document.design), 1000);
   Click("mnuFileOpen", PathOf("metric.pcf"));
-  EXPECT_EQ(document.UnitRun, 1000) << "also where the units are the same";
+  EXPECT_EQ(UnitRun(document.design), 1000) << "also where the units are the same";
 }
 
 TEST_F(FileMenuTest, SpacingOfAProjectReachesTheSession) {
   const std::string path = Write("hip.pcf", "[Settings]\r\nRafterType=1\r\nSpacing=24\"\r\n");
   Click("mnuFileOpen", path);
-  EXPECT_EQ(double{document.Spacing}, 24);
-  EXPECT_EQ(double{document.Rafter1.spacing}, 24);
-  EXPECT_EQ(double{document.Rafter2.spacing}, 24);
+  EXPECT_EQ(double{document.design.Rafter1.spacing}, 24);
+  EXPECT_EQ(double{document.design.Rafter1.spacing}, 24);
+  EXPECT_EQ(double{document.design.Rafter2.spacing}, 24);
 }
 
 }  // namespace

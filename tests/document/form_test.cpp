@@ -6,8 +6,8 @@ namespace {
 using FormTest = DocumentTest;
 
 TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
-  EXPECT_EQ(document.Title, "Pitchcraft - [Untitled]");
-  EXPECT_EQ(document.RoofType, roof::kGable);
+  EXPECT_EQ(document.window.Title, "Pitchcraft - [Untitled]");
+  EXPECT_EQ(document.design.RoofType, Roof::kGable);
   EXPECT_EQ(rafter.Slope, 1);
   EXPECT_EQ(sheet.Slope[0].LeftValue(), 1);
   EXPECT_EQ(sheet.Slope[0].ListIndex(), 0);
@@ -16,19 +16,18 @@ TEST_F(FormTest, StartsAsAGableWithTheFirstSlope) {
   EXPECT_EQ(sheet.Overhang[0].Text(), "10 1/2\"");
   EXPECT_EQ(sheet.Common[0].RightText(), "7 1/4\"");
   EXPECT_EQ(sheet.Fascia[0].RightText(), "5 1/2\"");
-  EXPECT_TRUE(document.CalcEnabled);
-  EXPECT_EQ(document.HelpContext, 60);
+  EXPECT_EQ(RoofOf(document.design).About().HelpTopic, 60);
   EXPECT_TRUE(around.dialogs.messages.empty());
 }
 
 TEST_F(FormTest, StartsImperialWithPlumbCutAndBothBars) {
-  EXPECT_EQ(document.UnitRun, 12);
+  EXPECT_EQ(UnitRun(document.design), 12);
   EXPECT_TRUE(menus.Imperial.Checked);
   EXPECT_FALSE(menus.Metric.Checked);
   EXPECT_TRUE(menus.SettingsPlumbCut.Checked);
-  EXPECT_TRUE(document.toolBar["Plumb"].Pressed);
-  EXPECT_TRUE(document.toolBar["Gable"].Pressed);
-  EXPECT_FALSE(document.toolBar["Level"].Visible);
+  EXPECT_TRUE(document.design.toolBar["Plumb"].Pressed);
+  EXPECT_TRUE(document.design.toolBar["Gable"].Pressed);
+  EXPECT_FALSE(document.design.toolBar["Level"].Visible);
   EXPECT_TRUE(menus.ViewToolbar.Checked);
   EXPECT_TRUE(menus.ViewStatusBar.Checked);
   EXPECT_TRUE(menus.SettingsRiseOverRun.Checked);
@@ -59,24 +58,24 @@ TEST_F(FormTest, TheListOfTheSecondSlopeStaysEmpty) {
 }
 
 TEST_F(FormTest, AWindowIsHeldToItsLeastSize) {
-  document.Window.Width = 100;
-  document.Window.Height = 100;
-  document.Form_Resize();
-  EXPECT_EQ(document.Window.Width, kMinimumWidth);
-  EXPECT_EQ(document.Window.Height, kMinimumHeight);
+  document.window.Place.Width = 100;
+  document.window.Place.Height = 100;
+  FollowSize(document);
+  EXPECT_EQ(document.window.Place.Width, kMinimumWidth);
+  EXPECT_EQ(document.window.Place.Height, kMinimumHeight);
 }
 
 TEST_F(FormTest, ALargerWindowHasALargerPictureAndDrawsAgain) {
-  const int before = document.Picture1.Place.Width;
-  const double factor = document.board.PointFactor;
-  document.Window.Width = 24000;
-  document.Window.Height = 15000;
-  document.Form_Resize();
-  EXPECT_GT(document.Picture1.Place.Width, before);
-  EXPECT_LT(document.board.PointFactor, factor)
+  const int before = document.Layout().picture1.Width;
+  const double factor = document.Board().PointFactor;
+  document.window.Place.Width = 24000;
+  document.window.Place.Height = 15000;
+  FollowSize(document);
+  EXPECT_GT(document.Layout().picture1.Width, before);
+  EXPECT_LT(document.Board().PointFactor, factor)
       << "text keeps its size on the screen, so it shrinks in the drawing";
-  EXPECT_TRUE(document.board.Recorder.IsClosed());
-  EXPECT_FALSE(document.board.Recorder.Operations().empty());
+  EXPECT_TRUE(document.Board().Recorder.IsClosed());
+  EXPECT_FALSE(document.Board().Recorder.Operations().empty());
 }
 
 TEST_F(FormTest, NoItemIsGreyAtTheStart) {
@@ -86,29 +85,29 @@ TEST_F(FormTest, NoItemIsGreyAtTheStart) {
       EXPECT_TRUE(item->Enabled) << item->Name;
     }
   }
-  EXPECT_TRUE(document.ToolButtonEnabled(document.toolBar["Print"]));
+  EXPECT_TRUE(IsToolButtonEnabled(document, document.design.toolBar["Print"]));
 }
 
 TEST(FormUnload, KeepsWhatTheUserChose) {
   NullSurroundings around;
   {
     Document document(around.Get());
-    document.Form_Load();
-    document.mnuMetric_Click();
-    document.mnuHipLayoutCornersFlush_Click();
-    document.mnuSettingsDegrees_Click();
-    document.Window = {300, 400, 12000, 9000};
-    document.Form_Unload();
+    Start(document);
+    ToggleUnits(document);
+    ClickMenu(document, document.design.menus.HipLayoutCornersFlush);
+    ClickMenu(document, document.design.menus.SettingsDegrees);
+    document.window.Place = {300, 400, 12000, 9000};
+    Close(document);
   }
   Document again(around.Get());
-  again.Form_Load();
-  EXPECT_EQ(again.UnitRun, 1000);
-  EXPECT_TRUE(again.menus.Metric.Checked);
-  EXPECT_TRUE(again.menus.HipLayoutCornersFlush.Checked);
-  EXPECT_TRUE(again.sheet.Degrees[0].Visible);
-  EXPECT_FALSE(again.sheet.Slope[0].Visible);
-  EXPECT_EQ(again.Window.Width, 12000);
-  EXPECT_EQ(again.Window.Left, 300);
+  Start(again);
+  EXPECT_EQ(UnitRun(again.design), 1000);
+  EXPECT_TRUE(again.design.menus.Metric.Checked);
+  EXPECT_TRUE(again.design.menus.HipLayoutCornersFlush.Checked);
+  EXPECT_TRUE(again.design.sheet.Degrees[0].Visible);
+  EXPECT_FALSE(again.design.sheet.Slope[0].Visible);
+  EXPECT_EQ(again.window.Place.Width, 12000);
+  EXPECT_EQ(again.window.Place.Left, 300);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace {
 
 class FormsTest : public ProjectTest {
  protected:
-  FormsTest() { document.Form_Load(); }
+  FormsTest() { Start(document); }
   void Click(const char* name) {
     const Refusal refusal = actions.Click(name);
     EXPECT_FALSE(refusal) << refusal.value_or("");
@@ -36,30 +36,30 @@ class FormsTest : public ProjectTest {
 TEST_F(FormsTest, IncrementTakesWhatIsAboveNothing) {
   Increment("1/2\"");
   EXPECT_EQ(offered, "1/4\"");
-  EXPECT_EQ(double{document.Increment}, 0.5);
-  EXPECT_EQ(double{document.MetricIncrement}, 0.25) << "the other unit system has its own";
-  const double before = document.sheet.Span[0].Value();
+  EXPECT_EQ(double{document.preferences.Increment}, 0.5);
+  EXPECT_EQ(double{document.preferences.MetricIncrement}, 0.25) << "the other unit system has its own";
+  const double before = document.design.sheet.Span[0].Value();
   EXPECT_FALSE(actions.Spin("Spin(0)", true));
-  EXPECT_EQ(document.sheet.Span[0].Value(), before + 0.5);
+  EXPECT_EQ(document.design.sheet.Span[0].Value(), before + 0.5);
 }
 
 TEST_F(FormsTest, IncrementsThatStepNowhereAreNotTaken) {
   for (const char* text : {"0", "", "-1", "x", "inf", "nan", "1e-60", "1e39", "1e300"}) {
     Increment(text);
-    EXPECT_EQ(double{document.Increment}, 0.25) << text;
+    EXPECT_EQ(double{document.preferences.Increment}, 0.25) << text;
   }
   Increment("3", false);
-  EXPECT_EQ(double{document.Increment}, 0.25) << "cancelled";
+  EXPECT_EQ(double{document.preferences.Increment}, 0.25) << "cancelled";
   Increment("1e30");
-  EXPECT_EQ(double{document.Increment}, double{Single(1e30)}) << "large, but a number";
+  EXPECT_EQ(double{document.preferences.Increment}, double{Single(1e30)}) << "large, but a number";
 }
 
 TEST_F(FormsTest, MetricHasAnIncrementOfItsOwn) {
-  document.mnuMetric_Click();
+  ToggleUnits(document);
   Increment("5 mm");
   EXPECT_EQ(offered, "0.25 mm");
-  EXPECT_EQ(double{document.MetricIncrement}, 5);
-  EXPECT_EQ(double{document.Increment}, 0.25);
+  EXPECT_EQ(double{document.preferences.MetricIncrement}, 5);
+  EXPECT_EQ(double{document.preferences.Increment}, 0.25);
 }
 
 TEST_F(FormsTest, DisclaimerStoresItsBoxAsItStands) {
@@ -79,15 +79,15 @@ TEST_F(FormsTest, DisclaimerStoresItsBoxAsItStands) {
 }
 
 TEST_F(FormsTest, StartShowsWhatIsNotSwitchedOff) {
-  document.ShowStartForms();
+  ShowStartForms(document);
   EXPECT_EQ(dialogs.names, (std::vector<std::string>{"frmDisclaimer", "frmTip"}));
   store.Set("Pitchcraft", "Settings", "ShowDisclaimer", "0");
   store.Set("pitchcraft", "Options", "Show Tips at Startup", "0");
-  document.ShowStartForms();
+  ShowStartForms(document);
   EXPECT_EQ(dialogs.names.size(), 2U);
   store.Set("Pitchcraft", "Settings", "ShowDisclaimer", "7");
   store.Set("pitchcraft", "Options", "Show Tips at Startup", "2");
-  document.ShowStartForms();
+  ShowStartForms(document);
   EXPECT_EQ(dialogs.names.back(), "frmDisclaimer");
   EXPECT_EQ(dialogs.names.size(), 3U);
 }
@@ -95,7 +95,7 @@ TEST_F(FormsTest, StartShowsWhatIsNotSwitchedOff) {
 TEST_F(FormsTest, EndOfTheSessionLeavesBothSettingsAlone) {
   DisclaimerForm(store).Click(false);
   TipForm(store, {folder}, 1).Click(false);
-  document.Form_Unload();
+  Close(document);
   EXPECT_EQ(store.Get("Pitchcraft", "Settings", "ShowDisclaimer"), "0");
   EXPECT_EQ(store.Get("pitchcraft", "Options", "Show Tips at Startup"), "0");
 }

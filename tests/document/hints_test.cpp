@@ -35,7 +35,7 @@ TEST_F(HintsTest, TellWhatToEnter) {
   for (const HintRow& row : kRows) {
     Pick("cboType", row.roof);
     Expect(actions.Hover(row.control));
-    EXPECT_EQ(document.StatusText, row.text) << row.roof << " " << row.control;
+    EXPECT_EQ(document.window.Status, row.text) << row.roof << " " << row.control;
   }
 }
 

@@ -62,7 +62,7 @@ TEST_F(MeasureFieldsTest, HeelAndSeatCannotBothBeLocked) {
   EXPECT_TRUE(rafter.SeatLocked);
   EXPECT_FALSE(menus.SettingsHeelLocked.Checked);
   EXPECT_TRUE(menus.SettingsSeatLocked.Checked);
-  EXPECT_EQ(document.FocusRequest, "FtSeat(0)");
+  EXPECT_EQ(document.window.FocusRequest, "FtSeat(0)");
 }
 
 TEST_F(MeasureFieldsTest, ALockClearedCalculatesTheUsualHeelAgain) {
@@ -87,7 +87,7 @@ TEST_F(MeasureFieldsTest, AKneewallCountsWhileItsBoxIsTicked) {
   Check("chkKneewall(0)", true);
   EXPECT_EQ(sheet.HasKneewall[0].Caption, "a");
   EXPECT_TRUE(sheet.Kneewall[0].Enabled);
-  EXPECT_EQ(sheet.Kneewall[0].ForeColor, document.CtlForeColor);
+  EXPECT_EQ(sheet.Kneewall[0].ForeColor, document.preferences.CtlForeColor);
   EXPECT_TRUE(sheet.Label[0].Enabled);
   Type("FtKneewall(0)", "4'");
   EXPECT_EQ(rafter.Kneewall, 48);
@@ -115,7 +115,7 @@ TEST_F(MeasureFieldsTest, SpinButtonsStepTheirFieldAndCommit) {
 
 TEST_F(MeasureFieldsTest, AMetricSpinStepsByItsOwnIncrement) {
   Click("mnuMetric");
-  document.MetricIncrement = 5;
+  document.preferences.MetricIncrement = 5;
   Expect(actions.Spin("Spin(0)", true));
   EXPECT_EQ(rafter.Span, 3605);
 }
@@ -148,12 +148,12 @@ TEST_F(MeasureFieldsTest, LastCommonStaysWithinOneSpacingOfTheHipEnd) {
 TEST_F(MeasureFieldsTest, CheckOverhangTellsTheShortestForAPlumbFascia) {
   Type("LWSlope(0)", "12 | 12");
   Type("FtOverhang(0)", "2");
-  EXPECT_NEAR(document.CheckOverhang(0, rafter), 7.25 * std::cos(std::atan(1.0)), 1e-6);
+  EXPECT_NEAR(LeastOverhang(document.design, 0), 7.25 * std::cos(std::atan(1.0)), 1e-6);
   Type("FtOverhang(0)", "12");
-  EXPECT_EQ(document.CheckOverhang(0, rafter), 0);
+  EXPECT_EQ(LeastOverhang(document.design, 0), 0);
   Type("FtOverhang(0)", "2");
   Click("mnuSettingsSquareCut");
-  EXPECT_EQ(document.CheckOverhang(0, rafter), 0);
+  EXPECT_EQ(LeastOverhang(document.design, 0), 0);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 
 class OptionsTest : public ProjectTest {
  protected:
-  OptionsTest() { document.Form_Load(); }
+  OptionsTest() { Start(document); }
   /// Opens the options, acts on them, closes them.
   void Options(const std::function<void(OptionsForm&)>& action, const char* item = "mnuViewOptions") {
     dialogs.On<OptionsForm>(action);
@@ -20,7 +20,7 @@ class OptionsTest : public ProjectTest {
   MemoryStore store;
   Document document{{dialogs, store, folder}};
   Actions actions{document};
-  Sheet& sheet = document.sheet;
+  Sheet& sheet = document.design.sheet;
 };
 
 TEST_F(OptionsTest, BeginWithWhatTheDocumentHolds) {
@@ -53,15 +53,15 @@ TEST_F(OptionsTest, CancelLeavesEverything) {
     form.DxfTextSize.SetText("8");
     form.LumberList.DeleteRow(0);
   });
-  EXPECT_EQ(document.BackColor, 0U);
-  EXPECT_FALSE(document.PrintAllBlack || document.UseSystemColors || document.RotateFonts);
-  EXPECT_EQ(document.LineWidth, 1);
-  EXPECT_EQ(double{document.DxfTextSize}, 2);
+  EXPECT_EQ(document.preferences.BackColor, 0U);
+  EXPECT_FALSE(document.PrintAllBlack || document.preferences.UseSystemColors || document.preferences.RotateFonts);
+  EXPECT_EQ(document.preferences.LineWidth, 1);
+  EXPECT_EQ(double{document.preferences.DxfTextSize}, 2);
   EXPECT_FALSE(Exists("Lumber.dat"));
 }
 
 TEST_F(OptionsTest, ApplyTakesEffectWhileTheFormIsOpen) {
-  document.sheet.Kneewall[0].SetValue(12);
+  document.design.sheet.Kneewall[0].SetValue(12);
   Options([this](OptionsForm& form) {
     EXPECT_TRUE(form.SetColor(kCtlBack, 0xC0FFFF));
     EXPECT_TRUE(form.SetColor(kCtlText, 0x800000));
@@ -75,34 +75,34 @@ TEST_F(OptionsTest, ApplyTakesEffectWhileTheFormIsOpen) {
     EXPECT_EQ(sheet.Slope[0].ForeColor, 0x800000U);
     EXPECT_EQ(sheet.Kneewall[0].ForeColor, kSystemGrayTextColor) << "off and grey";
     EXPECT_EQ(sheet.Kneewall[0].BackColor, 0xC0FFFFU);
-    EXPECT_EQ(document.LineColor, 0x00FF00U);
+    EXPECT_EQ(document.preferences.LineColor, 0x00FF00U);
     bool green = false;
-    for (const auto& drawn : document.board.Recorder.Operations()) {
+    for (const auto& drawn : document.Board().Recorder.Operations()) {
       const auto* line = std::get_if<LineOp>(&drawn);
       green = green || (line != nullptr && line->Pen.Color == 0x00FF00);
     }
     EXPECT_TRUE(green) << "drawn again";
   });
-  EXPECT_EQ(document.DxfDimColor, 3);
-  EXPECT_EQ(document.LineWidth, 4);
-  EXPECT_TRUE(document.PrintAllBlack && document.RotateFonts);
-  EXPECT_EQ(double{document.DxfTextSize}, 4);
-  EXPECT_EQ(double{document.DxfMetricTextSize}, 2);
+  EXPECT_EQ(document.preferences.DxfDimColor, 3);
+  EXPECT_EQ(document.preferences.LineWidth, 4);
+  EXPECT_TRUE(document.PrintAllBlack && document.preferences.RotateFonts);
+  EXPECT_EQ(double{document.preferences.DxfTextSize}, 4);
+  EXPECT_EQ(double{document.preferences.DxfMetricTextSize}, 2);
   EXPECT_FALSE(store.Get("Colors", "LineColor", "")) << "stored at the end of the session";
-  document.Form_Unload();
+  Close(document);
   EXPECT_EQ(store.Get("Pitchcraft", "Colors", "LineColor"), "65280");
 }
 
 TEST_F(OptionsTest, CalculatedFieldsKeepTheirOwnColor) {
-  document.sheet.RoofList.SetListIndex(6);
-  document.cboType_Click();
+  document.design.sheet.RoofList.SetListIndex(6);
+  document.Act("cboType_Click", &RoofPicked);
   sheet.Projection.Calculated = true;
   Options([](OptionsForm& form) {
     EXPECT_TRUE(form.SetColor(kCalcText, 0x00FF00));
     form.Apply();
   });
   EXPECT_EQ(sheet.Projection.ForeColor, 0x00FF00U);
-  EXPECT_EQ(sheet.Face.ForeColor, document.CtlForeColor);
+  EXPECT_EQ(sheet.Face.ForeColor, document.preferences.CtlForeColor);
 }
 
 TEST_F(OptionsTest, SystemColorsAreThoseOfTheFieldsAlone) {
@@ -111,11 +111,11 @@ TEST_F(OptionsTest, SystemColorsAreThoseOfTheFieldsAlone) {
     EXPECT_TRUE(form.SetColor(kBackground, 0x404040));
     form.Apply();
   });
-  EXPECT_TRUE(document.UseSystemColors);
-  EXPECT_EQ(document.CtlBackColor, kSystemWindowColor);
-  EXPECT_EQ(document.CtlForeColor, kSystemWindowTextColor);
-  EXPECT_EQ(document.CtlCalcColor, kSystemWindowTextColor);
-  EXPECT_EQ(document.BackColor, 0x404040U);
+  EXPECT_TRUE(document.preferences.UseSystemColors);
+  EXPECT_EQ(document.preferences.CtlBackColor, kSystemWindowColor);
+  EXPECT_EQ(document.preferences.CtlForeColor, kSystemWindowTextColor);
+  EXPECT_EQ(document.preferences.CtlCalcColor, kSystemWindowTextColor);
+  EXPECT_EQ(document.preferences.BackColor, 0x404040U);
 }
 
 TEST_F(OptionsTest, WhatIsNoColorIsRefused) {
@@ -146,26 +146,26 @@ TEST_F(OptionsTest, ATextsizeThatNoDrawingHasIsToldAndNotTaken) {
       EXPECT_EQ(form.DxfTextSize.Value(), 2) << text;
     });
     EXPECT_EQ(dialogs.messages.size(), 1U) << text;
-    EXPECT_EQ(double{document.DxfTextSize}, 2) << text;
+    EXPECT_EQ(double{document.preferences.DxfTextSize}, 2) << text;
   }
 }
 
 TEST_F(OptionsTest, ATextsizeThatIsNotTouchedIsNotRounded) {
-  document.DxfTextSize = 2.0301;
+  document.preferences.DxfTextSize = 2.0301;
   Options([](OptionsForm& form) { form.Apply(); });
-  EXPECT_EQ(double{document.DxfTextSize}, double{Single(2.0301)});
+  EXPECT_EQ(double{document.preferences.DxfTextSize}, double{Single(2.0301)});
 }
 
 TEST_F(OptionsTest, MetricHasItsOwnTextsizeAndLists) {
-  document.mnuMetric_Click();
+  ToggleUnits(document);
   Options([](OptionsForm& form) {
     EXPECT_EQ(form.SlopeList.RowCount(), 50);
     form.DxfTextSize.SetText("60 mm");
     form.SlopeList.SetCell(0, 0, "flat");
     form.Apply();
   });
-  EXPECT_EQ(double{document.DxfMetricTextSize}, 60);
-  EXPECT_EQ(double{document.DxfTextSize}, 2);
+  EXPECT_EQ(double{document.preferences.DxfMetricTextSize}, 60);
+  EXPECT_EQ(double{document.preferences.DxfTextSize}, 2);
   EXPECT_TRUE(Exists("SlopeM.dat"));
   EXPECT_FALSE(Exists("Slope.dat"));
 }
@@ -194,7 +194,7 @@ TEST_F(OptionsTest, AnEditedListIsBackedUpWrittenAndShown) {
     EXPECT_EQ(field->List()[0].Caption, "4x6");
   }
   EXPECT_FALSE(Exists("Slope.dat")) << "the other list was not changed";
-  EXPECT_EQ(double{document.Rafter1.Depth}, 7.25) << "the list changes no size";
+  EXPECT_EQ(double{document.design.Rafter1.Depth}, 7.25) << "the list changes no size";
 }
 
 TEST_F(OptionsTest, TheBackupBringsTheListBack) {
@@ -205,7 +205,7 @@ TEST_F(OptionsTest, TheBackupBringsTheListBack) {
   });
   EXPECT_TRUE(sheet.Slope[0].List().empty());
   std::filesystem::rename(folder / "Slope.old", folder / "Slope.dat");
-  document.DefaultSlopeList();
+  FillLists(document);
   ASSERT_EQ(sheet.Slope[2].List().size(), 1U);
   EXPECT_EQ(sheet.Slope[2].List()[0].Left, 6);
 }
@@ -269,14 +269,14 @@ TEST(OptionsWithoutAFolder, AChangedListIsToldAndWrittenNowhere) {
   FormDialogs dialogs;
   MemoryStore store;
   Document document({dialogs, store, {}});
-  document.Form_Load();
+  Start(document);
   dialogs.On<OptionsForm>([](OptionsForm& form) {
     form.LumberList.DeleteRow(0);
     form.Apply();
   });
-  document.mnuViewOptions_Click();
+  ShowOptions(document);
   EXPECT_EQ(dialogs.messages, std::vector<std::string>{"Path not found - 76"});
-  EXPECT_EQ(document.sheet.Common[0].List().size(), 15U);
+  EXPECT_EQ(document.design.sheet.Common[0].List().size(), 15U);
 }
 
 TEST(OptionsColors, NumbersOfCadProgramsAsScreenColors) {
@@ -304,17 +304,17 @@ TEST(OptionsColors, EveryPageCanBeDrawnAgainByApply) {
     FormDialogs dialogs;
     MemoryStore store;
     Document document({dialogs, store, {}});
-    document.Form_Load();
+    Start(document);
     Actions actions(document);
-    document.sheet.RoofList.SetListIndex(roof);
-    document.cboType_Click();
+    document.design.sheet.RoofList.SetListIndex(roof);
+    document.Act("cboType_Click", &RoofPicked);
     dialogs.On<OptionsForm>([](OptionsForm& form) { form.Apply(); });
-    const double span = document.Rafter1.Span;
+    const double span = document.design.Rafter1.Span;
     for (int page = 0; !actions.Page("VSTab(0)", page); ++page) {
-      document.mnuViewOptions_Click();
-      EXPECT_EQ(document.CurrentTab, page);
+      ShowOptions(document);
+      EXPECT_EQ(PageShown(document.design), page);
     }
-    EXPECT_EQ(double{document.Rafter1.Span}, span) << roof;
+    EXPECT_EQ(double{document.design.Rafter1.Span}, span) << roof;
     EXPECT_TRUE(dialogs.messages.empty()) << roof << ": " << dialogs.messages[0];
   }
 }

@@ -6,27 +6,27 @@ namespace {
 using PagesTest = DocumentTest;
 
 TEST_F(PagesTest, APageDrawsOnItsPicture) {
-  EXPECT_EQ(document.CurrentTab, 0);
-  EXPECT_EQ(document.board.Recorder.Target()->ScaleWidth, document.Picture1.Place.Width);
+  EXPECT_EQ(PageShown(document.design), 0);
+  EXPECT_EQ(document.Board().Recorder.Target()->ScaleWidth, document.Layout().picture1.Width);
   Page(1);
-  EXPECT_EQ(document.CurrentTab, 1);
-  EXPECT_EQ(document.board.Recorder.Target()->ScaleWidth, document.Picture3.Place.Width);
-  EXPECT_TRUE(document.DrawingExists);
-  EXPECT_FALSE(document.board.Recorder.Operations().empty());
+  EXPECT_EQ(PageShown(document.design), 1);
+  EXPECT_EQ(document.Board().Recorder.Target()->ScaleWidth, document.Layout().picture3.Width);
+  EXPECT_TRUE(document.HasFigure());
+  EXPECT_FALSE(document.Board().Recorder.Operations().empty());
 }
 
 TEST_F(PagesTest, ADrawingThatDoesNotExistIsAnEmptyRecording) {
   Pick("cboType", "Octagon");
-  EXPECT_FALSE(document.DrawingExists);
-  EXPECT_TRUE(document.board.Recorder.IsClosed());
-  EXPECT_TRUE(document.board.Recorder.Operations().empty());
+  EXPECT_FALSE(document.HasFigure());
+  EXPECT_TRUE(document.Board().Recorder.IsClosed());
+  EXPECT_TRUE(document.Board().Recorder.Operations().empty());
 }
 
 TEST_F(PagesTest, TheCommonPageOfAHipPutsTheHipBack) {
   Pick("cboType", "Hip");
   Page(1);
-  EXPECT_EQ(rafter.RafterType, RafterType::kHip);
-  EXPECT_TRUE(document.DrawingExists);
+  EXPECT_EQ(rafter.RafterType, Member::kHip);
+  EXPECT_TRUE(document.HasFigure());
   EXPECT_TRUE(menus.PopUp1LayoutCenter.Visible);
   EXPECT_FALSE(menus.HipLayoutOverhangsEqual.Visible);
 }
@@ -42,7 +42,7 @@ TEST_F(PagesTest, SpacingShowsOnTheLayoutPageAlone) {
 
 std::string Shown(const Document& document) {
   std::string words;
-  for (const DrawOp& operation : document.board.Recorder.Finished()) {
+  for (const DrawOp& operation : document.Board().Recorder.Finished()) {
     if (const auto* text = std::get_if<TextOp>(&operation)) words += text->Text + "\n";
   }
   return words;
@@ -52,15 +52,15 @@ TEST_F(PagesTest, AHipHasADrawingOnEveryPage) {
   Pick("cboType", "Hip");
   for (int page = 0; page < 4; ++page) {
     Page(page);
-    EXPECT_FALSE(document.board.Recorder.Finished().empty()) << page;
+    EXPECT_FALSE(document.Board().Recorder.Finished().empty()) << page;
   }
   Page(0);
   Type("LWSlope(0)", "6 | 12");
   Type("LWSlope(2)", "9 | 12");
   for (int page = 0; page < 5; ++page) {
     Page(page);
-    EXPECT_FALSE(document.board.Recorder.Finished().empty()) << page;
-    EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip) << page;
+    EXPECT_FALSE(document.Board().Recorder.Finished().empty()) << page;
+    EXPECT_EQ(rafter.RafterType, Member::kBastardHip) << page;
   }
   const char* const titles[] = {" 6/12\n", " 9/12\n", " 4.99/12\n"};
   for (int page = 1; page < 4; ++page) {
@@ -139,7 +139,7 @@ TEST_F(PagesTest, TooManyJacksAreOneMessageAndABlank) {
   around.dialogs.messages.clear();
   Page(3);
   EXPECT_EQ(around.dialogs.messages.size(), 1U);
-  EXPECT_TRUE(document.board.Recorder.Finished().empty());
+  EXPECT_TRUE(document.Board().Recorder.Finished().empty());
 }
 
 TEST_F(PagesTest, APageThatIsNotThereIsRefused) {
@@ -147,20 +147,20 @@ TEST_F(PagesTest, APageThatIsNotThereIsRefused) {
   EXPECT_TRUE(actions.Page("VSTab(0)", -1));
   EXPECT_TRUE(actions.Page("VSTab(2)", 0));
   EXPECT_TRUE(actions.Page("cboType", 0));
-  EXPECT_EQ(document.CurrentTab, 0);
+  EXPECT_EQ(PageShown(document.design), 0);
 }
 
 TEST_F(PagesTest, TheFocusGoesToTheSlopeUnlessADialogHasIt) {
-  document.FocusRequest.clear();
+  document.window.FocusRequest.clear();
   Page(0);
-  EXPECT_EQ(document.FocusRequest, "LWSlope(0)");
+  EXPECT_EQ(document.window.FocusRequest, "LWSlope(0)");
   Click("mnuSettingsDegrees");
   Page(0);
-  EXPECT_EQ(document.FocusRequest, "cboDegrees(0)");
-  document.FocusRequest.clear();
-  document.DialogIsActive = true;
+  EXPECT_EQ(document.window.FocusRequest, "cboDegrees(0)");
+  document.window.FocusRequest.clear();
+  document.window.DialogIsActive = true;
   Page(0);
-  EXPECT_EQ(document.FocusRequest, "");
+  EXPECT_EQ(document.window.FocusRequest, "");
 }
 
 TEST_F(PagesTest, TheInnerTabBringsTheLockMenusInLine) {
@@ -176,26 +176,26 @@ TEST_F(PagesTest, AClickOnADualSlopeChoosesTheRoofUnderIt) {
   Pick("cboType", "Dual Slope");
   Type("FtSpan(0)", "10'");
   Type("FtSpan(1)", "30'");
-  const int width = document.Picture1.Place.Width;
-  EXPECT_EQ(document.Picture_MouseDown(1, kLeftButton, width / 2, 100), nullptr);
+  const int width = document.Layout().picture1.Width;
+  EXPECT_EQ(PressOnFigure(document, kLeftButton, width / 2), nullptr);
   EXPECT_EQ(sheet.Tabs[1].Page, 1);
-  document.Picture_MouseDown(1, kLeftButton, width / 8, 100);
+  PressOnFigure(document, kLeftButton, width / 8);
   EXPECT_EQ(sheet.Tabs[1].Page, 0);
 }
 
 TEST_F(PagesTest, TheRightButtonBringsThePopupOfTheRoof) {
-  EXPECT_EQ(document.Picture_MouseDown(1, kRightButton, 0, 0), &menus.PopUp1);
+  EXPECT_EQ(PressOnFigure(document, kRightButton, 0), &menus.PopUp1);
   EXPECT_TRUE(menus.PopUp1PlumbCut.Visible);
   EXPECT_FALSE(menus.PopUp1Ledger[0].Visible);
   EXPECT_FALSE(menus.PopUp1LayoutCenter.Visible);
   Pick("cboType", "Blind Valley");
-  document.Picture_MouseDown(1, kRightButton, 0, 0);
+  PressOnFigure(document, kRightButton, 0);
   EXPECT_FALSE(menus.PopUp1SquareCut.Visible);
   Pick("cboType", "Dutch Hip");
-  document.Picture_MouseDown(1, kRightButton, 0, 0);
+  PressOnFigure(document, kRightButton, 0);
   EXPECT_TRUE(menus.PopUp1Ledger[1].Visible);
   Pick("cboType", "Gambrel Roof");
-  EXPECT_EQ(document.Picture_MouseDown(3, kRightButton, 0, 0), &menus.PopUp2);
+  EXPECT_EQ(PressOnFigure(document, kRightButton, 0), &menus.PopUp2);
 }
 
 TEST_F(PagesTest, AFigureTooLargeToDrawIsOneMessageAndABlank) {
@@ -205,9 +205,9 @@ TEST_F(PagesTest, AFigureTooLargeToDrawIsOneMessageAndABlank) {
   ASSERT_EQ(around.dialogs.messages.size(), 1U);
   EXPECT_EQ(around.dialogs.messages[0].first, "DrawRafter");
   EXPECT_EQ(around.dialogs.messages[0].second, "Overflow - 6");
-  EXPECT_TRUE(document.board.Recorder.Operations().empty());
+  EXPECT_TRUE(document.Board().Recorder.Operations().empty());
   Type("FtSpan(0)", "12'");
-  EXPECT_FALSE(document.board.Recorder.Operations().empty());
+  EXPECT_FALSE(document.Board().Recorder.Operations().empty());
   EXPECT_EQ(around.dialogs.messages.size(), 1U);
 }
 

@@ -8,8 +8,7 @@
 #include <vector>
 
 #include "answering_dialogs.h"
-#include "document/actions.h"
-#include "document/document.h"
+#include "support/document_api.h"
 #include "support/scratch_folder.h"
 
 namespace pitchcraft {
@@ -46,7 +45,7 @@ struct SheetText {
 
 class PaperTest : public ::testing::Test {
  protected:
-  PaperTest() { document.Form_Load(); }
+  PaperTest() { Start(document); }
 
   void Type(const char* name, const char* text) { Expect(actions.Type(name, text)); }
   void Pick(const char* name, const char* item) { Expect(actions.Pick(name, item)); }

@@ -122,7 +122,7 @@ TEST_F(PrintTest, AHipsCommonPrintsAsACommonAndKeepsItsType) {
   Pick("cboType", "Hip");
   Page(1);
   EXPECT_EQ(TitleOf(Print()), "Hip Roof - Common Rafter");
-  EXPECT_EQ(document.Rafter1.RafterType, RafterType::kHip);
+  EXPECT_EQ(document.design.Rafter1.RafterType, Member::kHip);
 }
 
 TEST_F(PrintTest, ValleysAreNamedByTheirKind) {
@@ -141,7 +141,7 @@ TEST_F(PrintTest, ADualSlopesRearRafterStatesTheRearFields) {
   Page(2);
   const PrintedPage& sheet = Print();
   EXPECT_EQ(TitleOf(sheet), "Dual Slope Roof - Rear Rafter");
-  EXPECT_EQ(ColumnsOf(sheet).at(0).at(1), "Run = " + document.sheet.Span[1].Text());
+  EXPECT_EQ(ColumnsOf(sheet).at(0).at(1), "Run = " + document.design.sheet.Span[1].Text());
 }
 
 TEST_F(PrintTest, AMetricSheetIsMetricOnItsPaper) {
@@ -187,16 +187,16 @@ TEST_F(PrintTest, TheSheetIsLaidOutInTwips) {
 }
 
 TEST_F(PrintTest, LongNamesAndManyRowsStayOnThePage) {
-  document.ProjectName = std::string(300, 'W');
+  document.project.Name = std::string(300, 'W');
   Pick("cboType", "Hip");
   Click("mnuSettingsSquareCut");
   Type("FtSpan(0)", "123456789'");
   Page(2);
-  if (document.board.Recorder.Operations().empty()) Type("FtSpan(0)", "1234'");
+  if (document.Board().Recorder.Operations().empty()) Type("FtSpan(0)", "1234'");
   ExpectOnThePage(Print());
-  document.ProjectName = "H\u00F6he \u201CS\u00FCd\u201D";
+  document.project.Name = "H\u00F6he \u201CS\u00FCd\u201D";
   const PrintedPage& sheet = Print();
-  EXPECT_EQ(RowsOf(sheet)[1].Text, document.ProjectName);
+  EXPECT_EQ(RowsOf(sheet)[1].Text, document.project.Name);
 }
 
 std::vector<DrawColor> ColorsOf(const Recording& drawing, bool texts) {
@@ -219,19 +219,19 @@ TEST_F(PrintTest, ColorsSuitThePaper) {
   EXPECT_EQ(ColorsOf(figure.Drawing, false), (std::vector<DrawColor>{0, kRed}))
       << "white lines come out black";
   EXPECT_EQ(ColorsOf(figure.Drawing, true), std::vector<DrawColor>{kYellow});
-  document.LineColor = 0xFF0000;
+  document.preferences.LineColor = 0xFF0000;
   EXPECT_EQ(ColorsOf(FigureOf(Print()).Drawing, false), (std::vector<DrawColor>{kRed, 0xFF0000}));
   document.PrintAllBlack = true;
   EXPECT_EQ(ColorsOf(FigureOf(Print()).Drawing, false), std::vector<DrawColor>{0});
   document.PrintAllBlack = false;
   printer.color = false;
   EXPECT_EQ(ColorsOf(FigureOf(Print()).Drawing, true), std::vector<DrawColor>{0});
-  EXPECT_EQ(document.DimColor, 0xFFU) << "the screen keeps its colours";
+  EXPECT_EQ(document.preferences.DimColor, 0xFFU) << "the screen keeps its colours";
 }
 
 TEST_F(PrintTest, TheLineWeightIsOfThePaper) {
   const auto widest = [&](int weight) {
-    document.LineWidth = weight;
+    document.preferences.LineWidth = weight;
     const PageLayer& figure = FigureOf(Print());
     double width = 0;
     for (const DrawOp& operation : figure.Drawing) {
@@ -257,7 +257,7 @@ TEST_F(PrintTest, TurnedFontsTurnTheDimensionsTheOtherWay) {
   };
   Expect6In12();
   const std::vector<double> usual = angles();
-  document.RotateFonts = true;
+  document.preferences.RotateFonts = true;
   std::vector<double> turned = angles();
   ASSERT_EQ(turned.size(), usual.size());
   int changed = 0;
@@ -271,12 +271,12 @@ TEST_F(PrintTest, TurnedFontsTurnTheDimensionsTheOtherWay) {
 TEST_F(PrintTest, TheScreenKeepsItsDrawing) {
   Expect6In12();
   Page(1);
-  const Recording before = document.board.Recorder.Operations();
-  const std::size_t dimensions = document.board.DimensionPoints.size();
+  const Recording before = document.Board().Recorder.Operations();
+  const std::size_t dimensions = document.Board().DimensionPoints.size();
   Print();
-  EXPECT_EQ(document.board.Recorder.Operations(), before);
-  EXPECT_EQ(document.board.DimensionPoints.size(), dimensions);
-  EXPECT_TRUE(document.Imperial());
+  EXPECT_EQ(document.Board().Recorder.Operations(), before);
+  EXPECT_EQ(document.Board().DimensionPoints.size(), dimensions);
+  EXPECT_TRUE(!document.design.Metric);
 }
 
 TEST_F(PrintTest, APrinterThatIsGoneIsTold) {
@@ -313,9 +313,9 @@ TEST_F(PrintTest, PageSetupAndPopupsReachThePrinter) {
 
 TEST_F(PrintTest, WithoutAPrinterAMessageSaysSo) {
   Document lonely({dialogs, store, folder.Path()});
-  lonely.Form_Load();
-  lonely.mnuFilePageSetup_Click();
-  lonely.mnuFilePrint_Click();
+  Start(lonely);
+  SetUpPage(lonely);
+  PrintPageShown(lonely);
   EXPECT_EQ(dialogs.messages, std::vector<std::string>{"There is no printer."});
 }
 

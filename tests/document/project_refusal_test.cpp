@@ -20,13 +20,13 @@ class RefusalTest : public ProjectTest {
  protected:
   void ExpectRefused(const std::string& path, const char* message) {
     around().clear();
-    EXPECT_FALSE(session.document.LoadRafter(path));
+    EXPECT_FALSE(LoadProject(session.document, path));
     ASSERT_EQ(around().size(), 1U);
     EXPECT_EQ(around()[0].first, "Load Rafter");
     EXPECT_EQ(around()[0].second, message);
-    EXPECT_EQ(session.document.LoadingProject, 0);
-    EXPECT_EQ(session.document.Title, "Pitchcraft - [Untitled]");
-    EXPECT_TRUE(session.document.menus.FileMRU[0].Caption.empty());
+    EXPECT_EQ(session.document.design.Loading, 0);
+    EXPECT_EQ(session.document.window.Title, "Pitchcraft - [Untitled]");
+    EXPECT_TRUE(session.document.design.menus.FileMRU[0].Caption.empty());
   }
   std::vector<std::pair<std::string, std::string>>& around() { return session.around.dialogs.messages; }
 
@@ -61,21 +61,21 @@ TEST_F(RefusalTest, AHundredMegabytes) {
 
 TEST_F(RefusalTest, UnitsAreAppliedBeforeARoofIsRefused) {
   ExpectRefused(Write("metric.pcf", "[Settings]\r\nUnits=1\r\nRafterType=7\r\n"), kNoRoof);
-  EXPECT_EQ(session.document.UnitRun, 1000) << "a refused file leaves the sheet as far as it got";
+  EXPECT_TRUE(session.document.design.Metric) << "a refused file leaves the sheet as far as it got";
 }
 
 TEST_F(RefusalTest, OldCodeOfTheBayIsRead) {
-  ASSERT_TRUE(session.document.LoadRafter(Write("bay.pcf", "[Settings]\r\nRafterType=6\r\n")));
-  EXPECT_EQ(session.document.RoofType, roof::kBay);
-  EXPECT_EQ(session.document.sheet.Face.Value(), 48);
+  ASSERT_TRUE(LoadProject(session.document, Write("bay.pcf", "[Settings]\r\nRafterType=6\r\n")));
+  EXPECT_EQ(session.document.design.RoofType, Roof::kBay);
+  EXPECT_EQ(session.document.design.sheet.Face.Value(), 48);
 }
 
 TEST_F(RefusalTest, MissingKeysTakeTheirDefaults) {
-  ASSERT_TRUE(session.document.LoadRafter(Write("short.pcf", "[Settings]\r\nSlope=7\r\n")));
-  EXPECT_EQ(session.document.RoofType, roof::kGable);
-  EXPECT_EQ(double{session.document.Rafter1.Slope}, 7);
-  EXPECT_EQ(double{session.document.Rafter1.Span}, 144);
-  EXPECT_EQ(double{session.document.Rafter1.Depth}, 5.5);
+  ASSERT_TRUE(LoadProject(session.document, Write("short.pcf", "[Settings]\r\nSlope=7\r\n")));
+  EXPECT_EQ(session.document.design.RoofType, Roof::kGable);
+  EXPECT_EQ(double{session.document.design.Rafter1.Slope}, 7);
+  EXPECT_EQ(double{session.document.design.Rafter1.Span}, 144);
+  EXPECT_EQ(double{session.document.design.Rafter1.Depth}, 5.5);
 }
 
 TEST_F(RefusalTest, EveryFormThatTheReaderTakes) {
@@ -89,9 +89,9 @@ TEST_F(RefusalTest, EveryFormThatTheReaderTakes) {
   for (const std::string& form : forms) {
     SCOPED_TRACE(form);
     ProjectSession own;
-    ASSERT_TRUE(own.document.LoadRafter(Write("form.pcf", form)));
-    EXPECT_EQ(own.document.RoofType, roof::kShed);
-    EXPECT_EQ(double{own.document.Rafter1.Slope}, 5);
+    ASSERT_TRUE(LoadProject(own.document, Write("form.pcf", form)));
+    EXPECT_EQ(own.document.design.RoofType, Roof::kShed);
+    EXPECT_EQ(double{own.document.design.Rafter1.Slope}, 5);
   }
 }
 
@@ -100,13 +100,13 @@ TEST_F(RefusalTest, AFileCutAnywhere) {
   for (const ProjectCase& roof : AllProjectRoofs()) {
     ProjectSession writer;
     writer.Enter(roof);
-    ASSERT_TRUE(writer.document.SaveRafter(PathOf("whole.pcf")));
+    ASSERT_TRUE(SaveProject(writer.document, PathOf("whole.pcf")));
     const std::string whole = Read("whole.pcf");
     ProjectSession reader;
     for (std::size_t length = 0; length < whole.size(); length += 7) {
       reader.around.dialogs.messages.clear();
-      const bool loaded = reader.document.LoadRafter(Write("cut.pcf", whole.substr(0, length)));
-      EXPECT_EQ(reader.document.LoadingProject, 0);
+      const bool loaded = LoadProject(reader.document, Write("cut.pcf", whole.substr(0, length)));
+      EXPECT_EQ(reader.document.design.Loading, 0);
       // One that is opened may tell that its hips would cross, with the defaults in it.
       EXPECT_TRUE(loaded || reader.around.dialogs.messages.size() == 1) << roof.name << " cut at " << length;
     }
@@ -119,7 +119,7 @@ TEST_F(RefusalTest, PathsThatTakeNoFile) {
        {std::string(), PathOf("folder.pcf"), PathOf("no/such/house.pcf"), std::string("/proc/house.pcf"),
         std::string("/dev/null/house.pcf"), PathOf(std::string(300, 'x'))}) {
     around().clear();
-    EXPECT_FALSE(session.document.SaveRafter(path)) << path;
+    EXPECT_FALSE(SaveProject(session.document, path)) << path;
     ASSERT_EQ(around().size(), 1U);
     EXPECT_EQ(around()[0], std::make_pair(std::string("Save Rafter"), std::string(kCannotWrite)));
   }
@@ -142,12 +142,12 @@ int WithDiskOf(rlim_t bytes, Step step) {
 
 TEST_F(RefusalTest, AFullDiskLeavesTheOldFile) {
   const std::string path = PathOf("house.pcf");
-  ASSERT_TRUE(session.document.SaveRafter(path));
+  ASSERT_TRUE(SaveProject(session.document, path));
   const std::string old = Read("house.pcf");
   session.Enter({"Other", false, {{"type", "FtSpan(0)", "200"}}});
   for (const rlim_t disk : {0U, 1U, 100U, 400U}) {
     const int result = WithDiskOf(disk, [&] {
-      const bool saved = session.document.SaveRafter(path);
+      const bool saved = SaveProject(session.document, path);
       return !saved && session.LastMessage() == kCannotWrite ? 0 : 1;
     });
     EXPECT_EQ(result, 0) << "a disk of " << disk << " bytes";
@@ -162,9 +162,9 @@ TEST_F(RefusalTest, AKillLeavesTheOldFileOrTheNewOne) {
   const std::string path = PathOf("house.pcf");
   ProjectSession other;
   other.Enter({"Other", false, {{"pick", "cboType", "Hip"}, {"type", "FtSpan(0)", "200"}}});
-  ASSERT_TRUE(other.document.SaveRafter(path));
+  ASSERT_TRUE(SaveProject(other.document, path));
   const std::string hip = Read("house.pcf");
-  ASSERT_TRUE(session.document.SaveRafter(path));
+  ASSERT_TRUE(SaveProject(session.document, path));
   const std::string gable = Read("house.pcf");
   ASSERT_NE(gable, hip);
   std::mt19937 random(11);  // NOLINT: the same moments on every run
@@ -174,8 +174,8 @@ TEST_F(RefusalTest, AKillLeavesTheOldFileOrTheNewOne) {
     const pid_t child = fork();
     if (child == 0) {
       for (;;) {
-        other.document.SaveRafter(path);
-        session.document.SaveRafter(path);
+        SaveProject(other.document, path);
+        SaveProject(session.document, path);
       }
     }
     usleep(random() % 4000);
@@ -191,11 +191,11 @@ TEST_F(RefusalTest, AKillLeavesTheOldFileOrTheNewOne) {
 
 TEST_F(RefusalTest, ALinkStaysALinkAndRightsStay) {
   const std::string path = PathOf("house.pcf");
-  ASSERT_TRUE(session.document.SaveRafter(path));
+  ASSERT_TRUE(SaveProject(session.document, path));
   std::filesystem::permissions(path,
                                std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
   std::filesystem::create_symlink(path, folder / "link.pcf");
-  ASSERT_TRUE(session.document.SaveRafter(PathOf("link.pcf")));
+  ASSERT_TRUE(SaveProject(session.document, PathOf("link.pcf")));
   EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.pcf"));
   EXPECT_EQ(std::filesystem::status(path).permissions(),
             std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);

@@ -18,12 +18,9 @@ std::string TextOf(const MemberValue& value) {
   return text.str();
 }
 
-int CodeOf(Document& document) {
-  return ProjectRoofCode(
-      {document.RoofType, document.Rafter1, document.Rafter2, document.sheet, document.menus});
-}
+Roof CodeOf(const Document& document) { return RoofKind(document.design); }
 
-bool IsListed(int roofCode, const char* member) {
+bool IsListed(Roof roofCode, const char* member) {
   for (const ProjectLoss& loss : ProjectLosses()) {
     if (loss.Roofs.Has(roofCode) && loss.Names(member)) return true;
   }
@@ -40,15 +37,15 @@ std::set<std::string> Differences(const Rafter& one, const Rafter& other) {
   return names;
 }
 
-void ExpectOnlyListed(const Rafter& before, const Rafter& after, int roofCode, const char* which) {
+void ExpectOnlyListed(const Rafter& before, const Rafter& after, Roof roofCode, const char* which) {
   for (const std::string& name : Differences(before, after)) {
     EXPECT_TRUE(IsListed(roofCode, name.c_str())) << which << "." << name << " came back different";
   }
 }
 
 /// The text without the key that a Dutch hip writes and does not read.
-std::string WithoutIgnoredKey(const std::string& text, int roofCode) {
-  const std::size_t start = roofCode == roof::kDutchHip ? text.find("Span2=") : std::string::npos;
+std::string WithoutIgnoredKey(const std::string& text, Roof roofCode) {
+  const std::size_t start = roofCode == Roof::kDutchHip ? text.find("Span2=") : std::string::npos;
   return start == std::string::npos ? text : text.substr(0, start);
 }
 
@@ -73,38 +70,38 @@ void ExpectSameFields(Sheet& one, Sheet& other) {
 TEST_P(RoundTripTest, SavesTheSameBytesAndHoldsTheSameRafters) {
   ProjectSession first;
   first.Enter(GetParam());
-  ASSERT_TRUE(first.document.SaveRafter(PathOf("first.pcf"))) << first.LastMessage();
+  ASSERT_TRUE(SaveProject(first.document, PathOf("first.pcf"))) << first.LastMessage();
   ProjectSession second;
-  ASSERT_TRUE(second.document.LoadRafter(PathOf("first.pcf"))) << second.LastMessage();
+  ASSERT_TRUE(LoadProject(second.document, PathOf("first.pcf"))) << second.LastMessage();
   EXPECT_EQ(second.around.dialogs.messages.size(), 0U) << second.LastMessage();
-  EXPECT_EQ(second.document.LoadingProject, 0);
-  EXPECT_EQ(second.document.RoofType, first.document.RoofType);
-  EXPECT_EQ(second.document.UnitRun, first.document.UnitRun);
-  ExpectSameFields(first.document.sheet, second.document.sheet);
-  ASSERT_TRUE(second.document.SaveRafter(PathOf("second.pcf")));
-  const int code = CodeOf(first.document);
+  EXPECT_EQ(second.document.design.Loading, 0);
+  EXPECT_EQ(second.document.design.RoofType, first.document.design.RoofType);
+  EXPECT_EQ(second.document.design.Metric, first.document.design.Metric);
+  ExpectSameFields(first.document.design.sheet, second.document.design.sheet);
+  ASSERT_TRUE(SaveProject(second.document, PathOf("second.pcf")));
+  const Roof code = CodeOf(first.document);
   EXPECT_EQ(WithoutIgnoredKey(Read("first.pcf"), code), WithoutIgnoredKey(Read("second.pcf"), code));
-  ExpectOnlyListed(first.document.Rafter1, second.document.Rafter1, code, "Rafter1");
+  ExpectOnlyListed(first.document.design.Rafter1, second.document.design.Rafter1, code, "Rafter1");
   if (GetParam().twoRafters)
-    ExpectOnlyListed(first.document.Rafter2, second.document.Rafter2, code, "Rafter2");
+    ExpectOnlyListed(first.document.design.Rafter2, second.document.design.Rafter2, code, "Rafter2");
 }
 
 // Whatever the session did before, the file decides; from the second saving on the bytes stay the same.
 TEST_P(RoundTripTest, AnEarlierRoofOfTheSessionLeavesNoTrace) {
   ProjectSession first;
   first.Enter(GetParam());
-  ASSERT_TRUE(first.document.SaveRafter(PathOf("first.pcf")));
+  ASSERT_TRUE(SaveProject(first.document, PathOf("first.pcf")));
   ProjectSession fresh;
-  ASSERT_TRUE(fresh.document.LoadRafter(PathOf("first.pcf")));
-  ASSERT_TRUE(fresh.document.SaveRafter(PathOf("fresh.pcf")));
+  ASSERT_TRUE(LoadProject(fresh.document, PathOf("first.pcf")));
+  ASSERT_TRUE(SaveProject(fresh.document, PathOf("fresh.pcf")));
   for (const ProjectCase& earlier : AllProjectRoofs()) {
     SCOPED_TRACE(earlier.name);
     ProjectSession used;
     used.Enter(earlier);
-    ASSERT_TRUE(used.document.LoadRafter(PathOf("first.pcf"))) << used.LastMessage();
-    ASSERT_TRUE(used.document.SaveRafter(PathOf("used.pcf")));
+    ASSERT_TRUE(LoadProject(used.document, PathOf("first.pcf"))) << used.LastMessage();
+    ASSERT_TRUE(SaveProject(used.document, PathOf("used.pcf")));
     EXPECT_EQ(Read("used.pcf"), Read("fresh.pcf"));
-    ExpectSameFields(fresh.document.sheet, used.document.sheet);
+    ExpectSameFields(fresh.document.design.sheet, used.document.design.sheet);
   }
 }
 
@@ -119,27 +116,27 @@ class LossTest : public WithFolder<::testing::Test> {
   /// Enters the roof in one session and opens it in another.
   void Take(const std::vector<ProjectAction>& actions) {
     before.Enter({"Loss", true, actions});
-    ASSERT_TRUE(before.document.SaveRafter(PathOf("loss.pcf")));
-    ASSERT_TRUE(after.document.LoadRafter(PathOf("loss.pcf"))) << after.LastMessage();
+    ASSERT_TRUE(SaveProject(before.document, PathOf("loss.pcf")));
+    ASSERT_TRUE(LoadProject(after.document, PathOf("loss.pcf"))) << after.LastMessage();
   }
 
   ProjectSession before, after;
 };
 
 TEST_F(LossTest, NumbersKeepSevenDigits) {
-  before.document.Rafter1.Span = 123.456789;
-  ASSERT_TRUE(before.document.SaveRafter(PathOf("loss.pcf")));
-  ASSERT_TRUE(after.document.LoadRafter(PathOf("loss.pcf")));
-  EXPECT_FLOAT_EQ(static_cast<float>(after.document.Rafter1.Span), 123.4568F);
-  EXPECT_NE(double{after.document.Rafter1.Span}, double{before.document.Rafter1.Span});
+  before.document.design.Rafter1.Span = 123.456789;
+  ASSERT_TRUE(SaveProject(before.document, PathOf("loss.pcf")));
+  ASSERT_TRUE(LoadProject(after.document, PathOf("loss.pcf")));
+  EXPECT_FLOAT_EQ(static_cast<float>(after.document.design.Rafter1.Span), 123.4568F);
+  EXPECT_NE(double{after.document.design.Rafter1.Span}, double{before.document.design.Rafter1.Span});
 }
 
 TEST_F(LossTest, TextsComeBackAsShown) {
   Take({{"pick", "cboType", "Blind Valley"}, {"type", "LWSlope(2)", "8.12345 | 12"}});
-  EXPECT_DOUBLE_EQ(before.document.sheet.Slope[2].LeftValue(), 8.12345);
-  EXPECT_NEAR(after.document.sheet.Slope[2].LeftValue(), 8.12345, 0.0001);
-  EXPECT_NE(after.document.sheet.Slope[2].LeftValue(), 8.12345);
-  EXPECT_EQ(after.document.sheet.Slope[2].LeftText(), before.document.sheet.Slope[2].LeftText());
+  EXPECT_DOUBLE_EQ(before.document.design.sheet.Slope[2].LeftValue(), 8.12345);
+  EXPECT_NEAR(after.document.design.sheet.Slope[2].LeftValue(), 8.12345, 0.0001);
+  EXPECT_NE(after.document.design.sheet.Slope[2].LeftValue(), 8.12345);
+  EXPECT_EQ(after.document.design.sheet.Slope[2].LeftText(), before.document.design.sheet.Slope[2].LeftText());
 }
 
 TEST_F(LossTest, HipOpensWithThePlainLayout) {
@@ -149,10 +146,10 @@ TEST_F(LossTest, HipOpensWithThePlainLayout) {
         {"click", "mnuHipLayoutCorners"}});
   EXPECT_NE(Read("loss.pcf").find("HipLayout=Corner\r\nOverhangsEqual=True\r\nJackMeasurement=True"),
             std::string::npos);
-  EXPECT_NE(double{before.document.Rafter1.HipShift}, 0) << "the overhangs were made equal";
-  EXPECT_EQ(double{after.document.Rafter1.HipShift}, 0);
-  EXPECT_LT(double{after.document.Rafter1.HipEndOverhang}, double{after.document.Rafter1.Overhang});
-  const Menus& menus = after.document.menus;
+  EXPECT_NE(double{before.document.design.Rafter1.HipShift}, 0) << "the overhangs were made equal";
+  EXPECT_EQ(double{after.document.design.Rafter1.HipShift}, 0);
+  EXPECT_LT(double{after.document.design.Rafter1.HipEndOverhang}, double{after.document.design.Rafter1.Overhang});
+  const Menus& menus = after.document.design.menus;
   for (const MenuItem* item :
        {&menus.HipLayoutCorners, &menus.PopUp1LayoutCorner, &menus.HipLayoutCornersFlush,
         &menus.HipLayoutOverhangsEqual, &menus.PopUp1OverhangsEqual, &menus.HipLayoutJackMeasurement,
@@ -165,58 +162,58 @@ TEST_F(LossTest, HipOpensWithThePlainLayout) {
 
 TEST_F(LossTest, HipEndAngleIsThatOfTheBoxOfRow2) {
   Take({{"pick", "cboType", "Octagon"}});
-  after.document.sheet.Degrees[2].SetText("33");
-  ASSERT_TRUE(after.document.SaveRafter(PathOf("other.pcf")));
-  ASSERT_TRUE(after.document.LoadRafter(PathOf("other.pcf")));
-  EXPECT_EQ(double{after.document.Rafter1.HipEndDegrees}, 33);
+  after.document.design.sheet.Degrees[2].SetText("33");
+  ASSERT_TRUE(SaveProject(after.document, PathOf("other.pcf")));
+  ASSERT_TRUE(LoadProject(after.document, PathOf("other.pcf")));
+  EXPECT_EQ(double{after.document.design.Rafter1.HipEndDegrees}, 33);
 }
 
 TEST_F(LossTest, AngleOfASlopeThatWasNeverEnteredIsThatOfTheBox) {
   Take({});
-  EXPECT_NEAR(before.document.Rafter1.degrees, 4.76, 0.001);
-  EXPECT_EQ(double{after.document.Rafter1.degrees}, 1);
+  EXPECT_NEAR(before.document.design.Rafter1.degrees, 4.76, 0.001);
+  EXPECT_EQ(double{after.document.design.Rafter1.degrees}, 1);
 }
 
 TEST_F(LossTest, KneewallOfOtherRoofsIsNotRead) {
   Take({{"check", "chkKneewall(0)", "on"}, {"type", "FtKneewall(0)", "40"}, {"pick", "cboType", "Valley"}});
-  EXPECT_EQ(double{before.document.Rafter1.Kneewall}, 40);
-  EXPECT_EQ(double{after.document.Rafter1.Kneewall}, 0);
+  EXPECT_EQ(double{before.document.design.Rafter1.Kneewall}, 40);
+  EXPECT_EQ(double{after.document.design.Rafter1.Kneewall}, 0);
 }
 
 TEST_F(LossTest, TheFrontKneewallBoxFollowsTheRearOne) {
   Take({{"check", "chkKneewall(0)", "on"}, {"type", "FtKneewall(0)", "40"}});
-  EXPECT_EQ(double{after.document.Rafter1.Kneewall}, 40) << "the kneewall itself comes back";
-  EXPECT_EQ(after.document.sheet.Kneewall[0].Value(), 40);
-  EXPECT_EQ(after.document.sheet.HasKneewall[0].Value, 0);
-  EXPECT_FALSE(after.document.sheet.Kneewall[0].Enabled);
+  EXPECT_EQ(double{after.document.design.Rafter1.Kneewall}, 40) << "the kneewall itself comes back";
+  EXPECT_EQ(after.document.design.sheet.Kneewall[0].Value(), 40);
+  EXPECT_EQ(after.document.design.sheet.HasKneewall[0].Value, 0);
+  EXPECT_FALSE(after.document.design.sheet.Kneewall[0].Enabled);
 }
 
 TEST_F(LossTest, SpacingOfRoofsWithoutLayoutIsTheUsualOne) {
-  before.document.sheet.Spacing.SetText("24\"");
-  before.document.cboSpacing_Click();
+  before.document.design.sheet.Spacing.SetText("24\"");
+  before.document.Act("cboSpacing_Click", &SpacingEntered);
   Take({});
-  EXPECT_EQ(double{before.document.Rafter1.spacing}, 24);
-  EXPECT_EQ(double{after.document.Rafter1.spacing}, 16);
+  EXPECT_EQ(double{before.document.design.Rafter1.spacing}, 24);
+  EXPECT_EQ(double{after.document.design.Rafter1.spacing}, 16);
 }
 
 TEST_F(LossTest, RidgeOfTheRearRafterIsTheUsualOne) {
   Take({{"pick", "cboType", "Dual Slope"}, {"type", "LWRidge", "0.75 | 9.25"}});
-  EXPECT_EQ(double{before.document.Rafter2.RidgeThickness}, 0.75);
-  EXPECT_EQ(double{after.document.Rafter1.RidgeThickness}, 0.75);
-  EXPECT_EQ(double{after.document.Rafter2.RidgeThickness}, 1.5);
+  EXPECT_EQ(double{before.document.design.Rafter2.RidgeThickness}, 0.75);
+  EXPECT_EQ(double{after.document.design.Rafter1.RidgeThickness}, 0.75);
+  EXPECT_EQ(double{after.document.design.Rafter2.RidgeThickness}, 1.5);
 }
 
 TEST_F(LossTest, LedgerOfADutchHipIsTheSessions) {
   Take({{"pick", "cboType", "Dutch Hip"}, {"click", "mnuDutchLedger(1)"}});
-  EXPECT_EQ(double{before.document.Rafter2.RidgeThickness}, 0);
-  EXPECT_EQ(double{after.document.Rafter2.RidgeThickness}, 1.5);
+  EXPECT_EQ(double{before.document.design.Rafter2.RidgeThickness}, 0);
+  EXPECT_EQ(double{after.document.design.Rafter2.RidgeThickness}, 1.5);
 }
 
 TEST_F(LossTest, SecondSpanOfADutchHipIsItsProjection) {
   Take({{"pick", "cboType", "Dutch Hip"}, {"type", "FtSpan(2)", "60"}});
-  EXPECT_EQ(double{before.document.Rafter2.Span}, 144);
-  EXPECT_EQ(double{after.document.Rafter2.Span}, 60);
-  EXPECT_EQ(after.document.sheet.Span[2].Value(), 60);
+  EXPECT_EQ(double{before.document.design.Rafter2.Span}, 144);
+  EXPECT_EQ(double{after.document.design.Rafter2.Span}, 60);
+  EXPECT_EQ(after.document.design.sheet.Span[2].Value(), 60);
 }
 
 }  // namespace

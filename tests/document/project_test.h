@@ -5,6 +5,7 @@
 #include <string>
 
 #include "../support/golden.h"
+#include "support/document_api.h"
 #include "document/null_surroundings.h"
 #include "project_case.h"
 
@@ -16,7 +17,7 @@ struct ProjectSession {
   Document document{around.Get()};
   Actions actions{document};
 
-  ProjectSession() { document.Form_Load(); }
+  ProjectSession() { Start(document); }
   void Enter(const ProjectCase& roof) {
     for (const ProjectAction& action : roof.actions) {
       const Refusal refusal = Perform(actions, action);

@@ -19,14 +19,14 @@ class RandomWalkTest : public DocumentTest {};
 
 /// What must hold whatever was done.
 void ExpectInOrder(const Document& document) {
-  const Sheet& sheet = document.sheet;
+  const Sheet& sheet = document.design.sheet;
   ASSERT_GE(sheet.Tabs[0].Page, 0);
   ASSERT_LT(sheet.Tabs[0].Page, sheet.Tabs[0].PageCount());
-  ASSERT_EQ(document.CurrentTab, sheet.Tabs[0].Page);
-  ASSERT_EQ(ListIndexOfRoof(document.RoofType), sheet.RoofList.ListIndex());
-  ASSERT_TRUE(document.board.Recorder.IsClosed());
-  ASSERT_NE(document.menus.Metric.Checked, document.menus.Imperial.Checked);
-  ASSERT_EQ(document.UnitRun, document.menus.Metric.Checked ? 1000 : 12);
+  ASSERT_EQ(PageShown(document.design), sheet.Tabs[0].Page);
+  ASSERT_EQ(ListIndexOfRoof(document.design.RoofType), sheet.RoofList.ListIndex());
+  ASSERT_TRUE(document.Board().Recorder.IsClosed());
+  ASSERT_NE(document.design.menus.Metric.Checked, document.design.menus.Imperial.Checked);
+  ASSERT_EQ(UnitRun(document.design), document.design.menus.Metric.Checked ? 1000 : 12);
   ASSERT_FALSE(sheet.HeelLock[0].Ticked() && sheet.SeatLock[0].Ticked());
   for (const AnyControl& any : sheet.Controls()) {
     if (auto* const* field = std::get_if<MeasureControl*>(&any)) {
@@ -55,9 +55,9 @@ TEST_F(RandomWalkTest, TheDocumentStaysInOrder) {
     ASSERT_FALSE(text.empty());
   }
   // Back to plain values: twice, since the units are a toggle.
-  document.mnuMetric_Click();
-  if (document.UnitRun != 12) document.mnuImperial_Click();
-  document.mnuSettingsRiseOverRun_Click();
+  ToggleUnits(document);
+  if (UnitRun(document.design) != 12) ClickMenu(document, document.design.menus.Imperial);
+  ClickMenu(document, document.design.menus.SettingsRiseOverRun);
   Type("LWSlope(0)", "6 | 12");
   EXPECT_NEAR(rafter.Length2, 171.898, 0.0005);
 }

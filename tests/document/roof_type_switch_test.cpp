@@ -11,14 +11,14 @@ TEST_F(RoofTypeSwitchTest, ValuesStayFromTypeToType) {
   Pick("cboType", "Valley");
   EXPECT_EQ(rafter.Slope, 5);
   EXPECT_EQ(rafter.Span, 192);
-  EXPECT_TRUE(document.toolBar["Valley"].Pressed);
-  EXPECT_FALSE(document.toolBar["Gable"].Pressed);
+  EXPECT_TRUE(document.design.toolBar["Valley"].Pressed);
+  EXPECT_FALSE(document.design.toolBar["Gable"].Pressed);
 }
 
 TEST_F(RoofTypeSwitchTest, AToolButtonPicksItsRoofOnTheFirstPage) {
   Page(1);
   Expect(actions.Press("Unequal Span Valley"));
-  EXPECT_EQ(document.RoofType, roof::kUnequalSpanValley);
+  EXPECT_EQ(document.design.RoofType, Roof::kUnequalSpanValley);
   EXPECT_EQ(sheet.RoofList.Text(), "Unequal Span Valley");
   EXPECT_EQ(sheet.Tabs[0].Page, 0);
 }
@@ -28,7 +28,7 @@ TEST_F(RoofTypeSwitchTest, ARearRoofCanBeReachedOnADualSlopeAlone) {
   Pick("cboType", "Dual Slope");
   Expect(actions.Page("VSTab(1)", 1));
   Type("FtSpan(1)", "10'");
-  EXPECT_EQ(document.Rafter2.Span, 120);
+  EXPECT_EQ(document.design.Rafter2.Span, 120);
   Pick("cboType", "Common Gable");
   EXPECT_EQ(sheet.Tabs[1].Page, 0);
   EXPECT_TRUE(actions.Type("FtSpan(1)", "9'"));
@@ -67,7 +67,7 @@ TEST_F(RoofTypeSwitchTest, TheLedgerBelongsToADutchHip) {
   EXPECT_TRUE(sheet.Ledger.Visible);
   Pick("cboLedger", "Don't use Ledger");
   EXPECT_TRUE(menus.DutchLedger[1].Checked);
-  EXPECT_EQ(document.Rafter2.RidgeThickness, 0);
+  EXPECT_EQ(document.design.Rafter2.RidgeThickness, 0);
 }
 
 TEST_F(RoofTypeSwitchTest, AHipsEndBeginsWithTheMainSlope) {
@@ -82,14 +82,14 @@ TEST_F(RoofTypeSwitchTest, AHipsEndBeginsWithTheMainSlope) {
 TEST_F(RoofTypeSwitchTest, LeavingAGambrelBringsTheSpanAndSlopeBack) {
   Type("LWSlope(0)", "6 | 12");
   Pick("cboType", "Gambrel Roof");
-  EXPECT_EQ(document.SavedGableSpan, 144);
-  EXPECT_EQ(document.SavedGableSlope, 6);
-  EXPECT_TRUE(document.toolBar["Level"].Visible);
+  EXPECT_EQ(document.design.SavedGableSpan, 144);
+  EXPECT_EQ(document.design.SavedGableSlope, 6);
+  EXPECT_TRUE(document.design.toolBar["Level"].Visible);
   Pick("cboType", "Common Gable");
   EXPECT_EQ(rafter.Span, 144);
   EXPECT_EQ(rafter.Slope, 6);
   EXPECT_EQ(sheet.Slope[0].LeftValue(), 6);
-  EXPECT_EQ(document.SavedGableSpan, 0);
+  EXPECT_EQ(document.design.SavedGableSpan, 0);
   EXPECT_FALSE(sheet.Slope[0].Locked);
 }
 
@@ -102,7 +102,7 @@ TEST_F(RoofTypeSwitchTest, AnotherRoofAfterAGambrelBeginsFromTheSpanBefore) {
   Pick("cboType", "Gambrel Roof");
   Type("FtSpan(0)", "30'");
   Pick("cboType", "Gambrel Roof");
-  EXPECT_EQ(document.SavedGableSpan, 144);
+  EXPECT_EQ(document.design.SavedGableSpan, 144);
 }
 
 TEST_F(RoofTypeSwitchTest, ALevelCutEndsWithTheGambrel) {
@@ -113,7 +113,7 @@ TEST_F(RoofTypeSwitchTest, ALevelCutEndsWithTheGambrel) {
   Pick("cboType", "Hip");
   EXPECT_TRUE(menus.SettingsPlumbCut.Checked);
   EXPECT_FALSE(menus.SettingsLevelCut.Checked);
-  EXPECT_TRUE(document.toolBar["Plumb"].Pressed);
+  EXPECT_TRUE(document.design.toolBar["Plumb"].Pressed);
   EXPECT_TRUE(sheet.Fascia[0].Enabled);
 }
 
@@ -122,7 +122,7 @@ TEST_F(RoofTypeSwitchTest, TheBayStripShowsWithTheBay) {
   EXPECT_TRUE(sheet.DimensionStrip.Visible);
   EXPECT_EQ(sheet.DimensionStrip.Height, 420);
   EXPECT_EQ(sheet.Frames[1].Top, 840);
-  EXPECT_EQ(document.FocusRequest, "FtProjection");
+  EXPECT_EQ(document.window.FocusRequest, "FtProjection");
   EXPECT_EQ(sheet.BayAngle.Text(), "");
   Pick("cboType", "Hip");
   EXPECT_FALSE(sheet.DimensionStrip.Visible);

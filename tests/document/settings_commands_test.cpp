@@ -7,18 +7,18 @@ using SettingsCommandsTest = DocumentTest;
 
 TEST_F(SettingsCommandsTest, TheUnitItemsAreOneToggle) {
   Click("mnuImperial");
-  EXPECT_EQ(document.UnitRun, 1000) << "the item that is checked already changes the system too";
+  EXPECT_EQ(UnitRun(document.design), 1000) << "the item that is checked already changes the system too";
   EXPECT_TRUE(menus.Metric.Checked);
   Click("mnuImperial");
-  EXPECT_EQ(document.UnitRun, 12);
+  EXPECT_EQ(UnitRun(document.design), 12);
 }
 
 TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
   Pick("cboType", "Hip");
   Type("FtSpan(0)", "20'");
   Click("mnuMetric");
-  EXPECT_EQ(document.RoofType, roof::kGable);
-  for (const Rafter* each : {&document.Rafter1, &document.Rafter2}) {
+  EXPECT_EQ(document.design.RoofType, Roof::kGable);
+  for (const Rafter* each : {&document.design.Rafter1, &document.design.Rafter2}) {
     EXPECT_EQ(each->SlopeBase, 1000);
     EXPECT_EQ(each->Slope, 100);
     EXPECT_EQ(each->Span, 3600);
@@ -28,8 +28,8 @@ TEST_F(SettingsCommandsTest, MetricBeginsWithItsOwnDefaults) {
     EXPECT_EQ(each->FasciaHeight, 140);
     EXPECT_EQ(each->spacing, 400);
   }
-  EXPECT_EQ(document.UnitHipRun, 1414.2135);
-  EXPECT_EQ(document.DrawScale(), 1);
+  EXPECT_EQ(UnitHipRun(document.design), 1414.2135);
+  EXPECT_EQ(DrawScale(document.design), 1);
   EXPECT_EQ(sheet.Span[0].Text(), "3600 mm");
   EXPECT_EQ(sheet.Slope[0].LeftText(), "100");
   EXPECT_EQ(sheet.Slope[0].List().front().Caption, "100/1000");
@@ -76,8 +76,8 @@ TEST_F(SettingsCommandsTest, AFasciaCutStandsInEveryPlaceAlike) {
                                &menus.PopUp2PlumbCut, &menus.SettingsLevelCut, &menus.GambrelLevel}) {
     EXPECT_FALSE(item->Checked) << item->Name;
   }
-  EXPECT_TRUE(document.toolBar["Square"].Pressed);
-  EXPECT_FALSE(document.toolBar["Plumb"].Pressed);
+  EXPECT_TRUE(document.design.toolBar["Square"].Pressed);
+  EXPECT_FALSE(document.design.toolBar["Plumb"].Pressed);
 }
 
 TEST_F(SettingsCommandsTest, PlumbTakesTheFasciaHeightBack) {
@@ -127,10 +127,10 @@ TEST_F(SettingsCommandsTest, OverhangsEqualBelongsToABastardHip) {
 }
 
 TEST_F(SettingsCommandsTest, BarsAreShownAndHidden) {
-  const int height = document.Picture1.Place.Height;
+  const int height = document.Layout().picture1.Height;
   Click("mnuViewToolbar");
   EXPECT_FALSE(menus.ViewToolbar.Checked);
-  EXPECT_EQ(document.Picture1.Place.Height, height + 420);
+  EXPECT_EQ(document.Layout().picture1.Height, height + 420);
   EXPECT_EQ(sheet.Frames[1].Top, 0);
   EXPECT_TRUE(actions.Press("Hip")) << "no button of a hidden bar";
   Click("mnuViewStatusBar");

@@ -19,7 +19,7 @@ class SidePrograms : public testing::Test {
     around.calculator = &services_;
     around.help = &services_;
     document_.emplace(around);
-    document_->Form_Load();
+    Start(*document_);
   }
   NullSurroundings surroundings_;
   Services services_;
@@ -27,22 +27,22 @@ class SidePrograms : public testing::Test {
 };
 
 TEST_F(SidePrograms, CalculatorHasTheUnitsOfTheDocument) {
-  EXPECT_TRUE(document_->menus.Tools.Enabled);
-  document_->ClickMenu(document_->menus.Tools);
-  document_->mnuMetric_Click();
-  document_->ClickMenu(document_->menus.Tools);
+  EXPECT_TRUE(document_->design.menus.Tools.Enabled);
+  ClickMenu(*document_, document_->design.menus.Tools);
+  ToggleUnits(*document_);
+  ClickMenu(*document_, document_->design.menus.Tools);
   EXPECT_EQ(services_.calculators, (std::vector<bool>{false, true}));
   EXPECT_TRUE(surroundings_.dialogs.messages.empty());
 }
 
 TEST_F(SidePrograms, HelpOpensAtItsPlace) {
-  Menus& menus = document_->menus;
+  Menus& menus = document_->design.menus;
   for (MenuItem* item : {&menus.Helpcontents, &menus.HelpGlossary, &menus.HelpSearch}) {
     EXPECT_TRUE(item->Enabled) << item->Name;
-    document_->ClickMenu(*item);
+    ClickMenu(*document_, *item);
   }
-  document_->tbToolBar_ButtonClick("Octagon");
-  document_->ShowHelp(HelpPlace::kTopic);
+  PressToolButton(*document_, "Octagon");
+  ShowHelp(*document_, HelpPlace::kTopic);
   EXPECT_EQ(services_.places, (std::vector<std::pair<HelpPlace, int>>{{HelpPlace::kContents, 60},
                                                                       {HelpPlace::kGlossary, 60},
                                                                       {HelpPlace::kSearch, 60},
@@ -52,8 +52,8 @@ TEST_F(SidePrograms, HelpOpensAtItsPlace) {
 
 TEST_F(SidePrograms, WhatIsNotThereIsAMessage) {
   services_.there = false;
-  document_->mnuTools_Click();
-  document_->mnuHelpcontents_Click();
+  OpenCalculator(*document_);
+  ShowHelpContents(*document_);
   ASSERT_EQ(surroundings_.dialogs.messages.size(), 2U);
   EXPECT_NE(surroundings_.dialogs.messages[0].second.find("ftcalc"), std::string::npos);
   EXPECT_EQ(surroundings_.dialogs.messages[1].second,
@@ -63,9 +63,9 @@ TEST_F(SidePrograms, WhatIsNotThereIsAMessage) {
 TEST(NoSidePrograms, AreMessages) {
   NullSurroundings surroundings;
   Document document(surroundings.Get());
-  document.Form_Load();
-  document.mnuTools_Click();
-  document.mnuHelpSearch_Click();
+  Start(document);
+  ClickMenu(document, document.design.menus.Tools);
+  ClickMenu(document, document.design.menus.HelpSearch);
   EXPECT_EQ(surroundings.dialogs.messages.size(), 2U);
 }
 

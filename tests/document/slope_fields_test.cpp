@@ -88,12 +88,12 @@ TEST_F(SlopeFieldsTest, AnEndSlopeMakesABastardHipAndTheMainSlopeBringsItBack) {
   Type("LWSlope(0)", "8 | 12");
   EXPECT_EQ(sheet.Slope[2].LeftValue(), 8);
   Type("LWSlope(2)", "12 | 12");
-  EXPECT_EQ(rafter.RafterType, RafterType::kBastardHip);
+  EXPECT_EQ(rafter.RafterType, Member::kBastardHip);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip End Common|Hip Rafter|Layout");
   EXPECT_TRUE(menus.HipLayoutOverhangsEqual.Visible);
   EXPECT_EQ(rafter.HipEndDegrees, 45);
   Type("LWSlope(0)", "8 | 12");
-  EXPECT_EQ(rafter.RafterType, RafterType::kHip);
+  EXPECT_EQ(rafter.RafterType, Member::kHip);
   EXPECT_EQ(sheet.Slope[2].LeftValue(), 8);
   EXPECT_EQ(sheet.Tabs[0].Caption(), "Design|Common|Hip Rafter|Layout");
   EXPECT_FALSE(menus.HipLayoutOverhangsEqual.Visible);
@@ -113,7 +113,7 @@ TEST_F(SlopeFieldsTest, SpacingIsShownInInches) {
   Pick("cboType", "Hip");
   Page(3);
   Type("cboSpacing", "2'");
-  EXPECT_EQ(document.Spacing, 24);
+  EXPECT_EQ(document.design.Rafter1.spacing, 24);
   EXPECT_EQ(rafter.spacing, 24);
   EXPECT_EQ(sheet.Spacing.Text(), "24\"");
   EXPECT_EQ(sheet.Spacing.ListIndex(), 3);

@@ -1,4 +1,4 @@
-// Widths of texts by the compiled-in table.
+// Text widths from the built-in table.
 #include "drawing/arial_meter.h"
 
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 namespace pitchcraft {
 namespace {
 
-// A cell of this height has an em of 2048, so that widths are the table's own numbers.
+// The em of a cell of this height is 2048, so widths are the table's own numbers.
 constexpr double kTableCell = 2048 * 1.117;
 
 double Width(std::string_view text, bool bold = false, bool italic = false) {
@@ -30,7 +30,7 @@ TEST(ArialMeter, GrowsWithTheHeightOfTheCell) {
 }
 
 TEST(ArialMeter, TakesTheEmFromTheCell) {
-  // Ascent 0.905 and descent 0.212 of an em make the cell.
+  // An ascent of 0.905 em and a descent of 0.212 em make up the cell.
   EXPECT_NEAR(ArialMeter().TextWidth("0", {"Arial", 111.7}), 100 * 1139.0 / 2048, 1e-9);
 }
 

@@ -1,5 +1,5 @@
-// What a canvas hands to its back-end: mapped figures, pens only when they change, dashes that can be seen,
-// texts with the left end of their base line.
+// What a canvas passes to its back-end: mapped shapes, pens only when they change, dashes that can be seen,
+// and texts by the left end of their base line.
 #include "drawing/canvas.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Room for a text among lines and other texts.
+// Whether there is room for a text among lines and other texts.
 #include "drawing/clear_space.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace pitchcraft {
 namespace {
 
-// Ten figures: 556 wide for a cell of 111.7, 71.6 high above the base line.
+// Ten digits: 556 wide for a cell of 111.7, and 71.6 high above the base line.
 TextOp Text(int x, int y, double angle = 0, int align = 24) {
   return {{x, y}, "0000000000", 112, angle, align, 0, "Arial", false, false};
 }
@@ -59,7 +59,7 @@ TEST(ClearSpace, SeesOtherTexts) {
 }
 
 TEST(ClearSpace, DividesTurnedTextsByTheirOwnEdges) {
-  // Their upright boxes overlap, the letters do not.
+  // Their upright boxes overlap, but the letters do not.
   EXPECT_TRUE(Clear(Text(0, 0, 45), Text(150, 0, 45)));
 }
 

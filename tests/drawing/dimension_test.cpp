@@ -1,4 +1,4 @@
-// Dimension lines: directions, extension lines, arrows, and where the text goes.
+// Dimension lines: directions, extension lines, arrows, and the place of the text.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -85,8 +85,7 @@ TEST_F(DimensionTest, DrawsNoEmptyTextButRecordsIt) {
   EXPECT_EQ(board.DimensionPoints.size(), Strokes() * 4 + 5);
 }
 
-// --- Lines
-// ------------------------------------------------------------------------------------------------------------
+// Lines.
 
 TEST_F(DimensionTest, DrawsExtensionLinesPastTheDimensionLine) {
   Draw(2, {0, 0}, {300, 0});
@@ -146,7 +145,7 @@ TEST_F(DimensionTest, KeepsLevelLinesLevelBetweenTwoUnits) {
 
 TEST_F(DimensionTest, StandsSquareToAlignedPoints) {
   Draw(1, {0, 0}, {300, 400});
-  // 28 out from the points, to the upper left.
+  // 28 away from the points, to the upper left.
   ExpectStroke(2, {-28 * 0.8, 28 * 0.6, 300 - 28 * 0.8, 400 + 28 * 0.6});
 }
 
@@ -178,8 +177,7 @@ TEST_F(DimensionTest, DrawsEqualPointsWithArrowsOutside) {
   ExpectStroke(3, {100, 128, 132, 128});
 }
 
-// --- Arrows
-// -----------------------------------------------------------------------------------------------------------
+// Arrows.
 
 TEST_F(DimensionTest, TurnsTheArrowsOutsideWhereThereIsNoRoom) {
   Draw(2, {0, 0}, {60, 0});  // 2.5 texts: not more
@@ -209,7 +207,8 @@ TEST_F(DimensionTest, StartsEveryArrowStrokeAtItsTip) {
 }
 
 TEST_F(DimensionTest, PointsItsArrowsAtTheEndsFromRightToLeftToo) {
-  // The strokes of an inside head run from the tip towards the other end; of an outside one, away from it.
+  // The strokes of a head inside run from the tip towards the other end; those of a head outside, away from
+  // it.
   for (const int outside : {0, 1}) {
     for (const auto& [p1, p2] : {std::pair<PointRecord, PointRecord>{{0, 0}, {300, 400}},
                                  {{300, 400}, {0, 0}},
@@ -234,8 +233,7 @@ TEST_F(DimensionTest, PointsItsArrowsAtTheEndsFromRightToLeftToo) {
   }
 }
 
-// --- Text
-// -------------------------------------------------------------------------------------------------------------
+// Text.
 
 TEST_F(DimensionTest, SetsAlignedTextOneGapOverTheLine) {
   Draw(1, {0, 0}, {300, 0});

@@ -1,4 +1,4 @@
-// The board: points, metrics, texts of dimensions, and what is left of a drawing that fails.
+// The board: points, metrics, dimension texts, and what is left of a drawing that fails.
 #include "drawing/drafting_board.h"
 
 #include <gtest/gtest.h>
@@ -80,8 +80,7 @@ TEST_F(Board, TurnsAnAngleIntoAnOffset) {
   EXPECT_NEAR(offset.Y, 5, 1e-6);
 }
 
-// --- Texts of dimensions
-// ----------------------------------------------------------------------------------------------
+// Dimension texts.
 
 TEST_F(Board, WritesADimensionsTextAtPointTen) {
   board.Pts(10) = {100, 200};

@@ -1,4 +1,4 @@
-// The recording: its states, its extents, the size of a point, and how it is fitted into a target.
+// The recorder: its states, its extents, the size of a point, and how a recording is fitted into a target.
 #include "drawing/drawing_recorder.h"
 
 #include <gtest/gtest.h>
@@ -33,8 +33,7 @@ class MetaFile : public ::testing::Test {
   DrawingRecorder& meta = recorder.meta;
 };
 
-// --- States
-// ---------------------------------------------------------------------------------------------------------
+// States.
 
 TEST_F(MetaFile, RefusesASecondRecording) {
   EXPECT_EQ(MessageOf([&] { meta.Open(); }), "Metafile dc already exists!");
@@ -107,8 +106,7 @@ TEST_F(MetaFile, LetsGoOfItsDrawingObjects) {
   EXPECT_EQ(recorder.textFX.Canvas(), nullptr);
 }
 
-// --- Extents
-// --------------------------------------------------------------------------------------------------------
+// Extents.
 
 TEST_F(MetaFile, OnlyWidensItsExtents) {
   meta.BoundsChanged(10, 20, -30, -40);  // left exceeds right, top exceeds bottom
@@ -132,8 +130,7 @@ TEST_F(MetaFile, CountsTextsToo) {
   EXPECT_GT(meta.MaxX(), 300);
 }
 
-// --- Size of a point
-// ------------------------------------------------------------------------------------------------
+// Size of a point.
 
 TEST_F(MetaFile, HasNoPointSizeWithoutCanvas) {
   Reach(100, 100);
@@ -153,7 +150,7 @@ TEST_F(MetaFile, MakesTextTheSameSizeOnTheCanvas) {
     Reach(row.Width, row.Height);
     meta.SetCanvas({row.CanvasWidth, row.CanvasHeight});
     const double size = meta.CalcPointSize().Size;
-    // 240 twips of text, played, are 240 twips on the canvas.
+    // A text 240 twips high is 240 twips high on the canvas when it is played.
     const CanvasMap map = meta.FitInto(*meta.Target(), 1);
     EXPECT_NEAR(240 * size * map.ScaleX, 240, 1e-3) << row.Width << " x " << row.Height;
   }
@@ -188,8 +185,7 @@ TEST_F(MetaFile, TurnsThePaperTheWayThatFitsBest) {
   EXPECT_NEAR(meta.CalcPointSize().Size, 1000.0 / 16000, 1e-6);
 }
 
-// --- Playing
-// --------------------------------------------------------------------------------------------------------
+// Playing.
 
 struct Sides {
   double Left, Top, Right, Bottom;
@@ -267,8 +263,7 @@ TEST_F(Played, CanBePlayedAgainElsewhere) {
   ExpectPlayed({200, 100}, {50, 0, 150, 100});
 }
 
-// --- Fonts
-// ----------------------------------------------------------------------------------------------------------
+// Fonts.
 
 TEST_F(MetaFile, MeasuresInDrawingUnits) {
   EXPECT_EQ(meta.FontSize(), 10);

@@ -1,4 +1,4 @@
-// A recording that is open, with a pen and lettering on it: what most tests of this room draw on.
+// An open recording with a pen and lettering, which most tests of this room use.
 #pragma once
 
 #include <vector>

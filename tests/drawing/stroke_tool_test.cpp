@@ -1,4 +1,4 @@
-// The pen: absolute and relative entry, the last point, the bounds it reports.
+// The pen: absolute and relative entry, the last point, and the bounds it reports.
 #include "drawing/stroke_tool.h"
 
 #include <gmock/gmock.h>
@@ -127,12 +127,12 @@ TEST_F(Strokes, CarriesColourStyleAndWidth) {
 
 TEST_F(Strokes, TurnsAPolarLineFromXTowardsY) {
   pen.MoveToPoint(10, 10);
-  pen.EntryMode = 1;  // has no say here
+  pen.EntryMode = 1;  // does not matter here
   pen.DrawPolarLine(90, 100);
   ExpectLine({10, 10}, {10, 110});
   pen.DrawPolarLine(30, 100, Single(0), Single(0));
   ExpectLine({0, 0}, {87, 50});
-  pen.DrawPolarLine(0, 10, Single(50), std::nullopt);  // one coordinate alone is no start
+  pen.DrawPolarLine(0, 10, Single(50), std::nullopt);  // a start needs both coordinates
   ExpectLine({87, 50}, {97, 50});
 }
 

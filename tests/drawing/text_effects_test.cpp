@@ -1,4 +1,4 @@
-// Characters one by one: where each stands, how it is turned, how large it is.
+// Characters one by one: the place, angle and size of each.
 #include <gtest/gtest.h>
 
 #include "core/run_time_error.h"
@@ -95,7 +95,7 @@ TEST_F(Effects, Spiral) {
 TEST_F(Effects, LeaveNothingForNoText) {
   text.TextCircle("", 0, 0, 1000);
   text.SpiralText("", 0, 0, 1, 2, 3);
-  text.TextArc("x", 0, 0, 1000, 90, 0);  // one character stands at the start
+  text.TextArc("x", 0, 0, 1000, 90, 0);  // a single character is at the start
   ASSERT_EQ(recorder.Count(), 1U);
   ExpectAt(0, "x", {0, 1000}, 0);
 }

@@ -1,4 +1,4 @@
-// Lettering: what is recorded, and the box that is reported by alignment and angle.
+// Lettering: what is recorded, and the box reported for each alignment and angle.
 #include "drawing/text_tool.h"
 
 #include <gtest/gtest.h>
@@ -68,7 +68,7 @@ TEST_F(Letters, CoversItsBoxByAlignment) {
     int Align;
     double Left, Right, Bottom, Top;
   };
-  // Top flags hang below the anchor; bottom and base line stand on it.
+  // Texts with top flags hang below the anchor; those with bottom or base line flags are above it.
   const Row rows[] = {
       {0, 0, w, -100, 0},          {8, 0, w, 0, 100},   {24, 0, w, 0, 100},
       {6, -w / 2, w / 2, -100, 0}, {2, -w, 0, -100, 0}, {10, -w, 0, 0, 100},

@@ -1,4 +1,4 @@
-// One line a figure, in drawing units.
+// One line for each shape, in drawing units.
 #include "drawing/text_trace.h"
 
 #include <gtest/gtest.h>

@@ -21,11 +21,11 @@ using testing::HipCase;
 using ::testing::Not;
 using testing::UnreadableTexts;
 
-constexpr std::array kMembers = {RafterType::kCommon, RafterType::kHipEndCommon, RafterType::kBastardHip};
+constexpr std::array kMembers = {Member::kCommon, Member::kHipEndCommon, Member::kBastardHip};
 
 struct MemberCase : HipCase {
   MemberCase() { EndSlope = 9; }
-  RafterType Type = RafterType::kBastardHip;
+  Member Type = Member::kBastardHip;
   bool SquareCut = false;
   int Tab = 3;
 };
@@ -42,7 +42,7 @@ class DrawnMember {
     rafter.RafterType = c.Type;
     DrawingContext context = testing::ContextOf(c, rafter);
     context.SquareCut = c.SquareCut;
-    context.CurrentTab = c.Tab;
+    context.OnDesignPage = c.Tab == 0;
     board.DrawScale = c.Metric ? 1 : 10;
     board.Recorder.SetCanvas({c.Width, c.Height});
     DrawBastardHipRafters(board, rafter, context);
@@ -78,7 +78,7 @@ template <typename Vary>
 void ForEveryRoof(const Vary& vary) {
   for (const auto& [slope, endSlope] : {std::pair{6.0, 9.0}, {9.0, 6.0}, {3.0, 12.0}, {14.0, 4.0}}) {
     for (const bool equal : {false, true}) {
-      for (const RafterType type : kMembers) {
+      for (const Member type : kMembers) {
         MemberCase c;
         c.Slope = slope;
         c.EndSlope = endSlope;
@@ -101,8 +101,8 @@ TEST(BastardHipElevation, ShowsTheMeasuresOfItsMember) {
     rafter.CalculateBastardHip();  // of its own lengths
     EXPECT_NEAR(std::hypot(drawn.X(0) - drawn.X(1), drawn.Y(0) - drawn.Y(1)), rafter.Length1, 2e-3);
     EXPECT_NEAR(drawn.Y(0), rafter.RiseWithOverhang, 1e-3) << "all climb to one ridge";
-    const bool end = c.Type == RafterType::kHipEndCommon;
-    const bool hip = c.Type == RafterType::kBastardHip;
+    const bool end = c.Type == Member::kHipEndCommon;
+    const bool hip = c.Type == Member::kBastardHip;
     EXPECT_NEAR(drawn.X(1) - drawn.X(2),
                 hip   ? rafter.HipValOverhang
                 : end ? rafter.HipEndOverhang
@@ -127,14 +127,14 @@ TEST(BastardHipElevation, ShowsTheMeasuresOfItsMember) {
   });
 }
 
-// The rise of a hip with equal overhangs is that at the ridge board, its run ends at the main common's cheek:
-// the top edge bends at the wall by the difference, and nowhere else.
+// With equal overhangs, a hip's rise is measured to the ridge board, but its run ends at the main common's
+// cheek. So the top edge bends at the wall by the difference; otherwise it must be straight.
 TEST(BastardHipElevation, KeepsTheTopEdgeStraight) {
   ForEveryRoof([](const MemberCase& c) {
     SCOPED_TRACE(::testing::PrintToString(static_cast<const HipCase&>(c)));
     const DrawnMember drawn(c);
     double excess = 0;
-    if (c.Type == RafterType::kBastardHip && c.OverhangsEqual) {
+    if (c.Type == Member::kBastardHip && c.OverhangsEqual) {
       excess = c.Slope / 12 * (0.75 * c.EndSlope / c.Slope - 0.75) / (drawn.X(0) - drawn.X(1));
     }
     EXPECT_NEAR(drawn.TopSlope() - drawn.TailSlope(), excess, 1e-4);
@@ -143,18 +143,18 @@ TEST(BastardHipElevation, KeepsTheTopEdgeStraight) {
 
 TEST(BastardHipElevation, IsTitledByItsMember) {
   MemberCase c;
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains(" 6/12"));
-  c.Type = RafterType::kHipEndCommon;
+  c.Type = Member::kHipEndCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains(" 9/12"));
   c.RiseOverRun = false;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("36.87\u00BA"));
-  c.Type = RafterType::kBastardHip;
+  c.Type = Member::kBastardHip;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("22.59\u00BA"));
 }
 
 TEST(BastardHipElevation, MeasuresTheWholeRiseOnThePagesOfAllThree) {
-  for (const RafterType type : kMembers) {
+  for (const Member type : kMembers) {
     MemberCase c;
     c.Type = type;
     const DrawnMember drawn(c);
@@ -180,14 +180,13 @@ TEST(BastardHipElevation, LabelsTheTwoCheeksOnTwoRows) {
   EXPECT_EQ(bevels[1].Text, "31.0\u00BA bevel") << "right above";
   EXPECT_EQ(bevels[2].Text, "31.0\u00BA bevel") << "left below";
   EXPECT_EQ(bevels[3].Text, "59.0\u00BA bevel") << "right below";
-  // Each edge stands back from its point by the tangent of its bevel.
+  // The distance of an edge from the point is proportional to the tangent of its bevel.
   const auto back = [&](int edge, int point) { return std::fabs(drawn.X(edge) - drawn.X(point)); };
   EXPECT_NEAR(back(19, 20) / back(21, 20), std::pow(30.0 / 18, 2), 0.01);
   EXPECT_NEAR(back(22, 23) / back(18, 23), std::pow(30.0 / 18, 2), 0.01);
 }
 
-// --- The square cut
-// ---------------------------------------------------------------------------------------------------
+// The square cut.
 
 /// The angle between top edge and square tail cut.
 double TailAngle(const DrawnMember& drawn) {
@@ -196,8 +195,8 @@ double TailAngle(const DrawnMember& drawn) {
   return (edge - cut) * 180 / std::acos(-1.0);
 }
 
-// One fascia runs round the roof: it stands square to the main commons and keeps that tilt at the end. Its
-// lower corner is what the hip's tail is cut along, as one sees it square from the side of the hip.
+// One fascia runs around the roof: it is square to the main commons and keeps that tilt along the end. The
+// hip's tail is cut along the lower corner of the fascia, as seen square to the side of the hip.
 TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
   using namespace geometry;  // NOLINT(google-build-using-namespace)
   ForEveryRoof([](MemberCase c) {
@@ -211,13 +210,13 @@ TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
     const Plane main = RoofFace({}, {1, 0, 0}, c.Slope / 12);
     const Plane end = RoofFace({}, {0, 1, 0}, c.EndSlope / 12);
     const Line hip = Intersect(main, end);
-    // The member's own plane, and the fascia's line in it.
+    // The top edge in the member's own plane, and the line of the fascia in it.
     Line edge = hip;
     Line cut = corner;
-    if (c.Type == RafterType::kCommon) {
+    if (c.Type == Member::kCommon) {
       edge = Intersect(main, AtY(0));
       cut = Intersect(mainFascia, AtY(0));
-    } else if (c.Type == RafterType::kHipEndCommon) {
+    } else if (c.Type == Member::kHipEndCommon) {
       edge = Intersect(end, AtX(0));
       cut = Intersect(endFascia, AtX(0));
     }
@@ -232,14 +231,13 @@ TEST(BastardHipElevation, CutsASquareTailAlongTheFascia) {
 TEST(BastardHipElevation, WritesTheTailAngleThatIsNotSquare) {
   MemberCase c;
   c.SquareCut = true;
-  c.Type = RafterType::kHipEndCommon;
+  c.Type = Member::kHipEndCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Contains("100.3\u00BA"));
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   EXPECT_THAT(DrawnMember(c).Texts(), Not(Contains("90.0\u00BA")));
 }
 
-// --- The whole sheet
-// --------------------------------------------------------------------------------------------------
+// The whole figure.
 
 TEST(BastardHipElevation, CanBeRead) {
   ForEveryRoof([](MemberCase c) {
@@ -284,7 +282,7 @@ TEST(BastardHipElevation, IsDrawnAsBefore) {
 
 TEST(BastardHipElevation, EndsBlankWithOneOverflow) {
   for (const double value : {1e30, std::nan("")}) {
-    for (const RafterType type : kMembers) {
+    for (const Member type : kMembers) {
       MemberCase c;
       c.Type = type;
       c.Run = value;

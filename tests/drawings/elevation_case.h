@@ -1,4 +1,4 @@
-// One rafter, calculated and drawn: what the tests of the side view are made of.
+// One rafter, calculated and drawn, for the tests of the side view.
 #pragma once
 
 #include <cmath>
@@ -16,9 +16,9 @@ namespace pitchcraft::testing {
 
 inline constexpr double kUnlocked = -1;
 
-/// The measures of a new document, slope 6 in 12, unless told otherwise.
+/// The measures of a new document with a slope of 6 in 12, unless stated otherwise.
 struct ElevationCase {
-  RafterType Type = RafterType::kCommon;
+  Member Type = Member::kCommon;
   int RoofType = 0;
   bool Metric = false;
   double Slope = 6;
@@ -80,17 +80,17 @@ inline void Fill(Rafter& rafter, const ElevationCase& c) {
 
 inline DrawingContext ContextOf(const ElevationCase& c) {
   DrawingContext context;
-  context.RoofType = c.RoofType;
+  context.RoofType = static_cast<Roof>(c.RoofType);
   context.UnitRun = c.Metric ? 1000 : 12;
   context.UnitHipRun = c.Metric ? 1414.2135 : 16.970562;
-  context.CurrentTab = c.Tab;
+  context.OnDesignPage = c.Tab == 0;
   context.SquareCut = c.SquareCut;
   context.RiseOverRun = c.RiseOverRun;
   return context;
 }
 
-/// Calculates and draws. A common on a hip roof is calculated as the hip that the record stands for, as the
-/// document's page does.
+/// Calculates and draws. As on the document's page, a common of a hip roof is calculated with the record of
+/// the hip.
 class DrawnElevation {
  public:
   explicit DrawnElevation(const ElevationCase& c)
@@ -100,7 +100,7 @@ class DrawnElevation {
       converter_.BaseUnits = kBaseMillimetres;
     }
     Fill(rafter, c);
-    rafter.RafterType = c.RoofType == 1 ? RafterType::kHip : c.Type;
+    rafter.RafterType = c.RoofType == 1 ? Member::kHip : c.Type;
     rafter.Calculate();
     rafter.RafterType = c.Type;
     board.DrawScale = c.Metric ? 1 : 10;

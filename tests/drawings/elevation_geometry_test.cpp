@@ -1,4 +1,4 @@
-// The outline against the solid: every stroke is an edge of the wood, and the strokes close.
+// The outline against the solid: every stroke is an edge of the wood, and together they close.
 #include "drawings/rafter_elevation_geometry.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ std::vector<LineOp> OutlineOf(const DrawnElevation& drawn) {
   return outline;
 }
 
-/// Three spots of the stroke have wood on one side and none on the other.
+/// At three places along the stroke there must be wood on exactly one side.
 void ExpectEdgeOfWood(const LineOp& line, const Wood& wood, double scale) {
   const double x1 = line.From.X / scale;
   const double y1 = line.From.Y / scale;
@@ -68,9 +68,9 @@ void ExpectOutlineOfWood(const ElevationCase& c) {
   ExpectClosed(outline);
 }
 
-constexpr std::pair<RafterType, int> kMembers[] = {{RafterType::kCommon, 0}, {RafterType::kShed, 3},
-                                                   {RafterType::kHip, 1},    {RafterType::kValley, 2},
-                                                   {RafterType::kCommon, 1}, {RafterType::kCommon, 4}};
+constexpr std::pair<Member, int> kMembers[] = {{Member::kCommon, 0}, {Member::kShed, 3},
+                                                   {Member::kHip, 1},    {Member::kValley, 2},
+                                                   {Member::kCommon, 1}, {Member::kCommon, 4}};
 
 TEST(ElevationOutline, IsTheWoodAtEverySlopeAndOverhang) {
   for (const auto& [type, roof] : kMembers) {
@@ -127,7 +127,7 @@ TEST(ElevationOutline, IsTheWoodWithAKneewall) {
 }
 
 TEST(ElevationOutline, IsTheWoodOfHipsOfOtherLumber) {
-  for (const RafterType type : {RafterType::kHip, RafterType::kValley}) {
+  for (const Member type : {Member::kHip, Member::kValley}) {
     for (const double depth : {3.5, 5.5, 9.25, 11.25}) {
       for (const bool square : {false, true}) {
         ElevationCase c;
@@ -154,11 +154,10 @@ TEST(ElevationOutline, IsTheWoodInMillimetres) {
   }
 }
 
-// --- The points, one by one
-// --------------------------------------------------------------------------------------------
+// The points, one by one.
 
 TEST(ElevationPoints, LieWhereACarpenterMeasuresThem) {
-  // 6 in 12, 12' run, 10 1/2" overhang, 2x8: the figures of the framing square.
+  // 6 in 12, 12' run, 10 1/2" overhang, 2x8: the numbers on the framing square.
   const DrawnElevation drawn((ElevationCase()));
   const double plumb = 7.25 * std::sqrt(1.25);
   const double heel = plumb * 2 / 3;
@@ -184,7 +183,7 @@ TEST(ElevationPoints, HaveTheUndersideParallelAtTheDepth) {
     c.RoofType = roof;
     c.HipDepth = 9.25;
     const DrawnElevation drawn(c);
-    const double depth = type == RafterType::kHip || type == RafterType::kValley ? 9.25 : 7.25;
+    const double depth = type == Member::kHip || type == Member::kValley ? 9.25 : 7.25;
     const double dx = drawn.X(0) - drawn.X(1);
     const double dy = drawn.Y(0) - drawn.Y(1);
     for (const int point : {4, 6, 7, 8}) {
@@ -206,7 +205,7 @@ TEST(ElevationPoints, CutASquareTailSquare) {
 }
 
 TEST(ElevationPoints, EndACutThatIsDeeperThanTheOverhangAtTheWall) {
-  for (const RafterType type : {RafterType::kCommon, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type : {Member::kCommon, Member::kHip, Member::kValley}) {
     ElevationCase c;
     c.Type = type;
     c.RoofType = static_cast<int>(type);
@@ -255,7 +254,7 @@ TEST(ElevationPoints, HangTheFasciaOfAHipRoofsCommonByItsOwnHeight) {
   c.RoofType = 1;
   const DrawnElevation common(c);
   EXPECT_NEAR(common.Y(2) - common.Y(3), 5.5, 1e-4);
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   const DrawnElevation hip(c);
   EXPECT_NEAR(hip.Y(2) - hip.Y(3), 5.5 - 0.75 * 6 / 16.970562, 1e-4) << "the hip's is lowered by its drop";
 }

@@ -1,5 +1,5 @@
-// Traces of whole drawings. Each was looked at as a picture, and its outline is held against the wood by the
-// geometry tests.
+// Traces of whole drawings. Each was checked by eye as a picture, and the geometry tests compare its outline
+// with the wood.
 #include <gtest/gtest.h>
 
 #include "drawing/text_trace.h"
@@ -19,7 +19,7 @@ std::string TraceOf(const DrawnElevation& drawn) {
   return trace.Lines();
 }
 
-ElevationCase Of(RafterType type, int roof) {
+ElevationCase Of(Member type, int roof) {
   ElevationCase c;
   c.Type = type;
   c.RoofType = roof;
@@ -30,12 +30,12 @@ void Expect(const std::string& name, const ElevationCase& c) {
   testing::ExpectGolden("drawings/golden/" + name + ".trace", TraceOf(DrawnElevation(c)));
 }
 
-constexpr std::pair<const char*, std::pair<RafterType, int>> kMembers[] = {
-    {"common", {RafterType::kCommon, 0}},
-    {"shed", {RafterType::kShed, 3}},
-    {"hip", {RafterType::kHip, 1}},
-    {"valley", {RafterType::kValley, 2}},
-    {"hip-roof-common", {RafterType::kCommon, 1}},
+constexpr std::pair<const char*, std::pair<Member, int>> kMembers[] = {
+    {"common", {Member::kCommon, 0}},
+    {"shed", {Member::kShed, 3}},
+    {"hip", {Member::kHip, 1}},
+    {"valley", {Member::kValley, 2}},
+    {"hip-roof-common", {Member::kCommon, 1}},
 };
 
 TEST(ElevationGolden, PlumbCut) {
@@ -73,7 +73,7 @@ TEST(ElevationGolden, LaterPages) {
 
 TEST(ElevationGolden, Kneewall) {
   for (const int roof : {0, 3, 4}) {
-    ElevationCase c = Of(roof == 3 ? RafterType::kShed : RafterType::kCommon, roof);
+    ElevationCase c = Of(roof == 3 ? Member::kShed : Member::kCommon, roof);
     c.Kneewall = 60;
     Expect("kneewall-roof-" + std::to_string(roof), c);
   }
@@ -99,7 +99,7 @@ TEST(ElevationGolden, Level) {
 }
 
 TEST(ElevationGolden, Degrees) {
-  ElevationCase c = Of(RafterType::kHip, 1);
+  ElevationCase c = Of(Member::kHip, 1);
   c.RiseOverRun = false;
   Expect("hip-degrees", c);
 }
@@ -107,7 +107,7 @@ TEST(ElevationGolden, Degrees) {
 TEST(ElevationGolden, Metric) {
   ElevationCase c = testing::Metric();
   Expect("metric-common", c);
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   c.RoofType = 1;
   c.SquareCut = true;
   Expect("metric-hip-square", c);

@@ -1,4 +1,5 @@
-// No text of any rafter at any picture size is struck by a line, lies on another text or stands upside down.
+// For any rafter and any size of picture, no line runs through a text, and no text overlaps another or is
+// upside down.
 #include <gtest/gtest.h>
 
 #include "elevation_case.h"
@@ -28,9 +29,9 @@ void ExpectReadable(ElevationCase c) {
 
 template <typename Vary>
 void ForEveryMember(const Vary& vary) {
-  constexpr std::pair<RafterType, int> kMembers[] = {
-      {RafterType::kCommon, 0}, {RafterType::kShed, 3},   {RafterType::kHip, 1},
-      {RafterType::kValley, 2}, {RafterType::kCommon, 1}, {RafterType::kShortValley, 10}};
+  constexpr std::pair<Member, int> kMembers[] = {
+      {Member::kCommon, 0}, {Member::kShed, 3},   {Member::kHip, 1},
+      {Member::kValley, 2}, {Member::kCommon, 1}, {Member::kShortValley, 10}};
   for (const auto& [type, roof] : kMembers) {
     for (const bool square : {false, true}) {
       for (const int tab : {0, 1}) {
@@ -104,7 +105,7 @@ TEST(ElevationLegibility, HoldsInMillimetres) {
   });
 }
 
-// The judge itself: it must see what a person sees.
+// Tests the check itself: it must find what a person would see.
 TEST(Legibility, SeesStruckOverlappingAndUpsideDownTexts) {
   const TextOp text{{0, 0}, "12' 6\"", 100, 0, 24, 0, "Arial", false, false};
   TextOp beside = text;

@@ -1,4 +1,5 @@
-// Measures that no roof has: a blank and one error, never a freeze, and the next drawing is whole again.
+// Measures that no roof has: they give a blank and one error, never a freeze, and the next drawing is
+// complete again.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -21,7 +22,7 @@ class Hostile : public ::testing::Test {
   Hostile() : board(meter, [](double) { return std::string("x"); }) {
     board.Recorder.SetCanvas({10000, 7000});
   }
-  /// The number of the error that drawing raises; 0 for none.
+  /// The number of the error raised by drawing; 0 if there is none.
   int Draw(const ElevationCase& c) {
     Rafter rafter;
     testing::Fill(rafter, c);
@@ -58,8 +59,8 @@ TEST_F(Hostile, EndsBlankWithOneOverflow) {
 TEST_F(Hostile, EveryMixtureEndsSoon) {
   const double values[] = {0, 1e-30, 1, -6, 144, 1e7, 1e9, 1e20, kInfinity, std::nan("")};
   const auto start = std::chrono::steady_clock::now();
-  for (const RafterType type :
-       {RafterType::kCommon, RafterType::kShed, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type :
+       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const double slope : values) {
       for (const double run : values) {
         for (const double overhang : {0.0, 10.5, -3.0, 1e8}) {
@@ -89,8 +90,8 @@ TEST_F(Hostile, EveryMixtureEndsSoon) {
 }
 
 TEST_F(Hostile, DrawsALevelRafter) {
-  for (const RafterType type :
-       {RafterType::kCommon, RafterType::kShed, RafterType::kHip, RafterType::kValley}) {
+  for (const Member type :
+       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const bool square : {false, true}) {
       ElevationCase c;
       c.Type = type;

@@ -1,4 +1,4 @@
-// One hip roof, calculated and drawn: what the tests of plan and layout are made of.
+// One hip roof, calculated and drawn, for the tests of plan and layout.
 #pragma once
 
 #include <cmath>
@@ -16,7 +16,7 @@
 
 namespace pitchcraft::testing {
 
-/// A slope of 6 in 12 all round and 16" on center, unless told otherwise.
+/// A slope of 6 in 12 all around and 16" on center, unless stated otherwise.
 struct HipCase {
   bool Metric = false;
   double Slope = 6;
@@ -78,17 +78,17 @@ inline void CalculateHip(Rafter& rafter, const HipCase& c) {
   rafter.Depth = rafter.RidgeDepth = rafter.HipValDepth = c.Metric ? 184 : 7.25;
   rafter.FasciaHeight = c.Metric ? 140 : 5.5;
   rafter.spacing = c.Spacing;
-  rafter.RafterType = c.IsBastard() ? RafterType::kBastardHip : RafterType::kHip;
+  rafter.RafterType = c.IsBastard() ? Member::kBastardHip : Member::kHip;
   rafter.OverhangsEqual = c.OverhangsEqual;
   rafter.Calculate();
 }
 
 inline DrawingContext ContextOf(const HipCase& c, const Rafter& rafter) {
   DrawingContext context;
-  context.RoofType = 1;
+  context.RoofType = Roof::kHip;
   context.UnitRun = c.Base();
   context.UnitHipRun = c.Metric ? 1414.2135 : 16.970562;
-  context.CurrentTab = c.IsBastard() ? 4 : 3;
+  context.OnDesignPage = false;
   context.RiseOverRun = c.RiseOverRun;
   context.HipLayout.Layout = c.Layout;
   context.HipLayout.WithOverhang = c.WithOverhang;

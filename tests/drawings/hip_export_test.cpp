@@ -1,4 +1,4 @@
-// Plan, layout and rafters of a hip roof as DXF files: what a CAD program reads there.
+// Plan, layout and rafters of a hip roof as DXF files, as a CAD program reads them.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -134,7 +134,7 @@ TEST(HipExport, LayoutHasEachRafter) {
   }
 }
 
-/// Where each text's letters lie, by the widths of Arial.
+/// The boxes of the texts' letters, by the widths of Arial.
 std::vector<std::pair<std::string, DxfExtents>> Boxes(const DxfContent& file) {
   std::vector<std::pair<std::string, DxfExtents>> boxes;
   for (const DxfRecord& text : file.Named("TEXT")) {
@@ -157,7 +157,7 @@ bool IsStruck(const DxfExtents& box, const DxfRecord& line) {
   return testing::Meet(letters, stroke);
 }
 
-// Dimensions, which stand in blocks, count like all else.
+// Dimensions are in blocks, but count like everything else.
 TEST(HipExport, TextsAreClearOfEachOtherAndOfLines) {
   HipCase close;
   close.Run = 181.5;
@@ -237,13 +237,13 @@ TEST(HipExport, DegreesHaveNoSign) {
 }
 
 TEST(BastardHipExport, Members) {
-  for (const RafterType type : {RafterType::kCommon, RafterType::kHipEndCommon, RafterType::kBastardHip}) {
+  for (const Member type : {Member::kCommon, Member::kHipEndCommon, Member::kBastardHip}) {
     HipCase c;
     c.EndSlope = 9;
     c.Width = 20000;  // room for the view from below
     HipOutputs outputs(c);
     outputs.drawn.rafter.RafterType = type;
-    outputs.context.Drawing.CurrentTab = 3;
+    outputs.context.Drawing.OnDesignPage = false;
     DrawBastardHipRafters(outputs.drawn.board, outputs.drawn.rafter, outputs.context.Drawing);
     const DxfContent file(outputs.Exported(&ExportBastardHipRafter));
     const DraftingBoard& board = outputs.drawn.board;
@@ -258,10 +258,10 @@ TEST(BastardHipExport, Members) {
     const RafterSheet sheet = BastardHipSheetOf(outputs.drawn.rafter, outputs.context);
     EXPECT_THAT(texts, Contains(sheet.Title));
     EXPECT_THAT(texts, Contains(sheet.Rows[0].front()));
-    // The bevels of the two cheeks, on two rows at either end.
+    // The bevels of the two cheeks, in two rows at either end.
     const auto bevels = std::count_if(texts.begin(), texts.end(),
                                       [](const std::string& text) { return text.ends_with("d bevel"); });
-    EXPECT_EQ(bevels, type == RafterType::kBastardHip ? 4 : 0);
+    EXPECT_EQ(bevels, type == Member::kBastardHip ? 4 : 0);
   }
 }
 

@@ -1,5 +1,5 @@
-// Traces of whole plans and layouts. Each was looked at as a picture, and each of its jacks is held against
-// the jack in space.
+// Traces of whole plans and layouts. Each was checked by eye as a picture, and each of its jacks is compared
+// with the jack in space.
 #include <gtest/gtest.h>
 
 #include "drawing/text_trace.h"
@@ -21,7 +21,7 @@ std::string TraceOf(const DrawnHip& drawn) {
   return trace.Lines();
 }
 
-/// The lengths that the sheet shows are those of the jacks in space, and it shows no other.
+/// The lengths shown are those of the jacks in space, and there are no others.
 void ExpectTrueLengths(const HipCase& c, const DrawnHip& drawn) {
   const HipSpace space(c);
   std::multiset<std::string> shown;

@@ -1,4 +1,4 @@
-// Every jack of a layout against the jack in space, over all the ways to lay a roof out.
+// Compares every jack of a layout with the jack in space, for all ways to lay out a roof.
 #include "drawings/hip_layout.h"
 
 #include <gmock/gmock.h>
@@ -155,14 +155,13 @@ TEST(HipLayout, HasEveryJackInMillimetresWithItsLength) {
   });
 }
 
-// --- The rules, one by one
-// ---------------------------------------------------------------------------------------------
+// The rules, one by one.
 
 TEST(HipLayout, BeginsBesideTheCommon) {
   HipCase c;
   const std::vector<LaidRafter> jacks = JacksOf(LayOut(c), HipRoofFace::kEnd);
   EXPECT_NEAR(jacks[0].Place, 154.5 - 16, 1e-4) << "the first place out";
-  // Its run: to the edge half a thickness further in, less half the hip across the jack.
+  // The run to the edge half a thickness further in, minus half the hip, measured along the jack.
   const double run = 154.5 - 16 + 0.75 - 0.75 * std::sqrt(2.0);
   EXPECT_NEAR(*jacks[0].Length, run * std::sqrt(1.25), 1e-3);
   Rafter rafter;
@@ -172,8 +171,8 @@ TEST(HipLayout, BeginsBesideTheCommon) {
   }
 }
 
-// The line is drawn to the middle of the hip, where a person looks for it; the wood ends at its side, on the
-// longest edge by half the hip less half the jack's own step.
+// The line runs to the middle of the hip, where people expect it. The wood ends at the side of the hip: on
+// the longest edge, earlier by half the hip and later by half the jack's own step.
 TEST(HipLayout, DrawsAJackToTheMiddleOfTheHip) {
   HipCase c;
   c.EndSlope = 9;

@@ -1,4 +1,4 @@
-// One hip roof with the fields of its sheet, for the tests of what goes to paper and into files.
+// One hip roof with the fields of its sheet, for the tests of prints and files.
 #pragma once
 
 #include <map>
@@ -16,22 +16,15 @@ class HipOutputs {
  public:
   explicit HipOutputs(const HipCase& c, DrawnHip::Procedure draw = &DrawHipLayout)
       : drawn(c, draw),
-        context{drawn.context, fields, 0, "Barn", "1/2/2003", drawn.board.LengthText},
         metric_(c.Metric) {
-    if (c.Metric) {
-      for (MeasureControl* field : {&fields.Span[0], &fields.Overhang[0]}) {
-        field->Format.Units = kMillimetres;
-        field->Format.BaseUnits = kBaseMillimetres;
-      }
-    }
-    fields.Span[0].SetValue(c.Run);
-    fields.Overhang[0].SetValue(c.Overhang);
-    fields.Spacing.SetText(c.Metric ? "400" : "16\"");
-    for (PairControl* lumber : {&fields.Common[0], &fields.HipOrValley, &fields.Ridge, &fields.Fascia[0]})
-      lumber->SetValues(1.5, 7.25);
+    context.Drawing = drawn.context;
+    context.Spacing = c.Metric ? "400" : "16\"";
+    context.ProjectName = "Barn";
+    context.Date = "1/2/2003";
+    context.LengthText = drawn.board.LengthText;
   }
 
-  /// The file that an export writes.
+  /// The file written by an export.
   template <typename Export>
   std::string Exported(const Export& procedure, double textHeight = 2) {
     DxfWriter writer;
@@ -44,7 +37,7 @@ class HipOutputs {
     return writer.Bytes();
   }
 
-  /// The texts that a sheet prints beside its drawing, each with its left upper corner, y downward.
+  /// The texts printed beside the drawing, each with its left upper corner, y downward.
   template <typename Print>
   std::vector<TextOp> Printed(const Print& procedure, const Paper& paper = kLetterPaper) {
     Printer page(paper, meter_);
@@ -63,7 +56,6 @@ class HipOutputs {
     return texts;
   }
 
-  Sheet fields;
   DrawnHip drawn;
   PrintContext context;
   Recording Figure;  ///< of the last sheet
@@ -73,7 +65,7 @@ class HipOutputs {
   bool metric_;
 };
 
-/// What stands before " = " in each row.
+/// The text before " = " in each row.
 inline std::vector<std::string> LabelsOf(const std::vector<std::string>& rows) {
   std::vector<std::string> labels;
   for (const std::string& row : rows) labels.push_back(row.substr(0, row.find(" = ")));

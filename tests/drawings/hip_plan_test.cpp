@@ -39,8 +39,7 @@ TextOp Find(const DrawnHip& drawn, const std::string& words) {
   return {};
 }
 
-// --- Outline
-// ----------------------------------------------------------------------------------------------------------
+// Outline.
 
 TEST(HipPlan, StandsOnTheHipEndsEave) {
   HipCase c;
@@ -93,8 +92,7 @@ TEST(HipPlan, KeepsTheMainSlopeClearOfTheLineThroughThePeak) {
   }
 }
 
-// --- Layout
-// -----------------------------------------------------------------------------------------------------------
+// Layout.
 
 TEST(HipLayoutDrawing, WritesEachLengthAtTheFootOfItsJack) {
   for (const bool withOverhang : {false, true}) {
@@ -205,8 +203,7 @@ TEST(HipNotes, HaveAWordingForTheScreenAndOneForAFile) {
   EXPECT_EQ(ExportText(lower, inches), "* hip end wall is 7 in lower than side wall");
 }
 
-// --- Legibility
-// -------------------------------------------------------------------------------------------------------
+// Legibility.
 
 constexpr std::pair<double, double> kPictures[] = {{5000, 5500}, {7000, 4000}, {10000, 7000}, {24000, 14000}};
 
@@ -285,7 +282,8 @@ TEST(HipPlanLegibility, HoldsInMillimetresAndDegrees) {
   });
 }
 
-// The sheet of a 40 foot roof at 12" stands at full size: nothing shrinks, no second row begins.
+// The layout of a 40 foot roof at 12" on center is lettered at full size: nothing shrinks and there is no
+// second row.
 TEST(HipPlanLegibility, KeepsTheLengthsOfAFortyFootRoofLarge) {
   HipCase c;
   c.Run = 240;
@@ -313,8 +311,7 @@ TEST(HipPlanLegibility, KeepsTextsInsideThePicture) {
   }
 }
 
-// --- Limits
-// -----------------------------------------------------------------------------------------------------------
+// Limits.
 
 int ErrorOf(const HipCase& c, DrawnHip::Procedure draw, DraftingBoard& board) {
   Rafter rafter;

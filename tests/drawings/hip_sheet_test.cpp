@@ -1,4 +1,4 @@
-// The printed sheets of a hip roof: titles, rows, and that nothing on them lies on anything else.
+// The prints of a hip roof: titles, rows, and that nothing on them overlaps.
 #include "drawings/hip_sheet.h"
 
 #include <gmock/gmock.h>
@@ -53,7 +53,7 @@ TEST(HipSheet, Rows) {
               ElementsAre("Common", "Hip", "Ridge", "Fascia", "Last Common (distance o.c. from corner)"));
 }
 
-// Sheet and note tell one figure, also where the field tells of a place below the peak.
+// Print and note give the same number, even if the field holds a place below the peak.
 TEST(HipSheet, LastCommonIsTheOneThatIsDrawn) {
   HipCase c;
   c.PastPeak = -20;
@@ -73,7 +73,7 @@ TEST(HipSheet, ValuesOfAPlainHip) {
   EXPECT_EQ(ValueOf(rows, "Rafter Spacing"), "16\"");
 }
 
-// The differences of the sheet are those of the lengths that the layout shows.
+// The differences on the print are those between the lengths in the layout.
 TEST(HipSheet, DifferencesAreThoseOfTheJacks) {
   for (const bool equal : {false, true}) {
     const HipOutputs outputs(Unequal(equal));
@@ -94,13 +94,13 @@ TEST(HipSheet, DifferencesAreThoseOfTheJacks) {
 TEST(BastardHipSheet, TitleByMember) {
   HipOutputs outputs(Unequal());
   Rafter& rafter = outputs.drawn.rafter;
-  const auto title = [&](RafterType type) {
+  const auto title = [&](Member type) {
     rafter.RafterType = type;
     return BastardHipSheetOf(rafter, outputs.context).Title;
   };
-  EXPECT_EQ(title(RafterType::kCommon), "Bastard Hip Roof - Common Rafter");
-  EXPECT_EQ(title(RafterType::kHipEndCommon), "Bastard Hip Roof - Hip End Common Rafter");
-  EXPECT_EQ(title(RafterType::kBastardHip), "Bastard Hip Roof - Bastard Hip Rafter");
+  EXPECT_EQ(title(Member::kCommon), "Bastard Hip Roof - Common Rafter");
+  EXPECT_EQ(title(Member::kHipEndCommon), "Bastard Hip Roof - Hip End Common Rafter");
+  EXPECT_EQ(title(Member::kBastardHip), "Bastard Hip Roof - Bastard Hip Rafter");
 }
 
 TEST(BastardHipSheet, Rows) {
@@ -123,7 +123,7 @@ TEST(BastardHipSheet, Rows) {
   EXPECT_EQ(ValueOf(Joined(BastardHipSheetOf(rafter, outputs.context).Rows), "Fascia"), "-");
 }
 
-// --- On paper
+// On paper.
 
 void ExpectReadable(const std::vector<TextOp>& texts, const Paper& paper) {
   Recording sheet;
@@ -161,7 +161,7 @@ TEST(HipPaper, NothingLiesOnAnything) {
         SCOPED_TRACE(::testing::Message() << c);
         HipOutputs outputs(c);
         outputs.context.Drawing.SquareCut = true;
-        outputs.context.Drawing.CurrentTab = c.IsBastard() ? 3 : 0;
+        outputs.context.Drawing.OnDesignPage = !c.IsBastard();
         ExpectReadable(outputs.Printed(print, paper), paper);
         EXPECT_THAT(testing::UnreadableTexts(outputs.Figure, 0xFFFFFF), ::testing::IsEmpty());
       }
@@ -178,7 +178,7 @@ TEST(HipPaper, HoldsTitleAndRows) {
     EXPECT_THAT(texts, Contains(row));
 }
 
-// On paper the wood has a pen of its own; measures, walls and centre lines are thin.
+// On paper the wood has a pen width of its own; dimensions, walls and centre lines are thin.
 TEST(HipPaper, OutlinesHaveTheirPenWidth) {
   HipCase c;
   c.PastPeak = 8;
@@ -199,7 +199,7 @@ TEST(HipPaper, OutlinesHaveTheirPenWidth) {
   EXPECT_EQ(wide(), 6);
 }
 
-// 7 points are the size of a newspaper's small print.
+// 7 points is the small print of a newspaper.
 TEST(HipPaper, JackLengthsCanBeReadOnALargeRoof) {
   constexpr double kSevenPoints = 140;
   HipOutputs outputs(FortyFeet());

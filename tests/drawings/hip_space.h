@@ -1,5 +1,5 @@
-// The end of a hip roof as it stands in space, worked out from the design alone: faces, walls, and the boards
-// that a jack ends at. What the layout says of a jack is held against it.
+// The end of a hip roof in space, worked out from the design alone: faces, walls, and the boards where a jack
+// ends. The jacks of the layout are compared with it.
 //
 // The eaves meet in the origin at height 0; x runs along the eave of the end, y along the main eave.
 #pragma once
@@ -21,7 +21,7 @@ class HipSpace {
         end_(geometry::RoofFace({}, {0, 1, 0}, c.EndSlope / c.Base())),
         hip_(geometry::Intersect(main_, end_)),
         peak_(geometry::Intersect(hip_, geometry::AtX(c.Run + c.Overhang))) {
-    // Both faces start as high over their walls, unless the end wall is moved to have the main overhang.
+    // Both faces are equally high over their walls, unless the end wall is moved to get the main overhang.
     const geometry::Line endEdge = geometry::Intersect(end_, geometry::AtX(0));
     const double wallHeight = main_.HeightAt({c.Overhang, 0, 0});
     endWall_ = c.OverhangsEqual && c.IsBastard()
@@ -30,17 +30,18 @@ class HipSpace {
   }
 
   double MiddleOf(HipRoofFace face) const { return face == HipRoofFace::kEnd ? peak_.x : peak_.y; }
-  /// The wall corner along the eave of a face.
+  /// The wall corner, along the eave of a face.
   double CornerOf(HipRoofFace face) const { return face == HipRoofFace::kEnd ? case_.Overhang : endWall_; }
 
-  /// Where the middle of a jack at `place` passes under the middle of the hip, from its eave.
+  /// The distance from the eave to the point where the middle of a jack at `place` passes under the middle of
+  /// the hip.
   double ToMiddleOfHip(HipRoofFace face, double place) const {
     const geometry::Vector meet = geometry::Intersect(hip_, Across(face, place));
     return face == HipRoofFace::kEnd ? meet.y : meet.x;
   }
 
-  /// The longest edge of a jack, from the eave or from the wall to the side of the hip or to the ridge board,
-  /// whichever it meets first; nothing where no wood is left.
+  /// The longest edge of a jack, from the eave or the wall to the side of the hip or the ridge board,
+  /// whichever comes first; nothing if no wood is left.
   std::optional<double> LongestEdge(HipRoofFace face, double place, bool fromEave) const {
     const bool end = face == HipRoofFace::kEnd;
     const geometry::Line edge =
@@ -56,8 +57,8 @@ class HipSpace {
     return geometry::Distance(top, foot);
   }
 
-  /// All places on a face at which a jack can stand, found by trying every step of the layout: inside of its
-  /// eave, beside its common and not in it, with wood left beside the hip.
+  /// All places on a face where a jack can be, found by trying every step of the layout: inside the eave,
+  /// beside the common but not in it, and with wood left beside the hip.
   std::vector<double> PlacesOf(HipRoofFace face) const {
     std::vector<double> places;
     const bool last = face == HipRoofFace::kMain && case_.PastPeak;
@@ -86,7 +87,7 @@ class HipSpace {
   geometry::Plane SideOfHip(HipRoofFace face) const {
     const geometry::Vector across =
         geometry::Unit(geometry::Cross(geometry::InPlan(hip_.direction), {0, 0, 1}));
-    // Towards the end face x grows and y falls.
+    // Towards the end face, x grows and y falls.
     const double towardsEnd = across.x > 0 ? 1 : -1;
     const double side = face == HipRoofFace::kEnd ? towardsEnd : -towardsEnd;
     return geometry::Upright(hip_.origin + side * case_.HipThickness / 2 * across, across);

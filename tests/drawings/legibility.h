@@ -1,4 +1,4 @@
-// Finds texts that cannot be read: struck by a line, lying on another text, or upside down.
+// Finds texts that cannot be read: crossed by a line, overlapping another text, or upside down.
 #pragma once
 
 #include <algorithm>
@@ -19,8 +19,8 @@ struct Spot {
 
 inline Spot SpotOf(DrawnPoint point) { return {static_cast<double>(point.X), static_cast<double>(point.Y)}; }
 
-/// The four corners of a text's letters, from the base line to the height of a capital, less the unit by
-/// which two rounded coordinates may be closer than they were meant to be.
+/// The four corners of a text's letters, from the base line to the height of a capital, drawn in by one unit
+/// because rounding may bring two coordinates that much closer.
 inline std::array<Spot, 4> LettersOf(const TextOp& text) {
   const ArialMeter meter;
   const double height = text.Height;
@@ -39,7 +39,7 @@ inline std::array<Spot, 4> LettersOf(const TextOp& text) {
   return {at(left + 1, base + 1), at(right, base + 1), at(right, top), at(left + 1, top)};
 }
 
-/// Two convex figures meet unless a line along one of their edges has them on two sides.
+/// Two convex polygons are apart if a line along one of their edges has them on different sides.
 template <typename A, typename B>
 bool HasDividingEdge(const A& edges, const B& other) {
   for (std::size_t at = 0; at < edges.size(); ++at) {
@@ -74,7 +74,7 @@ inline std::string Told(const TextOp& text) {
   return "[" + text.Text + "] at " + std::to_string(text.At.X) + "," + std::to_string(text.At.Y);
 }
 
-/// What is wrong with the lettering of a drawing on a ground of that colour; nothing when it can be read.
+/// The faults of a drawing's lettering on a background of that colour; none if all of it can be read.
 inline std::vector<std::string> UnreadableTexts(const Recording& recording, DrawColor ground = 0) {
   std::vector<std::string> faults;
   std::vector<const TextOp*> texts;

@@ -1,4 +1,4 @@
-// What the side view shows: which dimensions stand, in which pen, and how they hang together.
+// What the side view shows: which dimensions there are, in which pen, and how they line up.
 #include "drawings/rafter_elevation.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ using testing::ElevationCase;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-/// The texts of the dimensions, in their order.
+/// The texts of the dimensions, in order.
 std::vector<std::string> Measures(const DrawnElevation& drawn) {
   std::vector<std::string> texts;
   const auto& values = drawn.board.DimensionPoints;
@@ -62,7 +62,7 @@ std::vector<LineOp> Lines(const DrawnElevation& drawn, DrawColor color, int styl
 
 ElevationCase Hip() {
   ElevationCase c;
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   c.RoofType = 1;
   return c;
 }
@@ -105,7 +105,7 @@ TEST(RafterElevation, AddsTheWholeRiseOnLaterPages) {
   ElevationCase c;
   c.Tab = 1;
   EXPECT_EQ(Measures(DrawnElevation(c)).back(), "6' 4 7/8\"");
-  c.Type = RafterType::kHip;
+  c.Type = Member::kHip;
   c.RoofType = 1;
   EXPECT_EQ(Measures(DrawnElevation(c)).back(), "16' 10 9/16\"");
 }
@@ -172,7 +172,7 @@ TEST(RafterElevation, WritesTheAngleOfASquareTail) {
   EXPECT_EQ(Texts(DrawnElevation(c)).size(), 8U) << "a common's is square by definition";
   c = Hip();
   c.SquareCut = true;
-  // Between the hip's edge and the line in which its plane meets the fascia's: 180 - f - e.
+  // The angle between the hip's edge and the line where its plane meets that of the fascia: 180 - f - e.
   const double f = std::atan(16.970562 / 6) * 180 / std::acos(-1.0);
   const double e = std::atan(std::sqrt(2.0) * 6 / 12) * 180 / std::acos(-1.0);
   EXPECT_NEAR(180 - f - e, 74.2, 0.05);
@@ -188,7 +188,7 @@ TEST(RafterElevation, BringsTheLinesBelowToOneLevel) {
       c.SquareCut = square;
       c.Slope = slope;
       const DrawnElevation drawn(c);
-      // The level lines in the colour of dimensions under the wood: the overhang's and the run's.
+      // The level lines under the wood in the colour of dimensions: those of the overhang and the run.
       std::vector<int> levels;
       for (const LineOp& line : Lines(drawn, 0xFF, 0)) {
         if (line.From.Y == line.To.Y && line.From.Y < drawn.board.Pts(3).Y) levels.push_back(line.From.Y);
@@ -212,14 +212,14 @@ TEST(RafterElevation, ShowsTheEndsOfABevelledRafterWhereThereIsRoom) {
   c.Slope = 2;
   EXPECT_FALSE(Shows(DrawnElevation(c), "45\u00BA bevels")) << "a wide drawing";
   c.Slope = 18;
-  c.Type = RafterType::kValley;
+  c.Type = Member::kValley;
   c.RoofType = 2;
   const DrawnElevation valley(c);
   EXPECT_GT(valley.X(20), valley.X(19)) << "the valley's tail is notched over the corner";
-  c.Type = RafterType::kLongValley;
+  c.Type = Member::kLongValley;
   c.RoofType = 10;
   EXPECT_TRUE(Shows(DrawnElevation(c), "45\u00BA bevel"));
-  c.Type = RafterType::kCommon;
+  c.Type = Member::kCommon;
   c.RoofType = 0;
   EXPECT_FALSE(Shows(DrawnElevation(c), "45\u00BA bevels"));
 }

@@ -1,5 +1,5 @@
-// A rafter as a solid seen from the side, worked out from the measures alone: slopes, planes and cuts in
-// double. What the drawing shows is held against it.
+// A rafter as a solid seen from the side, worked out from its measures alone: slopes, planes and cuts in
+// double. The drawing is compared with it.
 #pragma once
 
 #include <algorithm>
@@ -9,14 +9,14 @@
 
 namespace pitchcraft::testing {
 
-/// Coordinates in inches (or millimetres): x from the tail's end, y from the top edge at the tail's end.
+/// Coordinates in inches (or millimetres): x from the end of the tail, y from the top edge there.
 class Wood {
  public:
   explicit Wood(const ElevationCase& c) : square_(c.SquareCut) {
     const double base = c.Metric ? 1000 : 12;
     const double thickness = c.Metric ? 38 : 1.5;
     const double root2 = std::sqrt(2.0);
-    const bool hip = c.Type == RafterType::kHip;
+    const bool hip = c.Type == Member::kHip;
     const bool diagonal = hip || IsValley(c.Type);
     const double plan = diagonal ? root2 : 1;  // run of this member for one of common run
     const double common = c.Slope / base;      // tangent of the roof's slope
@@ -31,7 +31,7 @@ class Wood {
     double fascia = std::min(c.Fascia, commonPlumb);
     if (overhang_ == 0) fascia = std::min(fascia, heel);
     fascia_ = std::clamp(fascia - drop_, 0.0, plumb_);
-    const double allowance = c.Type == RafterType::kShed ? thickness : thickness / 2;
+    const double allowance = c.Type == Member::kShed ? thickness : thickness / 2;
     ridge_ = overhang_ + c.Run * plan - allowance * plan;
     commonTangent_ = common;
     plan_ = plan;
@@ -53,7 +53,7 @@ class Wood {
     if (x > overhang_ && y < SeatLevel()) return false;
     if (kneewall_ > 0 && x > KneewallX() && y < KneewallSeat()) return false;
     if (!square_ || overhang_ == 0) return x > 0 && (x > overhang_ || y > -fascia_);
-    // The fascia plane stands square to the roof plane, through the eave that the roof planes end in.
+    // The fascia plane is square to the roof plane and goes through the eave, where the roof planes end.
     const double acrossEave = x / plan_;
     return x > overhang_ || acrossEave + (y - drop_) * commonTangent_ > 0;
   }

@@ -1,4 +1,4 @@
-// The calculator's window by keyboard and by buttons, without a screen.
+// The calculator's window, by keyboard and by buttons, without a screen.
 #include "ftcalc/calculator_window.h"
 
 #include <gtest/gtest.h>
@@ -165,7 +165,7 @@ TEST(OneCalculator, SecondStartAsksTheFirstToCome) {
   QObject::connect(&first, &SingleWindow::Asked, &window, &CalculatorWindow::Raise);
   window.showMinimized();
   QSignalSpy asked(&first, &SingleWindow::Asked);
-  // The answer comes from this thread's events, so the question stands in another one.
+  // The answer needs the events of this thread, so the question is asked in another one.
   bool raised = false;
   const std::unique_ptr<QThread> second(
       QThread::create([&] { raised = SingleWindow(folder.filePath("calculator")).RaiseRunning(); }));

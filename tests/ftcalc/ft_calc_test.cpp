@@ -1,4 +1,4 @@
-// Sums as a carpenter types them, key by key, and what is shown.
+// Sums as a carpenter types them, key by key, and what the display shows.
 #include "ftcalc/ft_calc.h"
 
 #include <gtest/gtest.h>
@@ -210,7 +210,7 @@ TEST(FtCalc, LongEntryStops) {
   EXPECT_EQ(calculator.Display().size(), FtCalc::kLongestEntry);
 }
 
-// Whatever is pressed, it goes on, and a figure is shown.
+// Whatever is pressed, it keeps working and shows a number.
 TEST(FtCalc, EndlessFiddling) {
   constexpr std::string_view kKeys = "0123456789.,'\"/ -+*x:=ftmcheo";
   std::mt19937 random(7);

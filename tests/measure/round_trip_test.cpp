@@ -1,6 +1,6 @@
-// For every number: what is shown can be read again, and what comes out of a text is a number.
+// For any number: the text shown can be read again, and any text gives a number.
 #include <gtest/gtest.h>
-// The adaptor needs the framework in front of it.
+// rapidcheck's header must come after that of googletest.
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace {
 constexpr double kThirtySecond = 1.0 / 32;
 constexpr double kMillimetresPerInch = 25.4;
 
-// Seven significant digits hold a number to five parts in ten million.
+// Seven significant digits keep a number to five parts in ten million.
 double Tolerance(const MeasureConverter& converter, double value) {
   const double unit = converter.BaseUnits == kBaseMillimetres ? kMillimetresPerInch : 1;
   return std::max(kThirtySecond * unit * (1 + 1e-9), std::abs(value) * 5.1e-7);
@@ -28,7 +28,7 @@ bool ReadsBack(const MeasureConverter& converter, double value) {
   return std::abs(converter.ToValue(converter.ToText(value)) - value) <= Tolerance(converter, value);
 }
 
-// Sixty-fourths of an inch around the half sixteenths, over any length a roof can have.
+// Sixty-fourths of an inch, so that half sixteenths occur, over any length that a roof can have.
 RC_GTEST_PROP(RoundTrip, LengthsReadBackWithinAThirtySecond, (std::int32_t sixtyFourths)) {
   MeasureConverter converter;
   converter.Units = *rc::gen::element(kFeetAndInches, kInchesAlone, kMillimetres);
@@ -70,7 +70,7 @@ RC_GTEST_PROP(AnyText, IsAFiniteNumber, (const std::string& text)) {
   RC_ASSERT(std::isfinite(MeasureConverter().ToValue(text)));
 }
 
-// Texts of the pieces that a measure is made of come much closer to one than any bytes do.
+// Texts made of the pieces of a measure come much closer to a measure than random bytes.
 RC_GTEST_PROP(AnyText, OfPiecesIsAFiniteNumberThatReadsBack, ()) {
   const auto pieces =
       *rc::gen::container<std::vector<std::string>>(rc::gen::elementOf(std::vector<std::string>{

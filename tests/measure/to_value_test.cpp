@@ -1,4 +1,4 @@
-// What a person types into a field, row by row, and the number that it stands for.
+// What a person types into a field, row by row, and the number that it means.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -36,7 +36,7 @@ double InMillimetres(std::string_view text) {
   return converter.ToValue(text);
 }
 
-// A bare number stands for base units, so these read the same in both systems.
+// A bare number is in base units, so these read the same in both systems.
 class BareNumber : public testing::TestWithParam<Row> {};
 
 TEST_P(BareNumber, IsInBaseUnits) {
@@ -90,7 +90,7 @@ constexpr Row kBareNumbers[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Text, BareNumber, testing::ValuesIn(kBareNumbers), NameOf<Row>);
 
-// A unit converts, whatever the base units are.
+// A unit is converted, whatever the base units are.
 class WithUnit : public testing::TestWithParam<Row> {};
 
 TEST_P(WithUnit, IsConverted) {
@@ -153,7 +153,7 @@ constexpr Row kWithUnits[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Text, WithUnit, testing::ValuesIn(kWithUnits), NameOf<Row>);
 
-// What cannot be read is 0, never a part of it.
+// A text that cannot be read is 0, never the number in one of its parts.
 class Unreadable : public testing::TestWithParam<Row> {};
 
 TEST_P(Unreadable, IsZero) {
@@ -236,7 +236,7 @@ constexpr Row kUnreadable[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Text, Unreadable, testing::ValuesIn(kUnreadable), NameOf<Row>);
 
-// 10,000 characters of anything are read at once: as a number where they are one, else as 0.
+// 10,000 characters of anything are read at once: as a number if they are one, otherwise as 0.
 struct LongRow {
   const char* name;
   std::string_view repeated;

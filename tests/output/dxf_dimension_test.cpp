@@ -1,4 +1,4 @@
-// Dimensions: the entity that a CAD program measures and the block that it shows.
+// Dimensions: the entity that a CAD program measures and the block that it draws.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ struct Found {
   std::vector<DxfRecord> Lines, Arrows, Texts;
 };
 
-/// Texts, arrows, extension and both tiers are 4.
+/// Texts, arrows, extension and both tiers are 4 each.
 DxfWriter Writer() {
   DxfWriter writer = SampleWriter();
   writer.LengthText = nullptr;

@@ -1,4 +1,4 @@
-// Whole files, as they were when outside readers showed them right.
+// Whole files, as they were when outside readers showed them correctly.
 #include <gtest/gtest.h>
 
 #include "sample_dxf.h"

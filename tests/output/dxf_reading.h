@@ -1,4 +1,4 @@
-// A DXF file taken apart into pairs and records, as a reader does it.
+// A DXF file split into pairs and records, as a reader does it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,12 +10,12 @@
 
 namespace pitchcraft::testing {
 
-/// What begins with a pair 0 and goes to the next.
+/// Begins with a pair 0 and ends before the next.
 struct DxfRecord {
   std::string Type;
   std::vector<std::pair<int, std::string>> Pairs;
 
-  /// The value of the first pair with the code, or "-".
+  /// The value of the first pair with this code, or "-".
   std::string operator()(int code) const {
     for (const auto& [found, value] : Pairs) {
       if (found == code) return value;
@@ -52,7 +52,7 @@ class DxfContent {
     return found;
   }
 
-  /// The records of a type in a section; those in blocks are not in ENTITIES.
+  /// The records of a type in a section. ENTITIES does not include those in blocks.
   std::vector<DxfRecord> In(const std::string& section, const std::string& type) const {
     std::vector<DxfRecord> found;
     std::string present;
@@ -63,7 +63,7 @@ class DxfContent {
     return found;
   }
 
-  /// The record of a table by its name.
+  /// The record of a table with this name.
   DxfRecord Entry(const std::string& type, const std::string& name) const {
     for (const DxfRecord& record : Named(type)) {
       if (record(2) == name) return record;
@@ -72,7 +72,7 @@ class DxfContent {
     return {};
   }
 
-  /// The value behind a variable of the header, `index` pairs on.
+  /// The value after a variable of the header, `index` pairs further on.
   std::string Variable(const std::string& name, int index = 0) const {
     const auto& pairs = records_.at(0).Pairs;
     for (std::size_t i = 0; i < pairs.size(); ++i) {

@@ -1,4 +1,4 @@
-// Texts as a DXF file holds them.
+// Texts as written in a DXF file.
 #include <gtest/gtest.h>
 
 #include "output/dxf_pairs.h"

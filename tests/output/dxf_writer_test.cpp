@@ -1,4 +1,4 @@
-// What each operation of the writer puts into the file.
+// What each operation of the writer adds to the file.
 #include "output/dxf_writer.h"
 
 #include <gmock/gmock.h>
@@ -205,7 +205,7 @@ TEST(DxfWriter, TheFileIsAsciiWhateverIsTyped) {
   EXPECT_EQ(Read(writer).In("ENTITIES", "DIMENSION").size(), 1U);
 }
 
-/// Has to hold where the C++ and the C library both write a comma.
+/// Must hold when both the C++ and the C library write a comma.
 TEST(DxfWriter, ACommaLocaleChangesNothing) {
   const std::string before = SampleDrawing().Bytes();
   const char* old = std::setlocale(LC_ALL, nullptr);

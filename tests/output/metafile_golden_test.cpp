@@ -1,4 +1,4 @@
-// Whole metafiles, as they were when outside players showed them right.
+// Whole metafiles, as they were when outside players showed them correctly.
 #include <gtest/gtest.h>
 
 #include "sample_recording.h"

@@ -1,4 +1,4 @@
-// A placeable metafile taken apart into words and records, as a player does it.
+// A placeable metafile split into words and records, as a player does it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ class MetafileContent {
     }
     return found;
   }
-  /// The words of the only record of its kind.
+  /// The words of the only record of this kind.
   std::vector<int> Only(int function) const {
     const auto found = Named(function);
     EXPECT_EQ(found.size(), 1U) << std::hex << function;
@@ -74,8 +74,8 @@ class MetafileContent {
   std::size_t Largest = 0;
 };
 
-/// The table of objects as a player keeps it. It fails a test that selects or deletes what is not there, or
-/// deletes what is selected.
+/// The table of objects, as a player keeps it. Fails a test that selects or deletes an object that does not
+/// exist, or deletes the selected one.
 class ObjectTable {
  public:
   void Play(const ReadRecord& record) {

@@ -1,4 +1,4 @@
-// What a placeable metafile holds, byte by byte.
+// The contents of a placeable metafile, byte by byte.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -153,7 +153,7 @@ TEST(Metafile, FilledFigures) {
   EXPECT_THAT(content.Only(kPolygon), ElementsAre(3, 1, 2, 3, 4, 5, 7)) << "two points are no area";
   EXPECT_THAT(content.Named(kPen)[0].Words[0], 5) << "a polygon has no outline";
   EXPECT_THAT(content.Named(kBrush)[1].Words, ElementsAre(2, 0x00FF, 0, 2));
-  // Bottom, right, top, left as they are seen: y grows upward.
+  // Bottom, right, top, left as seen on the paper: y grows upward.
   EXPECT_THAT(content.Only(0x0418), ElementsAre(2, 11, 22, 1));
   EXPECT_THAT(content.Only(0x041B), ElementsAre(2, 31, 22, 1));
   EXPECT_THAT(content.Only(0x061C), ElementsAre(4, 4, 2, 11, 22, 1));

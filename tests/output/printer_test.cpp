@@ -1,4 +1,4 @@
-// One page written row by row, and the drawings on it.
+// One page, written row by row, with drawings on it.
 #include "output/printer.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A drawing with all that a DXF file can hold, as an export would tell it.
+// A drawing with everything that a DXF file can hold, added as an export would add it.
 #pragma once
 
 #include "output/dxf_writer.h"

@@ -1,4 +1,4 @@
-// A recording with every operation, as the canvas would leave it.
+// A recording with every operation, as the recorder would leave it.
 #pragma once
 
 #include "drawing/recording.h"

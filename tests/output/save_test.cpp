@@ -1,4 +1,4 @@
-// Exports as files: whole or not at all, and what a person is told.
+// Exports as files: whole or not at all, and the errors that people are shown.
 #include <gtest/gtest.h>
 #include <unistd.h>
 

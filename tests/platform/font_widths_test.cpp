@@ -1,4 +1,4 @@
-// The built-in table of widths against the face that the painter sets.
+// The built-in table of widths compared with the face that the painter uses.
 #include <gtest/gtest.h>
 
 #include <QFontInfo>
@@ -57,7 +57,7 @@ TEST_P(FontWidths, AgreeWithTheTable) {
   const QFontMetricsF metrics(font);
   const ArialMeter meter;
   const double cell = font.pixelSize() / kEmPerCell;
-  // AV, To and 11 are pairs that kerning would bring closer.
+  // Kerning would bring AV, To and 11 closer together.
   for (const char* text :
        {"12' 6 1/2\"", "0123456789", "AVAVAV To Ty 1111", "PITCHCRAFT Rafter fi ffl", "3600 mm",
         "26.57\u00b0", "\u00bd \u2013 \u2014 \u201c\u201d \u2026", "%&()*+,-./:;<=>?@[]"}) {

@@ -1,4 +1,4 @@
-// The tests of this room paint, so the toolkit starts before them.
+// The tests of this room paint, so the toolkit is started before them.
 #include <gtest/gtest.h>
 
 #include "platform/font_setup.h"

@@ -14,7 +14,7 @@ namespace {
 constexpr DrawColor kWhite = 0xFFFFFF;
 constexpr DrawColor kRed = 0x0000FF;
 
-// An image of 100 x 80 pixels whose canvas has a pixel as its drawing unit, y downward.
+// An image of 100 x 80 pixels; its canvas has one drawing unit per pixel, y downward.
 class PainterCanvasTest : public testing::Test {
  protected:
   explicit PainterCanvasTest(double ratio = 1)
@@ -32,7 +32,7 @@ class PainterCanvasTest : public testing::Test {
 
   int Light(int x, int y) const { return qGray(image_.pixel(x, y)); }
 
-  /// The smallest box, in pixels, that holds everything brighter than a third.
+  /// The smallest box, in pixels, around everything brighter than a third.
   QRect Inked() const {
     QRect box;
     for (int y = 0; y < image_.height(); ++y) {
@@ -146,7 +146,7 @@ TEST_F(PainterCanvasTest, HatchCoversPartOfItsInsideAndNothingElse) {
   EXPECT_GT(lit, 38 * 38 / 10);
   EXPECT_LT(lit, 38 * 38 / 2);
   EXPECT_TRUE(QRect(9, 9, 43, 43).contains(Inked()));
-  // Falling: the light goes from left above to right below.
+  // Falling: the bright lines run from the upper left to the lower right.
   int falling = 0;
   int rising = 0;
   for (int x = 15; x < 45; ++x) {
@@ -165,7 +165,7 @@ TEST_F(PainterCanvasTest, EllipseRectangleAndArcStayInTheirBox) {
   EXPECT_EQ(Light(40, 30), 0);
   EXPECT_EQ(Light(40, Inked().top()), 255);
   image_.fill(Qt::black);
-  // From due east to due north: the right upper quarter.
+  // From due east to due north: the upper right quarter.
   Play(ArcOp{{20, 20}, {60, 60}, {60, 40}, {40, 20}, {kWhite, 0, 0}});
   EXPECT_GE(Inked().left(), 38);
   EXPECT_LE(Inked().bottom(), 41);

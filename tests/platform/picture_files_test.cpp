@@ -1,4 +1,4 @@
-// Picture files: what is in them, and what happens when they cannot be written.
+// Picture files: their contents, and what happens if they cannot be written.
 #include "platform/picture_files.h"
 
 #include <gmock/gmock.h>
@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 
 #include "core/run_time_error.h"
-#include "document/document.h"
+#include "support/document_api.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"
@@ -46,7 +46,7 @@ TEST_F(PictureFiles, PngIs1600WideAndKeepsTheProportions) {
   EXPECT_EQ(image.width(), 1600);
   EXPECT_EQ(image.height(), 800);
   EXPECT_EQ(image.pixel(10, 10) & 0xFFFFFFU, 0xFFFFFFU);
-  // The line runs from left below to right above.
+  // The line runs from the lower left to the upper right.
   EXPECT_LT(qGreen(image.pixel(800, 400)), 60);
   EXPECT_GT(qRed(image.pixel(800, 400)), 200);
 }
@@ -119,9 +119,9 @@ TEST_F(PictureFiles, NameOutsideAsciiIsKept) {
 TEST_F(PictureFiles, DocumentShowsItsDrawing) {
   NullSurroundings surroundings;
   Document document(surroundings.Get());
-  document.Form_Load();
+  Start(document);
   const Picture shown = ShownPicture(document);
-  EXPECT_EQ(shown.Size.ScaleWidth, document.Picture1.Place.Width);
+  EXPECT_EQ(shown.Size.ScaleWidth, document.Layout().picture1.Width);
   EXPECT_EQ(WritePicture(shown, File("roof.png")), std::nullopt);
   const QImage image(QString::fromStdString(File("roof.png").string()));
   int lit = 0;

@@ -1,4 +1,4 @@
-// The settings' store, in a file of its own.
+// The store of settings, in a file of its own.
 #include "platform/qt_store.h"
 
 #include <gtest/gtest.h>

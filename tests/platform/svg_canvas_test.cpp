@@ -55,7 +55,7 @@ TEST(SvgCanvas, FillsAndFigures) {
   EXPECT_THAT(text, HasSubstr(R"(<pattern id="h1")"));
   EXPECT_THAT(text, HasSubstr(R"(<ellipse cx="10" cy="5" rx="10" ry="5")"));
   EXPECT_THAT(text, HasSubstr(R"(rx="2" ry="2")"));
-  // A quarter in two eighths: from due east over north-east to due north.
+  // A quarter circle in two eighths: from due east over north-east to due north.
   EXPECT_THAT(text, HasSubstr(R"(<path d="M20 10A10 10 0 0 0 17.07 2.93A10 10 0 0 0 10 0")"));
 }
 

@@ -4,8 +4,6 @@
 
 #include <set>
 
-#include "sheet/roof_types.h"
-
 namespace pitchcraft {
 namespace {
 
@@ -15,8 +13,8 @@ TEST(Sheet, EveryControlIsFoundByItsName) {
   for (const AnyControl& any : sheet.Controls()) {
     const Control& control = ControlOf(any);
     EXPECT_TRUE(names.insert(control.Name).second) << control.Name;
-    const AnyControl* found = sheet.Find(control.Name);
-    ASSERT_NE(found, nullptr) << control.Name;
+    const std::optional<AnyControl> found = sheet.Find(control.Name);
+    ASSERT_TRUE(found) << control.Name;
     EXPECT_EQ(&ControlOf(*found), &control);
   }
   // Count of the controls by family: what a dump must hold.
@@ -25,8 +23,8 @@ TEST(Sheet, EveryControlIsFoundByItsName) {
   EXPECT_EQ(names.count("Label(23)"), 1U);
   EXPECT_EQ(names.count("FTUpperFascia"), 1U);
   EXPECT_EQ(names.count("Command1"), 1U);
-  EXPECT_EQ(sheet.Find("FtSpan"), nullptr);
-  EXPECT_EQ(sheet.Find("FtSpan(3)"), nullptr);
+  EXPECT_FALSE(sheet.Find("FtSpan"));
+  EXPECT_FALSE(sheet.Find("FtSpan(3)"));
 }
 
 TEST(Sheet, AFieldIsCalledByTheLabelBesideIt) {
@@ -36,16 +34,6 @@ TEST(Sheet, AFieldIsCalledByTheLabelBesideIt) {
   EXPECT_EQ(sheet.AccessibleNameOf(sheet.Span[0]), "Run");
   EXPECT_EQ(sheet.AccessibleNameOf(sheet.RoofList), "Roof");
   EXPECT_EQ(sheet.AccessibleNameOf(sheet.BayAngle), "Angle");
-}
-
-TEST(RoofTypes, CodesAndPositions) {
-  EXPECT_EQ(RoofTypes().size(), 11U);
-  EXPECT_EQ(ListIndexOfRoof(roof::kGambrel), 10);
-  EXPECT_EQ(ListIndexOfRoof(roof::kBastardHip), 3) << "a bastard hip stands under Hip";
-  EXPECT_EQ(ListIndexOfRoof(6), -1);
-  EXPECT_EQ(RoofTypeByCode(7), nullptr);
-  EXPECT_EQ(RoofTypeByItem("hip"), nullptr) << "compared exactly";
-  EXPECT_EQ(RoofTypeByItem("Hip")->HelpTopic, 400);
 }
 
 }  // namespace

@@ -74,18 +74,18 @@ class Colors : public ::testing::TestWithParam<const char*> {
 
 TEST_P(Colors, OfTheDrawingStandOut) {
   const pitchcraft::Document& document = Document();
-  EXPECT_GE(Of(document.LineColor, document.BackColor), kLeastForLines);
-  EXPECT_GE(Of(document.DimColor, document.BackColor), kLeastForText);  // of its figures, too
-  EXPECT_GE(Of(document.TextColor, document.BackColor), kLeastForText);
+  EXPECT_GE(Of(document.preferences.LineColor, document.preferences.BackColor), kLeastForLines);
+  EXPECT_GE(Of(document.preferences.DimColor, document.preferences.BackColor), kLeastForText);  // of its figures, too
+  EXPECT_GE(Of(document.preferences.TextColor, document.preferences.BackColor), kLeastForText);
   // The rules of the product give these; the figures stand in docs/options.md.
-  EXPECT_NEAR(Of(document.LineColor, document.BackColor), 21, 0.01);
-  EXPECT_NEAR(Of(document.DimColor, document.BackColor), 5.25, 0.01);
-  EXPECT_NEAR(Of(document.TextColor, document.BackColor), 19.56, 0.01);
+  EXPECT_NEAR(Of(document.preferences.LineColor, document.preferences.BackColor), 21, 0.01);
+  EXPECT_NEAR(Of(document.preferences.DimColor, document.preferences.BackColor), 5.25, 0.01);
+  EXPECT_NEAR(Of(document.preferences.TextColor, document.preferences.BackColor), 19.56, 0.01);
 }
 
 TEST_P(Colors, OfFieldsStandOut) {
-  EXPECT_NEAR(Of(Document().CtlForeColor, Document().CtlBackColor), 19.56, 0.01);
-  EXPECT_NEAR(Of(Document().CtlCalcColor, Document().CtlBackColor), 5.25, 0.01);
+  EXPECT_NEAR(Of(Document().preferences.CtlForeColor, Document().preferences.CtlBackColor), 19.56, 0.01);
+  EXPECT_NEAR(Of(Document().preferences.CtlCalcColor, Document().preferences.CtlBackColor), 5.25, 0.01);
   for (const char* roof : {"Gable", "Hip", "Bay", "Gambrel"}) {
     QTest::mouseClick(window_->findChild<QToolButton*>(roof), Qt::LeftButton);
     ExpectReadableFields();
@@ -97,7 +97,7 @@ TEST_P(Colors, OfTheDesktopStandOutInFields) {
   surroundings_.store.Set("Pitchcraft", "Settings", "UseSystemColors", "True");
   window_.emplace(surroundings_.Get());
   OpenForTest(*window_);
-  ASSERT_EQ(Document().CtlBackColor, kSystemWindowColor);
+  ASSERT_EQ(Document().preferences.CtlBackColor, kSystemWindowColor);
   ExpectReadableFields();
 }
 

@@ -100,20 +100,20 @@ std::map<std::string, std::string> Everything(WholeProgram& program) {
   std::map<std::string, std::string> all;
   Document& document = program.Document();
   all["document"] = StateOf(document);
-  for (const double value : {double{document.Increment}, double{document.MetricIncrement},
-                             double{document.DxfTextSize}, double{document.DxfMetricTextSize}}) {
+  for (const double value : {double{document.preferences.Increment}, double{document.preferences.MetricIncrement},
+                             double{document.preferences.DxfTextSize}, double{document.preferences.DxfMetricTextSize}}) {
     all["lengths"] += std::to_string(value) + " ";
   }
   for (const std::uint32_t value :
-       {document.BackColor, document.LineColor, document.DimColor, document.TextColor, document.CtlBackColor,
-        document.CtlForeColor, document.CtlCalcColor, document.DxfBackColor,
-        static_cast<std::uint32_t>(document.LineWidth), static_cast<std::uint32_t>(document.DxfTextColor),
-        static_cast<std::uint32_t>(document.DxfLineColor), static_cast<std::uint32_t>(document.DxfDimColor),
-        static_cast<std::uint32_t>(document.PrintAllBlack), static_cast<std::uint32_t>(document.RotateFonts),
-        static_cast<std::uint32_t>(document.UseSystemColors)}) {
+       {document.preferences.BackColor, document.preferences.LineColor, document.preferences.DimColor, document.preferences.TextColor, document.preferences.CtlBackColor,
+        document.preferences.CtlForeColor, document.preferences.CtlCalcColor, document.preferences.DxfBackColor,
+        static_cast<std::uint32_t>(document.preferences.LineWidth), static_cast<std::uint32_t>(document.preferences.DxfTextColor),
+        static_cast<std::uint32_t>(document.preferences.DxfLineColor), static_cast<std::uint32_t>(document.preferences.DxfDimColor),
+        static_cast<std::uint32_t>(document.PrintAllBlack), static_cast<std::uint32_t>(document.preferences.RotateFonts),
+        static_cast<std::uint32_t>(document.preferences.UseSystemColors)}) {
     all["numbers"] += std::to_string(value) + " ";
   }
-  all["project"] = document.ProjectName + " " + document.ProjectFile;
+  all["project"] = document.project.Name + " " + document.project.File;
   all["paper"] = std::to_string(static_cast<int>(program.printer.Setup().Paper));
   program.store.ForEach([&](const std::string& application, const std::string& section,
                             const std::string& key, const std::string& text) {

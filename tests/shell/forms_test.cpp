@@ -44,7 +44,7 @@ class FormWindow : public ::testing::Test, protected WindowHand {
   /// An item of the bar, or of a popup, which has no action as long as it does not show.
   void Click(const std::string& item) {
     if (auto* action = window_.findChild<QAction*>(QString::fromStdString(item))) return action->trigger();
-    Document().ClickMenu(*Document().menus.Find(item));
+    Document().ClickMenu(*Document().design.menus.Find(item));
   }
 
   struct Folder : QTemporaryDir {
@@ -64,15 +64,15 @@ TEST_F(FormWindow, IncrementTakesItsFieldWithEnter) {
     QTest::keyClicks(&field, "1");
     QTest::keyClick(&field, Qt::Key_Return);
   });
-  EXPECT_EQ(double{Document().Increment}, 1);
+  EXPECT_EQ(double{Document().preferences.Increment}, 1);
   With("mnuSpinIncrement", [](QDialog& dialog) {
     QTest::keyClicks(&In<QLineEdit>(dialog, "FtIncrement"), "7");
     ClickIn(dialog, "Command1(1)");
   });
-  EXPECT_EQ(double{Document().Increment}, 1);
-  Document().Increment = 0.3;
+  EXPECT_EQ(double{Document().preferences.Increment}, 1);
+  Document().preferences.Increment = 0.3;
   With("mnuSpinIncrement", [](QDialog& dialog) { ClickIn(dialog, "Command1(0)"); });
-  EXPECT_EQ(double{Document().Increment}, double{Single(0.3)}) << "shown as a sixteenth, not rounded to one";
+  EXPECT_EQ(double{Document().preferences.Increment}, double{Single(0.3)}) << "shown as a sixteenth, not rounded to one";
 }
 
 TEST_F(FormWindow, TipsGoRoundAndTheBoxIsStored) {
@@ -111,7 +111,7 @@ TEST_F(FormWindow, DisclaimerComesAtTheStartAndStoresItsBoxAsItStands) {
 
 // A desktop that tiles its windows gives them their size while the forms of the start are open.
 TEST_F(FormWindow, TheWindowFollowsItsSizeUnderAnOpenForm) {
-  const int before = Document().Picture1.Place.Width;
+  const int before = Document().Layout().picture1.Width;
   const int width = window_.width() + 200;
   With("mnuHelpTips", [&](QDialog& dialog) {
     window_.resize(width, window_.height());
@@ -120,7 +120,7 @@ TEST_F(FormWindow, TheWindowFollowsItsSizeUnderAnOpenForm) {
     EXPECT_EQ(Find("Picture1").width() * 15, before + 200 * 15);
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
-  EXPECT_EQ(Document().Picture1.Place.Width, before + 200 * 15) << "drawn for the new size";
+  EXPECT_EQ(Document().Layout().picture1.Width, before + 200 * 15) << "drawn for the new size";
 }
 
 TEST_F(FormWindow, AboutShowsTheSystem) {
@@ -163,9 +163,9 @@ TEST_F(FormWindow, ColorIsChosenByKeysAndAppliedBehindTheOpenForm) {
     EXPECT_FALSE(list.isVisible());
     EXPECT_EQ(grid.item(0, 1)->text(), "Dark gray");
     EXPECT_EQ(In<QLineEdit>(dialog, "txtControlText").palette().color(QPalette::Base), QColor(64, 64, 64));
-    EXPECT_EQ(Document().CtlBackColor, 0U) << "a copy, until it is applied";
+    EXPECT_EQ(Document().preferences.CtlBackColor, 0U) << "a copy, until it is applied";
     ClickIn(dialog, "cmdApply");
-    EXPECT_EQ(Document().CtlBackColor, 0x404040U);
+    EXPECT_EQ(Document().preferences.CtlBackColor, 0x404040U);
     EXPECT_EQ(Box("FtSpan(0)").palette().color(QPalette::Base), QColor(64, 64, 64)) << "the window follows";
     dialog.reject();
   });
@@ -188,8 +188,8 @@ TEST_F(FormWindow, ArrowOpensTheListOfItsRow) {
     QTest::keyClicks(&size, "4 1/2");
     ClickIn(dialog, "cmdOK");
   });
-  EXPECT_EQ(Document().DxfDimColor, 3);
-  EXPECT_EQ(double{Document().DxfTextSize}, 4.5);
+  EXPECT_EQ(Document().preferences.DxfDimColor, 3);
+  EXPECT_EQ(double{Document().preferences.DxfTextSize}, 4.5);
 }
 
 TEST_F(FormWindow, BoxesAndTheSliderCountWithOkAndNotWithCancel) {
@@ -204,11 +204,11 @@ TEST_F(FormWindow, BoxesAndTheSliderCountWithOkAndNotWithCancel) {
     });
   };
   change("cmdCancel");
-  EXPECT_FALSE(Document().PrintAllBlack || Document().RotateFonts || Document().UseSystemColors);
-  EXPECT_EQ(Document().LineWidth, 1);
+  EXPECT_FALSE(Document().PrintAllBlack || Document().preferences.RotateFonts || Document().preferences.UseSystemColors);
+  EXPECT_EQ(Document().preferences.LineWidth, 1);
   change("cmdOK");
-  EXPECT_TRUE(Document().PrintAllBlack && Document().RotateFonts && Document().UseSystemColors);
-  EXPECT_EQ(Document().LineWidth, 6);
+  EXPECT_TRUE(Document().PrintAllBlack && Document().preferences.RotateFonts && Document().preferences.UseSystemColors);
+  EXPECT_EQ(Document().preferences.LineWidth, 6);
 }
 
 TEST_F(FormWindow, ListsAreEditedInTheirCells) {
@@ -231,7 +231,7 @@ TEST_F(FormWindow, ListsAreEditedInTheirCells) {
     EXPECT_EQ(table.model()->rowCount(), 15);
     ClickIn(dialog, "cmdOK");
   });
-  const auto& rows = Document().sheet.Common[0].List();
+  const auto& rows = Document().design.sheet.Common[0].List();
   ASSERT_EQ(rows.size(), 15U);
   EXPECT_EQ(rows[0].Caption, "3x5");
   EXPECT_EQ(rows[0].Right, 4.5);
@@ -259,7 +259,7 @@ TEST_F(FormWindow, ATextsizeOfNothingIsToldOverTheForm) {
     EXPECT_EQ(size.text(), "2\"");
     dialog.reject();
   });
-  EXPECT_EQ(double{Document().DxfTextSize}, 2);
+  EXPECT_EQ(double{Document().preferences.DxfTextSize}, 2);
 }
 
 TEST(Splash, ClosesByEscapeByAClickAndByItself) {

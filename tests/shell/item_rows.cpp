@@ -177,7 +177,7 @@ Deed Cuts(const char* key) {
       EXPECT_EQ(Ticked(program, ("mnuSettings" + std::string(other) + "Cut").c_str()), on) << other;
     }
     EXPECT_EQ(program.Find("LWFascia(0)").isEnabled(), std::string(key) == "Plumb");
-    if (program.Document().RoofType != roof::kGambrel) {
+    if (program.Document().RoofType != Roof::kGambrel) {
       EXPECT_NE(program.Shown(), before);
     }
   };
@@ -357,7 +357,7 @@ void StartsAProject(WholeProgram& program, const Pick& pick) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   pick();
-  EXPECT_EQ(program.Document().RoofType, roof::kGable);
+  EXPECT_EQ(program.Document().RoofType, Roof::kGable);
   EXPECT_EQ(program.window.windowTitle(), "Pitchcraft - [Barn]");
 }
 
@@ -365,7 +365,7 @@ void OpensAProject(WholeProgram& program, const Pick& pick) {
   WriteWhole(program.PathOf("shed.pcf"), "[Settings]\r\nRafterType=3\r\nSlope=5\r\nSpan=150\r\n");
   const Hand<QFileDialog> hand([&](QFileDialog& box) { Name(box, program.PathOf("shed.pcf")); });
   pick();
-  EXPECT_EQ(program.Document().RoofType, roof::kShed);
+  EXPECT_EQ(program.Document().RoofType, Roof::kShed);
   EXPECT_EQ(program.Box("FtSpan(0)").Entry(), "12' 6\"");
   EXPECT_TRUE(program.Find<QToolButton>("Shed").isChecked());
 }

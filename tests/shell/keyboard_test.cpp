@@ -64,7 +64,7 @@ class Keyboard : public WindowTest, public ::testing::WithParamInterface<const c
 
 TEST_P(Keyboard, TabStopsOnceAtEveryFieldAndComesBack) {
   Press(GetParam());
-  std::vector<std::string> expected = ExpectedStops(Document().sheet);
+  std::vector<std::string> expected = ExpectedStops(Document().design.sheet);
   ASSERT_GT(expected.size(), 10U);
   expected.emplace_back("VSTab(0)");
   expected.emplace_back("Picture1");
@@ -106,7 +106,7 @@ TEST_P(Keyboard, BacktabGoesTheSameWayBack) {
 TEST_P(Keyboard, StopsHaveNamesOfTheirOwn) {
   Press(GetParam());
   std::set<std::string> names;
-  for (const std::string& stop : ExpectedStops(Document().sheet)) {
+  for (const std::string& stop : ExpectedStops(Document().design.sheet)) {
     const std::string name = Find(stop).accessibleName().toStdString();
     const auto* button = window_.findChild<QPushButton*>(QString::fromStdString(stop));
     if (button != nullptr) continue;  // called by its text
@@ -122,7 +122,7 @@ TEST_P(Keyboard, WhatTakesNoFocusHasAnotherWay) {
   for (const QAction* action : window_.findChildren<QAction*>()) {
     commands.insert(action->text().remove('&').remove("...").toStdString());
   }
-  for (const std::string& roof : Document().sheet.RoofList.List()) commands.insert(roof);
+  for (const std::string& roof : Document().design.sheet.RoofList.List()) commands.insert(roof);
   const std::set<std::string> files{"New project", "Open project", "Save project"};
   for (const QToolButton* button : Find("tbToolBar").findChildren<QToolButton*>()) {
     const std::string name = button->accessibleName().toStdString();
@@ -130,7 +130,7 @@ TEST_P(Keyboard, WhatTakesNoFocusHasAnotherWay) {
   }
   for (const char* item : {"New", "Open", "Save"}) EXPECT_TRUE(commands.contains(item)) << item;
   // Each pair of arrows steps the field of its row, which the arrow keys do, too.
-  for (const SpinControl& spin : Document().sheet.Spin) {
+  for (const SpinControl& spin : Document().design.sheet.Spin) {
     const QWidget& arrows = Find(spin.Name);
     if (!arrows.isVisible()) continue;
     bool beside = false;
@@ -153,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(Roofs, Keyboard,
 using Names = WindowTest;
 
 TEST_F(Names, EveryControlIsAWidgetOfItsName) {
-  for (const AnyControl& any : Document().sheet.Controls()) {
+  for (const AnyControl& any : Document().design.sheet.Controls()) {
     const Control& control = ControlOf(any);
     if (control.Host == Host::kNone) continue;
     EXPECT_NE(window_.findChild<QWidget*>(QString::fromStdString(control.Name)), nullptr) << control.Name;
@@ -161,16 +161,16 @@ TEST_F(Names, EveryControlIsAWidgetOfItsName) {
   for (const char* name : {"Picture1", "Picture3", "VSTab(0)", "VSTab(1)", "tbToolBar", "StatusBar"}) {
     EXPECT_FALSE(Find(name).accessibleName().isEmpty()) << name;
   }
-  for (const ToolButton& button : Document().toolBar.Buttons()) {
+  for (const ToolButton& button : Document().design.toolBar.Buttons()) {
     EXPECT_FALSE(Find<QToolButton>(std::string(button.Key)).accessibleName().isEmpty());
     EXPECT_FALSE(Find<QToolButton>(std::string(button.Key)).icon().isNull()) << button.Key;
   }
 }
 
 TEST_F(Names, EveryMenuItemOfTheBarIsAnActionOfItsName) {
-  for (const MenuItem* item : Document().menus.Items()) {
-    const MenuItem* holder = Document().menus.HolderOf(*item);
-    if (holder == nullptr || Document().menus.IsPopup(*holder)) continue;
+  for (const MenuItem* item : Document().design.menus.Items()) {
+    const MenuItem* holder = Document().design.menus.HolderOf(*item);
+    if (holder == nullptr || Document().design.menus.IsPopup(*holder)) continue;
     const auto* action = window_.findChild<QAction*>(QString::fromStdString(item->Name));
     ASSERT_NE(action, nullptr) << item->Name;
     EXPECT_EQ(action->isVisible(), item->Visible) << item->Name;
@@ -188,7 +188,7 @@ TEST_F(Names, AssistiveProgramsReadAndWriteAField) {
   box.setFocus();
   field->editableTextInterface()->replaceText(0, int(box.text().size()), "8'");
   Key(Qt::Key_Tab);
-  EXPECT_EQ(double(Document().Rafter1.Span), 96);
+  EXPECT_EQ(double(Document().design.Rafter1.Span), 96);
   QAccessibleInterface* lock = QAccessible::queryAccessibleInterface(&Find("chkHeel(0)"));
   EXPECT_EQ(lock->text(QAccessible::Name), "Heel, lock");
   EXPECT_EQ(lock->text(QAccessible::Description), "Lock or unlock the heel height dimension");
@@ -215,7 +215,7 @@ TEST_F(Names, AssistiveProgramsClickAToolButton) {
   const QString press = hip->actionInterface()->actionNames().front();
   EXPECT_EQ(hip->actionInterface()->keyBindingsForAction(press), QStringList("Alt+4"));
   hip->actionInterface()->doAction(press);
-  EXPECT_EQ(Document().sheet.RoofList.Text(), "Hip");
+  EXPECT_EQ(Document().design.sheet.RoofList.Text(), "Hip");
   EXPECT_TRUE(hip->state().checked);
 }
 
@@ -224,10 +224,10 @@ TEST_F(Names, AssistiveProgramsStepAField) {
   EXPECT_EQ(arrows->role(), QAccessible::SpinBox);
   EXPECT_EQ(arrows->text(QAccessible::Name), "Run, step");
   arrows->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-  const double more = double(Document().Rafter1.Span);
+  const double more = double(Document().design.Rafter1.Span);
   EXPECT_GT(more, 144);
   arrows->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
-  EXPECT_EQ(double(Document().Rafter1.Span), 144);
+  EXPECT_EQ(double(Document().design.Rafter1.Span), 144);
 }
 
 TEST_F(Names, TheStatusLineIsReadAndNotOnlyNamed) {

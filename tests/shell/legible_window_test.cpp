@@ -2,7 +2,7 @@
 // letters of any desktop.
 #include "../support/faces.h"
 #include "../support/legible_words.h"
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 #include "window_test.h"
 
 namespace pitchcraft::testing {
@@ -80,7 +80,7 @@ class LegibleWindow : public ::testing::WithParamInterface<Case>, WithFace, publ
 TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
   for (const RoofTypeRow& row : RoofTypes()) {
     Press(std::string(row.ToolButton));
-    for (int page = 0; page < Document().sheet.Tabs[0].PageCount(); ++page) {
+    for (int page = 0; page < Document().design.sheet.Tabs[0].PageCount(); ++page) {
       Find<PageTabs>("VSTab(0)").setCurrentIndex(page);
       ExpectLegible(std::string(row.Item) + ", page " + std::to_string(page));
     }

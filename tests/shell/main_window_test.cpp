@@ -29,12 +29,12 @@ TEST_F(Window, PartsStandWhereTheLayoutSays) {
 }
 
 TEST_F(Window, LargerWindowShowsALargerDrawing) {
-  const int before = Document().Picture1.Place.Width;
+  const int before = Document().Layout().picture1.Width;
   window_.resize(1300, 900);
   QApplication::processEvents();
-  EXPECT_EQ(Document().Window.Width, 1300 * 15);
-  EXPECT_EQ(Document().Picture1.Place.Width, before + 300 * 15);
-  EXPECT_EQ(Find("Picture1").width() * 15, Document().Picture1.Place.Width);
+  EXPECT_EQ(Document().window.Place.Width, 1300 * 15);
+  EXPECT_EQ(Document().Layout().picture1.Width, before + 300 * 15);
+  EXPECT_EQ(Find("Picture1").width() * 15, Document().Layout().picture1.Width);
 }
 
 TEST_F(Window, CannotBeSmallerThanTheSheetNeeds) {
@@ -76,7 +76,7 @@ TEST_F(Window, DrawingShowsAndFollowsAnEntry) {
 
 TEST_F(Window, MissingDrawingSaysSoQuietly) {
   Press("Dual");
-  EXPECT_FALSE(Document().DrawingExists);
+  EXPECT_FALSE(Document().HasFigure());
   const int lit = LitPixels(Find("Picture1"));
   EXPECT_GT(lit, 50);
   EXPECT_LT(lit, 3000);
@@ -86,7 +86,7 @@ TEST_F(Window, PagesSwitchViewsAndFocus) {
   auto& tabs = Find<QTabBar>("VSTab(0)");
   EXPECT_EQ(tabs.count(), 2);
   tabs.setCurrentIndex(1);
-  EXPECT_EQ(Document().CurrentTab, 1);
+  EXPECT_EQ(PageShown(Document().design), 1);
   EXPECT_FALSE(Find("Sheet").isVisible());
   EXPECT_TRUE(Find("Picture3").isVisible());
   EXPECT_GT(LitPixels(Find("Picture3")), 1000);
@@ -110,7 +110,7 @@ TEST_F(Window, TwoRoofsHaveTheirOwnRows) {
   EXPECT_TRUE(Find("FtSpan(1)").isVisible());
   // The left of the drawing is the front roof.
   QTest::mouseClick(&Find("Picture1"), Qt::LeftButton, {}, QPoint(5, 50));
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 0);
   EXPECT_EQ(FocusName(), "LWSlope(0).Left");
   Press("Gable");
   EXPECT_FALSE(Find("VSTab(1)").isVisible());
@@ -122,21 +122,21 @@ TEST_F(Window, BayHasItsStrip) {
   EXPECT_TRUE(Box("FtProjection").isVisible());
   Type("FtProjection", "24");
   Key(Qt::Key_Return);
-  EXPECT_EQ(Document().sheet.Projection.Value(), 24);
+  EXPECT_EQ(Document().design.sheet.Projection.Value(), 24);
 }
 
 TEST_F(Window, MenusWorkAndShowTheirChecks) {
   EXPECT_TRUE(Find<QAction>("mnuImperial").isChecked());
   Trigger("mnuMetric");
-  EXPECT_EQ(Document().UnitRun, 1000);
+  EXPECT_EQ(UnitRun(Document().design), 1000);
   EXPECT_TRUE(Find<QAction>("mnuMetric").isChecked());
   EXPECT_FALSE(Find<QAction>("mnuImperial").isChecked());
   EXPECT_EQ(Box("FtSpan(0)").Entry(), "3600 mm");
   Trigger("mnuMetric");  // a toggle of two: the check stays where the document has it
-  EXPECT_EQ(Find<QAction>("mnuMetric").isChecked(), Document().menus.Metric.Checked);
+  EXPECT_EQ(Find<QAction>("mnuMetric").isChecked(), Document().design.menus.Metric.Checked);
   Trigger("mnuViewToolbar");
   EXPECT_FALSE(Find("tbToolBar").isVisible());
-  EXPECT_EQ(Find("Picture1").height() * 15, Document().Picture1.Place.Height);
+  EXPECT_EQ(Find("Picture1").height() * 15, Document().Layout().picture1.Height);
   Trigger("mnuSettingsDegrees");
   EXPECT_TRUE(Find("cboDegrees(0)").isVisible());
   EXPECT_FALSE(Find("LWSlope(0)").isVisible());
@@ -151,7 +151,7 @@ TEST_F(Window, RightButtonOpensThePopup) {
     if (action->objectName() == "mnuPopUp1SquareCut") action->trigger();
   }
   popup->close();
-  EXPECT_TRUE(Document().menus.SettingsSquareCut.Checked);
+  EXPECT_TRUE(Document().design.menus.SettingsSquareCut.Checked);
 }
 
 TEST_F(Window, RightButtonOnALengthOpensTheStep) {
@@ -178,7 +178,7 @@ TEST_F(Window, StatusFollowsFocusAndPointer) {
 
 TEST_F(Window, TitleIsTheDocumentsAndNothingMore) {
   EXPECT_EQ(window_.windowTitle(), "Pitchcraft - [Untitled]");
-  Document().Title = "Pitchcraft - [*]";
+  Document().window.Title = "Pitchcraft - [*]";
   Press("Shed");
   EXPECT_EQ(window_.windowTitle(), "Pitchcraft - [*][*]");  // the toolkit's way to write a star in brackets
 }

@@ -42,7 +42,7 @@ TEST_P(MetricWindow, HandAndDriverEndInTheSameState) {
     ExpectMillimetres();
   }
   Both({"answer " + file, "click mnufileSaveAs", "answer Shed", "click mnuFileNew"});
-  EXPECT_EQ(hand.Document().RoofType, roof::kGable);
+  EXPECT_EQ(hand.Document().RoofType, Roof::kGable);
   Both({"answer " + file, "click mnuFileOpen"});
   EXPECT_EQ(hand.Document().RoofType, roof.code);
   EXPECT_EQ(window.windowTitle().toStdString(),

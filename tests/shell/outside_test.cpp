@@ -40,8 +40,8 @@ class Outside : public WindowTest {
 
 TEST_F(Outside, ProjectOfTheCommandLineOpens) {
   window_.OpenProject(ShedProject("Sch\u00fcppen.pcf"));
-  EXPECT_EQ(Document().RoofType, roof::kShed);
-  EXPECT_EQ(Document().ProjectName, "Sch\xC3\xBCppen");
+  EXPECT_EQ(Document().design.RoofType, Roof::kShed);
+  EXPECT_EQ(Document().project.Name, "Sch\xC3\xBCppen");
   EXPECT_EQ(Box("FtSpan(0)").text(), "12' 6\"");
   EXPECT_TRUE(window_.windowTitle().contains("Sch\u00fcppen.pcf"));
   EXPECT_TRUE(surroundings_.dialogs.messages.empty());
@@ -51,12 +51,12 @@ TEST_F(Outside, FileThatIsNoneIsAMessage) {
   window_.OpenProject(folder_.filePath("nowhere.pcf"));
   window_.OpenProject(Write("Text.pcf", "no project"));
   EXPECT_EQ(surroundings_.dialogs.messages.size(), 2U);
-  EXPECT_EQ(Document().RoofType, roof::kGable);
+  EXPECT_EQ(Document().design.RoofType, Roof::kGable);
 }
 
 TEST_F(Outside, DroppedProjectOpens) {
   EXPECT_TRUE(Drop(window_, {QUrl::fromLocalFile(ShedProject("Shed.PCF"))}));
-  EXPECT_EQ(Document().RoofType, roof::kShed);
+  EXPECT_EQ(Document().design.RoofType, Roof::kShed);
 }
 
 TEST_F(Outside, OtherDropsAreNotTaken) {
@@ -65,7 +65,7 @@ TEST_F(Outside, OtherDropsAreNotTaken) {
   EXPECT_FALSE(Drop(window_, {shed, shed}));
   EXPECT_FALSE(Drop(window_, {QUrl("https://localhost/Shed.pcf")}));
   EXPECT_FALSE(Drop(window_, {}));
-  EXPECT_EQ(Document().RoofType, roof::kGable);
+  EXPECT_EQ(Document().design.RoofType, Roof::kGable);
 }
 
 TEST_F(Outside, FieldLeavesDropsToTheWindow) {

@@ -7,10 +7,10 @@ namespace {
 class SameState : public WindowTest {
  protected:
   SameState() : other_(otherSurroundings_.Get()), actions_(other_) {
-    other_.Form_Load();
-    other_.Window.Width = window_.width() * 15;
-    other_.Window.Height = window_.height() * 15;
-    other_.Form_Resize();
+    Start(other_);
+    other_.window.Place.Width = window_.width() * 15;
+    other_.window.Place.Height = window_.height() * 15;
+    FollowSize(other_);
   }
 
   void Enter(const std::string& box, const std::string& control, const char* text) {
@@ -125,7 +125,7 @@ TEST_P(BadInput, IsSurvivedByEveryField) {
   Press("Gable");
   Type("FtSpan(0)", "144");
   Key(Qt::Key_Return);
-  EXPECT_EQ(double(Document().Rafter1.Span), 144);
+  EXPECT_EQ(double(Document().design.Rafter1.Span), 144);
 }
 
 INSTANTIATE_TEST_SUITE_P(Roofs, BadInput,

@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 
-#include "cli/script_line.h"
+#include "session/script_line.h"
 #include "core/number_text.h"
 #include "shell/twips.h"
 
@@ -55,7 +55,7 @@ bool ScriptHand::PerformOnName(const std::string& verb, std::string_view rest) {
 }
 
 void ScriptHand::Click(const std::string& name) {
-  if (Document().menus.Find(name) == nullptr) {
+  if (Document().design.menus.Find(name) == nullptr) {
     auto& button = Find<QAbstractButton>(name);
     EXPECT_TRUE(button.isVisible() && button.isEnabled()) << name;
     return QTest::mouseClick(&button, Qt::LeftButton);
@@ -126,10 +126,10 @@ void ScriptHand::Resize(std::string_view size) {
 
 HandAndDriver::HandAndDriver() {
   OpenForTest(window);
-  driven.Form_Load();
+  Start(driven);
   driven.Window.Width = window.width() * kTwipsPerPixel;
   driven.Window.Height = window.height() * kTwipsPerPixel;
-  driven.Form_Resize();
+  FollowSize(driven);
   Compare("start");
 }
 

@@ -1,8 +1,8 @@
 // The lines of a script, done with mouse and keyboard in a real window, beside the driver that performs them.
 #pragma once
 
-#include "cli/dump.h"
-#include "cli/script.h"
+#include "session/dump.h"
+#include "session/script.h"
 #include "window_test.h"
 
 namespace pitchcraft::testing {

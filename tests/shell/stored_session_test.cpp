@@ -161,14 +161,14 @@ TEST_F(SessionTest, ColorsAndIncrementsAreKept) {
   {
     const auto first = Start();
     Document& document = first->Document();
-    document.CtlBackColor = 0x00102030;
-    document.CtlForeColor = 0x0000FF00;
-    document.LineColor = 0x00FF0000;
-    document.BackColor = 0x00203040;
-    document.Increment = 2.5;
-    document.MetricIncrement = 25;
-    document.LineWidth = 3;
-    document.RotateFonts = true;
+    document.preferences.CtlBackColor = 0x00102030;
+    document.preferences.CtlForeColor = 0x0000FF00;
+    document.preferences.LineColor = 0x00FF0000;
+    document.preferences.BackColor = 0x00203040;
+    document.preferences.Increment = 2.5;
+    document.preferences.MetricIncrement = 25;
+    document.preferences.LineWidth = 3;
+    document.preferences.RotateFonts = true;
   }
   const auto second = Start();
   const QPalette palette = second->Box("FtSpan(0)").palette();
@@ -280,7 +280,7 @@ TEST_P(RubbishTest, TheProgramStartsWorksAndLeavesSomethingBetter) {
     hand.Key(Qt::Key_Return);
     EXPECT_EQ(double(hand.Document().Rafter1.Span), 150);
     hand.Press("Hip");
-    EXPECT_EQ(hand.Document().RoofType, roof::kHip);
+    EXPECT_EQ(hand.Document().RoofType, Roof::kHip);
     for (int place = 0; place < 4; ++place) hand.Document().mnuFileMRU_Click(place);
     window.close();
   }

@@ -17,7 +17,7 @@ void PrintTo(const ButtonRow& row, std::ostream* stream) { *stream << row.key; }
 /// A roof's button, pressed on a page of another roof.
 Deed ShowsRoof(int code, const char* caption) {
   return [=](WholeProgram& program, const Pick& press) {
-    program.Press(code == roof::kHip ? "Valley" : "Hip");
+    program.Press(code == Roof::kHip ? "Valley" : "Hip");
     program.TurnTo(1);
     EXPECT_FALSE(program.Find("Picture1").isVisible());
     press();
@@ -26,12 +26,12 @@ Deed ShowsRoof(int code, const char* caption) {
     EXPECT_TRUE(program.Find("Picture1").isVisible());
     EXPECT_EQ(program.Find<QTabBar>("VSTab(0)").currentIndex(), 0);
     EXPECT_EQ(program.Find<QComboBox>("cboType").currentText(), caption);
-    EXPECT_EQ(program.Find<QMenu>("mnuHipLayout").menuAction()->isVisible(), code == roof::kHip);
-    EXPECT_EQ(program.Find<QMenu>("mnuDutch").menuAction()->isVisible(), code == roof::kDutchHip);
-    EXPECT_EQ(program.Find<QMenu>("mnuGambrel").menuAction()->isVisible(), code == roof::kGambrel);
-    EXPECT_EQ(program.Find("Level").isVisible(), code == roof::kGambrel);
-    EXPECT_EQ(program.Find("Toolbar1").isVisible(), code == roof::kBay);
-    EXPECT_EQ(program.Find("VSTab(1)").isVisible(), code == roof::kDualSlope);
+    EXPECT_EQ(program.Find<QMenu>("mnuHipLayout").menuAction()->isVisible(), code == Roof::kHip);
+    EXPECT_EQ(program.Find<QMenu>("mnuDutch").menuAction()->isVisible(), code == Roof::kDutchHip);
+    EXPECT_EQ(program.Find<QMenu>("mnuGambrel").menuAction()->isVisible(), code == Roof::kGambrel);
+    EXPECT_EQ(program.Find("Level").isVisible(), code == Roof::kGambrel);
+    EXPECT_EQ(program.Find("Toolbar1").isVisible(), code == Roof::kBay);
+    EXPECT_EQ(program.Find("VSTab(1)").isVisible(), code == Roof::kDualSlope);
     for (const ToolButton& button : program.Document().toolBar.Buttons()) {
       if (button.RoofListIndex < 0) continue;
       const std::string key(button.Key);
@@ -64,18 +64,18 @@ const ButtonRow kButtons[] = {
     {"Open", "Open project", OpensAProject},
     {"Save", "Save project", SavesTheProject},
     {"Print", "Print", PrintsTheSheet},
-    {"Gable", "Common Gable", ShowsRoof(roof::kGable, "Common Gable")},
-    {"Shed", "Common Shed", ShowsRoof(roof::kShed, "Common Shed")},
-    {"Dual", "Dual Slope", ShowsRoof(roof::kDualSlope, "Dual Slope")},
-    {"Hip", "Hip", ShowsRoof(roof::kHip, "Hip")},
-    {"Valley", "Valley", ShowsRoof(roof::kValley, "Valley")},
+    {"Gable", "Common Gable", ShowsRoof(Roof::kGable, "Common Gable")},
+    {"Shed", "Common Shed", ShowsRoof(Roof::kShed, "Common Shed")},
+    {"Dual", "Dual Slope", ShowsRoof(Roof::kDualSlope, "Dual Slope")},
+    {"Hip", "Hip", ShowsRoof(Roof::kHip, "Hip")},
+    {"Valley", "Valley", ShowsRoof(Roof::kValley, "Valley")},
     {"Unequal Span Valley", "Unequal Span Valley",
-     ShowsRoof(roof::kUnequalSpanValley, "Unequal Span Valley")},
-    {"Bay", "Bay Roof", ShowsRoof(roof::kBay, "Bay Roof")},
-    {"Dutch Hip", "Dutch Hip", ShowsRoof(roof::kDutchHip, "Dutch Hip")},
-    {"Blind Valley", "Blind Valley", ShowsRoof(roof::kBlindValley, "Blind Valley")},
-    {"Octagon", "Octagon", ShowsRoof(roof::kOctagon, "Octagon")},
-    {"Gambrel", "Gambrel Roof", ShowsRoof(roof::kGambrel, "Gambrel Roof")},
+     ShowsRoof(Roof::kUnequalSpanValley, "Unequal Span Valley")},
+    {"Bay", "Bay Roof", ShowsRoof(Roof::kBay, "Bay Roof")},
+    {"Dutch Hip", "Dutch Hip", ShowsRoof(Roof::kDutchHip, "Dutch Hip")},
+    {"Blind Valley", "Blind Valley", ShowsRoof(Roof::kBlindValley, "Blind Valley")},
+    {"Octagon", "Octagon", ShowsRoof(Roof::kOctagon, "Octagon")},
+    {"Gambrel", "Gambrel Roof", ShowsRoof(Roof::kGambrel, "Gambrel Roof")},
     {"Plumb", "Plumb Cut Fascia", Cuts("Plumb")},
     {"Square", "Square Cut Fascia", Cuts("Square")},
     {"Level", "Level Cut Fascia", Cuts("Level")},

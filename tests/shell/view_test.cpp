@@ -43,7 +43,7 @@ TEST_F(View, TheWheelMagnifiesAboutThePointer) {
 TEST_F(View, CopyTakesWhatIsBeingTyped) {
   Type("FtSpan(0)", "30'");
   Key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(Document().Rafter1.Span, 360);
+  EXPECT_EQ(Document().design.Rafter1.Span, 360);
   EXPECT_TRUE(QApplication::clipboard()->mimeData()->data("image/svg+xml").contains("29"));
 }
 
@@ -125,7 +125,7 @@ TEST_F(View, ANewValueKeepsWhatIsLookedAt) {
   const QPointF offset = Picture().View().Offset();
   Type("FtSpan(0)", "30'");
   Key(Qt::Key_Tab);
-  EXPECT_EQ(Document().Rafter1.Span, 360);
+  EXPECT_EQ(Document().design.Rafter1.Span, 360);
   EXPECT_EQ(Picture().View().Offset(), offset);
 }
 
@@ -150,11 +150,11 @@ TEST_F(View, AClickOnAMagnifiedDualSlopeMeansTheRoofUnderThePointer) {
   const int row = Picture().height() / 2;
   Wheel(QPointF(0, row), 960);
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {Picture().width() - 5, row});
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0) << "a quarter of the drawing shows, its left one";
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 0) << "a quarter of the drawing shows, its left one";
   Key(Qt::Key_Escape);
   Picture().Fit();
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {middle + 20, row});
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1);
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 1);
 }
 
 TEST_F(View, ADragOnAMagnifiedDualSlopeTurnsNoPage) {
@@ -165,9 +165,9 @@ TEST_F(View, ADragOnAMagnifiedDualSlopeTurnsNoPage) {
   QTest::mousePress(&Picture(), Qt::LeftButton, {}, {300, row});
   QTest::mouseMove(&Picture(), {360, row});
   QTest::mouseRelease(&Picture(), Qt::LeftButton, {}, {360, row});
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 0);
   QTest::mouseClick(&Picture(), Qt::LeftButton, {}, {300, row});
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1) << "a click means the rear roof, which shows";
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 1) << "a click means the rear roof, which shows";
 }
 
 TEST_F(View, APopupTakesTheDrawingOutOfTheHand) {
@@ -183,7 +183,7 @@ TEST_F(View, APopupTakesTheDrawingOutOfTheHand) {
 
 TEST_F(View, WhereNothingIsDrawnNothingIsMagnified) {
   Press("Gambrel");
-  if (Document().DrawingExists) GTEST_SKIP() << "every roof has its drawing now";
+  if (Document().HasFigure()) GTEST_SKIP() << "every roof has its drawing now";
   Wheel({300, 200}, 480);
   EXPECT_TRUE(Picture().View().ShowsAll());
 }
@@ -293,7 +293,7 @@ TEST_F(View, CopyInAFieldCopiesItsText) {
 
 TEST_F(View, WithoutADrawingThereIsNothingToCopy) {
   Press("Gambrel");
-  if (Document().DrawingExists) GTEST_SKIP() << "every roof has its drawing now";
+  if (Document().HasFigure()) GTEST_SKIP() << "every roof has its drawing now";
   EXPECT_FALSE(Find<QAction>("CopyDrawing").isEnabled());
   Press("Gable");
   EXPECT_TRUE(Find<QAction>("CopyDrawing").isEnabled());
@@ -315,7 +315,7 @@ TEST_P(RoofKeys, ChooseTheRoof) {
   Trigger("mnuViewToolbar");  // also while the bar is hidden
   Box("FtSpan(0)").setFocus();
   Key(key, Qt::AltModifier);
-  EXPECT_EQ(Document().sheet.RoofList.ListIndex(), index);
+  EXPECT_EQ(Document().design.sheet.RoofList.ListIndex(), index);
 }
 
 INSTANTIATE_TEST_SUITE_P(NumberRow, RoofKeys,
@@ -330,14 +330,14 @@ INSTANTIATE_TEST_SUITE_P(NumberRow, RoofKeys,
 TEST_F(View, AValueThatIsBeingTypedIsTakenBeforeTheRoofChanges) {
   Type("FtSpan(0)", "30'");
   Key(Qt::Key_2, Qt::AltModifier);
-  EXPECT_EQ(Document().sheet.RoofList.ListIndex(), 1);
-  EXPECT_EQ(Document().Rafter1.Span, 360);
+  EXPECT_EQ(Document().design.sheet.RoofList.ListIndex(), 1);
+  EXPECT_EQ(Document().design.Rafter1.Span, 360);
 }
 
 TEST_F(View, EachRoofsButtonNamesItsKeys) {
   int roofs = 0;
   std::set<QString> keys;
-  for (const ToolButton& row : Document().toolBar.Buttons()) {
+  for (const ToolButton& row : Document().design.toolBar.Buttons()) {
     if (row.RoofListIndex < 0) continue;
     ++roofs;
     const QString tip = Find<QToolButton>(std::string(row.Key)).toolTip();

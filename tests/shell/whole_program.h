@@ -32,11 +32,11 @@ struct WholeProgram : WindowHand {
   std::string PathOf(const std::string& name) const { return folder.PathOf(name); }
   std::string Status() { return Find<QLabel>("StatusBar").text().toStdString(); }
   /// The picture that shows, as it is painted.
-  QImage Shown() { return Find(Document().CurrentTab == 0 ? "Picture1" : "Picture3").grab().toImage(); }
+  QImage Shown() { return Find(PageShown(Document().design) == 0 ? "Picture1" : "Picture3").grab().toImage(); }
   void TurnTo(int page) {
     auto& tabs = Find<QTabBar>("VSTab(0)");
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(page).center());
-    EXPECT_EQ(Document().CurrentTab, page);
+    EXPECT_EQ(PageShown(Document().design), page);
   }
   /// Brings the window to the front again after a dialog, as the desktop does by itself.
   void ComeBack() {
@@ -50,7 +50,7 @@ struct WholeProgram : WindowHand {
   }
   /// Brings a picture's popup up by the right button.
   QMenu* OpenDrawingPopup() {
-    QWidget& picture = Find(Document().CurrentTab == 0 ? "Picture1" : "Picture3");
+    QWidget& picture = Find(PageShown(Document().design) == 0 ? "Picture1" : "Picture3");
     QTest::mouseMove(&picture, QPoint(60, 40));
     QTest::mouseClick(&picture, Qt::RightButton, {}, QPoint(60, 40));
     return qobject_cast<QMenu*>(QApplication::activePopupWidget());

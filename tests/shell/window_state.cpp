@@ -46,24 +46,24 @@ void Tell(std::ostringstream& out, const Rafter& rafter) {
 
 std::string StateOf(Document& document) {
   std::ostringstream out;
-  out << document.Title << "\n"
-      << document.RoofType << " " << document.UnitRun << " " << document.CurrentTab << "\n";
-  for (const AnyControl& any : document.sheet.Controls()) {
+  out << document.window.Title << "\n"
+      << document.design.RoofType << " " << UnitRun(document.design) << " " << PageShown(document.design) << "\n";
+  for (const AnyControl& any : document.design.sheet.Controls()) {
     const Control& control = ControlOf(any);
     out << control.Name << " " << control.Visible << control.Enabled << " " << control.Top << " ";
     std::visit(Teller{out}, any);
     out << "\n";
   }
-  for (const MenuItem* item : document.menus.Items()) {
+  for (const MenuItem* item : document.design.menus.Items()) {
     out << item->Name << " " << item->Visible << item->Enabled << item->Checked << "\n";
   }
-  for (const ToolButton& button : document.toolBar.Buttons()) {
+  for (const ToolButton& button : document.design.toolBar.Buttons()) {
     out << button.Key << " " << button.Visible << button.Pressed << "\n";
   }
-  for (const IndexTab& tab : document.sheet.Tabs) out << tab.Caption() << " " << tab.Page << "\n";
-  Tell(out, document.Rafter1);
-  Tell(out, document.Rafter2);
-  out << document.board.Recorder.Operations().size() << " strokes\n";
+  for (const IndexTab& tab : document.design.sheet.Tabs) out << tab.Caption() << " " << tab.Page << "\n";
+  Tell(out, document.design.Rafter1);
+  Tell(out, document.design.Rafter2);
+  out << document.Board().Recorder.Operations().size() << " strokes\n";
   return out.str();
 }
 

@@ -79,8 +79,8 @@ class WindowTest : public ::testing::Test, protected WindowHand {
 
   /// Counts the calculations of the first rafter from here on.
   void CountCalculations() {
-    auto calculated = Document().Rafter1.Calculated;
-    Document().Rafter1.Calculated = [this, calculated] {
+    auto calculated = Document().design.Rafter1.Calculated;
+    Document().design.Rafter1.Calculated = [this, calculated] {
       ++calculations_;
       calculated();
     };

@@ -1,4 +1,4 @@
-// The text of sections and keys, in every form that it is found in.
+// The text of sections and keys, in every form in which it occurs.
 #include "storage/ini_file.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@ namespace {
 
 struct ReadCase {
   const char* text;
-  const char* value;  // of key Span in section Settings; null where there is none
+  const char* value;  // of key Span in section Settings; null if there is none
 };
 
 TEST(IniTextTest, Reads) {

@@ -1,4 +1,4 @@
-// Lists on a disk.
+// Lists on disk.
 #include "storage/list_files.h"
 
 #include <gtest/gtest.h>

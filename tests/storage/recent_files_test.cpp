@@ -1,4 +1,4 @@
-// The last four files: captions, order, what is stored.
+// The last four files: captions, order, and what is stored.
 #include "storage/recent_files.h"
 
 #include <gtest/gtest.h>
@@ -11,13 +11,13 @@ class RecentFilesTest : public testing::Test {
   RecentFilesTest() {
     for (std::size_t i = 0; i < RecentFileList::kPlaces; ++i) recent.Items[i] = &menus.FileMRU[i];
   }
-  /// The letters that the four captions end with, blanks for empty ones.
+  /// The letters at the end of the four captions, with blanks for empty ones.
   std::string Order() const {
     std::string order;
     for (const MenuItem& item : menus.FileMRU) order += item.Caption.empty() ? ' ' : item.Caption.back();
     return order;
   }
-  /// The same of the paths behind them.
+  /// The same for their paths.
   std::string Paths() const {
     std::string order;
     for (int i = 0; i < 4; ++i) order += recent.Selected(i).empty() ? ' ' : recent.Selected(i).back();

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "sheet/roof_types.h"
+#include "roofs/roof_types.h"
 
 namespace pitchcraft::testing {
 
@@ -40,7 +40,7 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
   static const std::vector<MetricRoof> kRoofs{
       {"CommonGable",
        "Gable",
-       roof::kGable,
+       Roof::kGable,
        false,
        {slope,
         run,
@@ -52,7 +52,7 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
         {"enter FtHeel(0)", "127", "5"}}},
       {"Hip",
        "Hip",
-       roof::kHip,
+       Roof::kHip,
        false,
        {slope,
         run,
@@ -64,11 +64,11 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
         {"enter LWSlope(2)", "750", "9"},
         {"enter FtOverhang(0)", "254", "10"},
         {"click mnuHipLayoutOverhangsEqual", "", ""}}},
-      {"Valley", "Valley", roof::kValley, false, {slope, run, overhang, fascia, ridge, rafter, hip}},
-      {"CommonShed", "Shed", roof::kShed, false, {slope, run, overhang, fascia, ridge, rafter}},
+      {"Valley", "Valley", Roof::kValley, false, {slope, run, overhang, fascia, ridge, rafter, hip}},
+      {"CommonShed", "Shed", Roof::kShed, false, {slope, run, overhang, fascia, ridge, rafter}},
       {"DualSlope",
        "Dual",
-       roof::kDualSlope,
+       Roof::kDualSlope,
        true,
        {slope,
         run,
@@ -85,7 +85,7 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
         {"page VSTab(1)", "0", "0"}}},
       {"BayRoof",
        "Bay",
-       roof::kBay,
+       Roof::kBay,
        false,
        {{"enter FtProjection", "635", "25"},
         {"enter FtBack", "2540", "100"},
@@ -98,22 +98,22 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
         hip}},
       {"DutchHip",
        "Dutch Hip",
-       roof::kDutchHip,
+       Roof::kDutchHip,
        true,
        {slope, run, {"enter FtSpan(2)", "1905", "75"}, overhang, fascia, ridge, rafter, hip}},
       {"Octagon",
        "Octagon",
-       roof::kOctagon,
+       Roof::kOctagon,
        false,
        {slope, run, {"enter FtSpan(2)", "4445", "175"}, overhang, fascia, rafter, hip}},
       {"UnequalSpanValley",
        "Unequal Span Valley",
-       roof::kUnequalSpanValley,
+       Roof::kUnequalSpanValley,
        true,
        {run, {"enter FtSpan(2)", "5080", "200"}, overhang, fascia, ridge, rafter, hip, slope}},
       {"BlindValley",
        "Blind Valley",
-       roof::kBlindValley,
+       Roof::kBlindValley,
        false,
        {slope,
         run,
@@ -125,7 +125,7 @@ inline const std::vector<MetricRoof>& MetricRoofs() {
         run}},
       {"Gambrel",
        "Gambrel",
-       roof::kGambrel,
+       Roof::kGambrel,
        true,
        {{"enter FtSpan(0)", "6350", "250"}, overhang, fascia, ridge, rafter}},
   };

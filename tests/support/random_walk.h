@@ -5,8 +5,7 @@
 #include <random>
 #include <string>
 
-#include "document/actions.h"
-#include "document/document.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 
@@ -17,9 +16,9 @@ class RandomWalk {
   /// Takes one action; a refusal counts as one. Gives what it was, as a script would write it.
   std::string Step() {
     switch (Below(12)) {
-      case 0: return Pick("cboType", Any(document_.sheet.RoofList.List()));
-      case 1: return Say("press", document_.toolBar.Buttons()[Below(document_.toolBar.Buttons().size())].Key);
-      case 2: return Say("click", document_.menus.Items()[Below(document_.menus.Items().size())]->Name);
+      case 0: return Pick("cboType", Any(document_.design.sheet.RoofList.List()));
+      case 1: return Say("press", document_.design.toolBar.Buttons()[Below(document_.design.toolBar.Buttons().size())].Key);
+      case 2: return Say("click", document_.design.menus.Items()[Below(document_.design.menus.Items().size())]->Name);
       case 3: return Page();
       case 4: return Size();
       case 5: return Mouse();
@@ -68,17 +67,17 @@ class RandomWalk {
   }
 
   std::string Size() {
-    document_.Window.Width = static_cast<int>(Below(40000));
-    document_.Window.Height = static_cast<int>(Below(25000));
-    document_.Form_Resize();
-    return "size " + std::to_string(document_.Window.Width) + " " + std::to_string(document_.Window.Height);
+    document_.window.Place.Width = static_cast<int>(Below(40000));
+    document_.window.Place.Height = static_cast<int>(Below(25000));
+    FollowSize(document_);
+    return "size " + std::to_string(document_.window.Place.Width) + " " + std::to_string(document_.window.Place.Height);
   }
 
   std::string Mouse() {
-    const int picture = document_.CurrentTab == 0 ? 1 : 3;
+    const int picture = PageShown(document_.design) == 0 ? 1 : 3;
     const int button = static_cast<int>(1 + Below(2));
     const int x = static_cast<int>(Below(20000));
-    document_.Picture_MouseDown(picture, button, x, 100);
+    PressOnFigure(document_, button, x);
     return "mouse Picture" + std::to_string(picture) + (button == kLeftButton ? " left " : " right ") +
            std::to_string(x);
   }
@@ -91,7 +90,7 @@ class RandomWalk {
   }
 
   std::string OnControl() {
-    const auto& controls = document_.sheet.Controls();
+    const auto& controls = document_.design.sheet.Controls();
     const AnyControl& any = controls[Below(controls.size())];
     const std::string& name = ControlOf(any).Name;
     actions_.Hover(name);

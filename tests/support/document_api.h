@@ -1,0 +1,22 @@
+// Everything that can be done with a document.
+#pragma once
+
+#include "design/questions.h"
+#include "document/actions.h"
+#include "document/calculate.h"
+#include "document/commands.h"
+#include "document/document.h"
+#include "document/fields.h"
+#include "document/files.h"
+#include "document/lists.h"
+#include "document/menu_actions.h"
+#include "document/menu_forms.h"
+#include "document/output_files.h"
+#include "document/pages.h"
+#include "document/print.h"
+#include "document/session_ends.h"
+#include "document/side_programs.h"
+#include "document/slopes.h"
+#include "document/units.h"
+#include "roofs/roof_types.h"
+#include "roofs/switch_roof.h"

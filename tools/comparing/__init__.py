@@ -1,0 +1,1 @@
+"""The parts of compare_drivers.py."""
