@@ -40,6 +40,8 @@ bool BayIsComplete(const Design& design) {
 
 std::vector<std::string> Waiting(const Design& design) {
   std::vector<std::string> names;
+  // A bay without its dimensions is not calculated at all.
+  if (design.RoofType == Roof::kBay && !BayIsComplete(design)) return names;
   const Sheet& sheet = design.sheet;
   const auto waits = [&](const Control& field, double entered, double calculated) {
     if (field.Visible && Single(entered) != Single(calculated)) names.push_back(field.Name);

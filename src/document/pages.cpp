@@ -9,13 +9,6 @@
 namespace pitchcraft {
 namespace {
 
-constexpr const char* kWaits = "Taken with the next calculation; F9 calculates now";
-
-bool Waits(const Design& design, std::string_view name) {
-  const std::vector<std::string> waiting = Waiting(design);
-  return std::find(waiting.begin(), waiting.end(), name) != waiting.end();
-}
-
 // The popup offers what the roof type knows: layouts for a hip, the ledger for a Dutch hip, cuts for all but
 // the blind valley. The items of a hip stay as the page set them.
 void ShowPopUp1Items(Design& design) {
@@ -38,6 +31,11 @@ void ShowPopUp1Items(Design& design) {
 }
 
 }  // namespace
+
+bool Waits(const Design& design, std::string_view name) {
+  const std::vector<std::string> waiting = Waiting(design);
+  return std::find(waiting.begin(), waiting.end(), name) != waiting.end();
+}
 
 // The lock items of the Settings menu speak of the row that is shown.
 void ShowRoof(Design& design, int page) {

@@ -10,6 +10,11 @@ namespace pitchcraft {
 inline constexpr int kLeftButton = 1;
 inline constexpr int kRightButton = 2;
 
+/// What the window says of a field whose entry waits.
+inline constexpr const char* kWaits = "Taken with the next calculation; F9 calculates now";
+/// Whether the entry of that field waits for the next calculation.
+bool Waits(const Design& design, std::string_view name);
+
 /// Shows a page of the outer tab (0), or the front or rear roof of the inner one (1).
 void ShowPage(Document& document, int tab, int page);
 /// The same of the inner tab, as a step.

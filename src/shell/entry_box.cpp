@@ -1,15 +1,20 @@
 #include "shell/entry_box.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+
+#include "shell/field_look.h"
 
 namespace pitchcraft {
 namespace {
 
 constexpr int kTextMargin = 2;
 constexpr int kBesideText = 3;  // what the toolkit leaves beside the margin, with the line of the cursor
+constexpr double kClockSize = 10;
+constexpr double kClockMargin = 5;
 
 }  // namespace
 
@@ -43,6 +48,25 @@ void EntryBox::ShowText(const std::string& text) {
   showing_ = false;
 }
 
+void EntryBox::SetTakesEntry(bool takes) {
+  if (isReadOnly() != takes) return;
+  setReadOnly(!takes);
+  QAccessible::State changed;
+  changed.readOnly = true;
+  changed.editable = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
+// The text keeps clear of the clock.
+void EntryBox::ShowWaiting(bool waits) {
+  if (waits_ == waits) return;
+  waits_ = waits;
+  const int room = waits ? static_cast<int>(kClockSize + kClockMargin) : kTextMargin;
+  setTextMargins(kTextMargin, 0, room, 0);
+  update();
+}
+
 void EntryBox::CommitFocused() {
   auto* box = qobject_cast<EntryBox*>(QApplication::focusWidget());
   if (box != nullptr) emit box->Left();
@@ -52,7 +76,8 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
   const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
   const int key = event->key();
   if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-    emit Entered();
+    // Where nothing can be typed, the rounded text must not come in as a number.
+    if (!isReadOnly()) emit Entered();
     selectAll();
   } else if (key == Qt::Key_F4 || (key == Qt::Key_Down && modifiers == Qt::AltModifier)) {
     emit ListAsked();
@@ -74,11 +99,22 @@ bool EntryBox::focusNextPrevChild(bool next) {
 // The style's own mark of the focus is too faint on a dark field.
 void EntryBox::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
-  if (!hasFocus()) return;
+  if (!hasFocus() && !waits_) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  if (waits_) PaintClock(painter);
+  if (!hasFocus()) return;
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+}
+
+void EntryBox::PaintClock(QPainter& painter) const {
+  const QPointF middle(width() - kClockMargin - kClockSize / 2, height() / 2.0);
+  painter.setPen(QPen(WaitingColor(palette().color(QPalette::Base)), 1.3, Qt::SolidLine, Qt::RoundCap));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawEllipse(middle, kClockSize / 2, kClockSize / 2);
+  painter.drawLine(middle, middle + QPointF(0, -3.2));
+  painter.drawLine(middle, middle + QPointF(2.4, 1.4));
 }
 
 // A menu, a list or another program's window only borrows the focus.

@@ -3,6 +3,8 @@
 
 #include <QLineEdit>
 
+class QPainter;
+
 namespace pitchcraft {
 
 /// Measures that the fields have room for, whatever the font: of a long roof, and of a board.
@@ -27,6 +29,11 @@ class EntryBox : public QLineEdit {
   std::string Entry() const { return text().toStdString(); }
   /// Of a box in which all of the text can be read.
   QSize SizeFor(const QString& text) const;
+  /// A box that takes no entry is read and copied from.
+  void SetTakesEntry(bool takes);
+  /// Marks the box with a small clock: its entry waits for the next calculation.
+  void ShowWaiting(bool waits);
+  bool Waits() const { return waits_; }
 
   /// Leaves the box that has the focus, without moving the focus: before a menu item, a tool button or a page
   /// acts, what was typed counts.
@@ -48,7 +55,10 @@ class EntryBox : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintClock(QPainter& painter) const;
+
   bool modified_ = false;
+  bool waits_ = false;
   bool showing_ = false;
 };
 

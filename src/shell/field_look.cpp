@@ -53,6 +53,14 @@ QColor SwitchedOff(const QColor& text, const QColor& ground) {
   return text;
 }
 
+QColor WaitingColor(const QColor& ground) {
+  const QColor light(0xFF, 0xB3, 0x2E);
+  const QColor dark(0x9A, 0x58, 0x00);
+  const QColor amber = Contrast(light, ground) >= Contrast(dark, ground) ? light : dark;
+  if (Contrast(amber, ground) >= kLeastForMarks) return amber;
+  return Contrast(Qt::white, ground) >= Contrast(Qt::black, ground) ? Qt::white : Qt::black;
+}
+
 QColor ColorOf(std::uint32_t value, const QPalette& desktop) {
   switch (value) {
     case 0x80000005: return desktop.color(QPalette::Active, QPalette::Base);
@@ -67,10 +75,12 @@ QColor ColorOf(std::uint32_t value, const QPalette& desktop) {
   return {rgb.Red, rgb.Green, rgb.Blue};
 }
 
-QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop) {
+QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& desktop, bool takesEntry) {
   QPalette palette = desktop;
-  const QColor text = ColorOf(fore, desktop);
-  const QColor ground = ColorOf(back, desktop);
+  const QColor off = desktop.color(QPalette::Active, QPalette::Window).darker(106);
+  const QColor grey = SwitchedOff(desktop.color(QPalette::Active, QPalette::WindowText), off);
+  const QColor text = takesEntry ? ColorOf(fore, desktop) : grey;
+  const QColor ground = takesEntry ? ColorOf(back, desktop) : off;
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     palette.setColor(group, QPalette::Base, ground);
     palette.setColor(group, QPalette::Button, ground);
@@ -78,8 +88,6 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
     palette.setColor(group, QPalette::ButtonText, text);
   }
   SetHighlight(palette, text, ground);
-  const QColor off = desktop.color(QPalette::Active, QPalette::Window).darker(106);
-  const QColor grey = SwitchedOff(desktop.color(QPalette::Active, QPalette::WindowText), off);
   palette.setColor(QPalette::Disabled, QPalette::Base, off);
   palette.setColor(QPalette::Disabled, QPalette::Button, off);
   palette.setColor(QPalette::Disabled, QPalette::Text, grey);
@@ -87,11 +95,11 @@ QPalette FieldPalette(std::uint32_t fore, std::uint32_t back, const QPalette& de
   return palette;
 }
 
-bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop) {
-  const Origin origin{fore, back, desktop.cacheKey()};
+bool FieldColors::Take(std::uint32_t fore, std::uint32_t back, const QPalette& desktop, bool takesEntry) {
+  const Origin origin{fore, back, desktop.cacheKey(), takesEntry};
   if (origin == origin_) return false;
   origin_ = origin;
-  palette_ = FieldPalette(fore, back, desktop);
+  palette_ = FieldPalette(fore, back, desktop, takesEntry);
   return true;
 }
 

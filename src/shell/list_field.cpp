@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <algorithm>
 
+#include "design/questions.h"
 #include "shell/arrow_button.h"
 #include "shell/drop_list.h"
 #include "shell/field_look.h"
@@ -94,14 +95,14 @@ void ListField::OpenList() {
 }
 
 void ListField::Color(std::uint32_t fore, std::uint32_t back) {
-  if (!colors_.Take(fore, back, parentWidget()->palette())) return;
+  if (!colors_.Take(fore, back, parentWidget()->palette(), !locked_)) return;
   for (EntryBox* box : boxes_) box->setPalette(colors_.Palette());
 }
 
-void ListField::SetLocked(bool locked) {
+void ListField::Lock(bool locked) {
   if (locked_ == locked) return;
   locked_ = locked;
-  for (EntryBox* box : boxes_) box->setReadOnly(locked);
+  for (EntryBox* box : boxes_) box->SetTakesEntry(!locked);
   arrow_->setEnabled(!locked);
 }
 
@@ -137,8 +138,8 @@ PairField::PairField(Session& session, PairControl& pair, QWidget* host)
     : ListField(session, pair, host, 2), pair_(pair), isSlope_(pair.Name.starts_with("LWSlope")) {}
 
 void PairField::ShowState() {
+  Lock(!TakesEntry(TheSession().Document().design, pair_));
   Color(pair_.ForeColor, pair_.BackColor);
-  SetLocked(pair_.Locked);
   Box(0).ShowText(pair_.LeftText());
   Box(1).ShowText(pair_.RightText());
 }
@@ -173,9 +174,9 @@ ComboField::ComboField(Session& session, ComboControl& combo, QWidget* host)
 void ComboField::ShowState() {
   const Document& document = TheSession().Document();
   const bool isField = combo_.Host != Host::kTabStrip;
+  Lock(!TakesEntry(document.design, combo_));
   Color(isField ? document.preferences.CtlForeColor : kSystemWindowTextColor,
         isField ? document.preferences.CtlBackColor : kSystemWindowColor);
-  SetLocked(combo_.Locked);
   Box(0).ShowText(combo_.Text());
 }
 

@@ -33,8 +33,9 @@ class ListField : public QWidget, public ControlView {
   EntryBox& Box(std::size_t index) { return *boxes_[index]; }
   bool Modified() const;
   void Settle();
+  /// A locked field takes no entry and opens no list. Its colours follow, so they are given after it.
+  void Lock(bool locked);
   void Color(std::uint32_t fore, std::uint32_t back);
-  void SetLocked(bool locked);
 
   virtual std::string Entry() const = 0;
   virtual QStringList Rows() const = 0;

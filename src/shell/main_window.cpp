@@ -63,6 +63,7 @@ MainWindow::MainWindow(const Surroundings& surroundings) : session_(surroundings
   status_->setTextFormat(Qt::PlainText);
   status_->setContentsMargins(kBesideStatus, 0, kBesideStatus, 0);
   AddViewCommands();
+  AddCalculateCommand();
   setWindowIcon(ProgramIcon());
   FitWords();
   resize(ToPixels(Document().window.Place.Width), ToPixels(Document().window.Place.Height));
@@ -145,6 +146,32 @@ void MainWindow::AddViewCommands() {
   menus_->Append("mnuView", commands_->All());
   for (PictureView* view : {picture1_, picture3_}) view->addActions(commands_->All());
   connect(commands_, &ViewCommands::Said, status_, &QLabel::setText);
+}
+
+// Every entry calculates; the few that wait need a way that changes nothing else. The key serves also where
+// the menu does not show.
+void MainWindow::AddCalculateCommand() {
+  auto* calculate = new QAction(tr("Calculate &Now"), this);
+  calculate->setObjectName("CalculateNow");
+  calculate->setShortcut(Qt::Key_F9);
+  connect(calculate, &QAction::triggered, this, &MainWindow::CalculateNow);
+  connect(calculate, &QAction::hovered, this,
+          [this] { status_->setText(tr("Calculate the roof with every entry that waits.")); });
+  menus_->Append("mnuSettings", {calculate});
+  addAction(calculate);
+}
+
+// What the status bar said of an entry that waited is over.
+void MainWindow::CalculateNow() {
+  EntryBox::CommitFocused();
+  session_.Do([](Actions& actions) { actions.Calculate(); });
+  std::string focused;
+  ForEachView([&](ControlView& view) {
+    const std::vector<QWidget*> stops = view.TabStops();
+    const bool here = std::find(stops.begin(), stops.end(), QApplication::focusWidget()) != stops.end();
+    if (here) focused = view.Of().Name;
+  });
+  session_.Hint(focused);
 }
 
 // Tab goes as the eye does, from the top to the sheet and on to the drawing. The sheet orders its rows
@@ -285,7 +312,8 @@ void MainWindow::PlaceParts() {
 void MainWindow::GiveFocus() {
   std::string wanted;
   std::swap(wanted, Document().window.FocusRequest);
-  if (wanted.empty() || Document().window.DialogIsActive || QApplication::activeModalWidget() != nullptr) return;
+  if (wanted.empty() || Document().window.DialogIsActive || QApplication::activeModalWidget() != nullptr)
+    return;
   ForEachView([&](ControlView& view) {
     if (view.Of().Name != wanted || view.TabStops().empty()) return;
     QWidget* stop = view.TabStops().front();

@@ -49,6 +49,8 @@ class MainWindow : public QWidget {
   void SyncStatus();
   PictureView& ShownView();
   void AddViewCommands();
+  void AddCalculateCommand();
+  void CalculateNow();
   void PlaceParts();
   void FitToScreens();
   void FitWords();

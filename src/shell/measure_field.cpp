@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 
+#include "design/questions.h"
 #include "shell/field_look.h"
 #include "shell/popup_menu.h"
 
@@ -59,11 +60,23 @@ void MeasureField::Step(bool up) {
 }
 
 void MeasureField::ShowState() {
-  if (colors_.Take(field_.ForeColor, field_.BackColor, parentWidget()->palette())) {
+  const Design& design = TheSession().Document().design;
+  const bool takes = TakesEntry(design, field_);
+  if (colors_.Take(field_.ForeColor, field_.BackColor, parentWidget()->palette(), takes)) {
     setPalette(colors_.Palette());
   }
-  if (isReadOnly() != field_.ReadOnly) setReadOnly(field_.ReadOnly);
+  SetTakesEntry(takes);
   ShowText(field_.Text());
+  TellWhetherItWaits(!Modified() && pitchcraft::Waits(design, Name()));
+}
+
+// What is still being typed does not wait yet.
+void MeasureField::TellWhetherItWaits(bool waits) {
+  if (waits == Waits()) return;
+  ShowWaiting(waits);
+  const QString tip = waits ? tr(kWaits) : QString::fromStdString(field_.ToolTip);
+  setToolTip(tip);
+  setAccessibleDescription(tip);
 }
 
 QSize MeasureField::SizeForWords() const {

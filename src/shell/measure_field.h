@@ -23,6 +23,7 @@ class MeasureField : public EntryBox, public ControlView {
 
  private:
   void ShowState() override;
+  void TellWhetherItWaits(bool waits);
   void EndEntry();
   void Step(bool up);
 
