@@ -10,11 +10,15 @@ target_compile_options(pitchcraft_options INTERFACE
   # Rounds a product before anything is added to it, so that results are the same on every machine.
   -ffp-contract=off)
 if(PITCHCRAFT_SANITIZE)
+  # The program is instrumented, the tests are not: what they look for is in the program, and they are most of what is compiled.
+  set(isTest $<BOOL:$<TARGET_PROPERTY:PITCHCRAFT_IS_TEST>>)
+  # Calculations run at a fair speed under the sanitizers; a test and a window hardly compute.
+  set(isSlow $<OR:${isTest},$<BOOL:$<TARGET_PROPERTY:PITCHCRAFT_IS_WINDOW>>>)
   target_compile_options(pitchcraft_options INTERFACE
-    -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # The program should run reasonably fast under the sanitizers; a test runs once and compiles twice as fast
-    # unoptimized.
-    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:PITCHCRAFT_IS_TEST>>>:-O1>)
+    # Functions and lines, which is what a report shows.
+    -g1
+    "$<$<NOT:${isTest}>:-fsanitize=address,undefined,float-cast-overflow;-fno-sanitize-recover=all>"
+    -fno-omit-frame-pointer $<$<NOT:${isSlow}>:-O1>)
   target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(PITCHCRAFT_FUZZ)
@@ -23,27 +27,24 @@ if(PITCHCRAFT_FUZZ)
   target_link_options(pitchcraft_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# pitchcraft_room(NAME SOURCES ... USES room ...): one folder under src/, as a library that sees only the
-# rooms given.
+include(${CMAKE_CURRENT_LIST_DIR}/precompiled.cmake)
+
+# pitchcraft_room(NAME SOURCES ... USES room ... QT module ...): one folder under src/ as a library that sees only the rooms and
+# the modules of the toolkit named.
 function(pitchcraft_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES;QT" ${ARGN})
   add_library(pitchcraft_${name} STATIC ${ROOM_SOURCES})
   target_link_libraries(pitchcraft_${name} PRIVATE pitchcraft_options)
   target_include_directories(pitchcraft_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   foreach(room ${ROOM_USES})
     target_link_libraries(pitchcraft_${name} PUBLIC pitchcraft_${room})
   endforeach()
-endfunction()
-
-# pitchcraft_test(NAME SOURCES ... USES lib ...): one test program; its tests run in random order, and it
-# prints the seed.
-function(pitchcraft_test name)
-  cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
-  add_executable(${name} ${TEST_SOURCES})
-  set_target_properties(${name} PROPERTIES PITCHCRAFT_IS_TEST ON)
-  target_link_libraries(${name} PRIVATE ${TEST_USES} pitchcraft_options GTest::gtest GTest::gmock GTest::gtest_main)
-  target_compile_definitions(${name} PRIVATE PITCHCRAFT_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests"
-    PITCHCRAFT_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  add_test(NAME ${name} COMMAND ${name} --gtest_shuffle)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  foreach(module ${ROOM_QT})
+    target_link_libraries(pitchcraft_${name} PUBLIC Qt6::${module})
+  endforeach()
+  if("Widgets" IN_LIST ROOM_QT)
+    pitchcraft_precompile(pitchcraft_${name} WINDOW)
+  elseif(NOT ROOM_QT)
+    pitchcraft_precompile(pitchcraft_${name})
+  endif()
 endfunction()

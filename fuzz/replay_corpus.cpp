@@ -1,4 +1,5 @@
 // Runs a fuzz target over the files of a folder, so that every build tries what once went wrong.
+#include <clocale>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -10,6 +11,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 int main(int argc, char** argv) {
+  std::setlocale(LC_ALL, "");  // a program with a window takes over the user's, too
   if (argc != 2) {
     std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
     return 2;

@@ -28,7 +28,7 @@ struct ProjectIdentity {
 /// What the window shows beside the design.
 struct WindowState {
   Area Place{1000, 1000, 6500, 6500};  ///< twips
-  WordRoom Words;                      ///< what the letters of the window need; without one the usual room
+  WordRoom Words;                      ///< what the font at hand needs
   bool ToolBar = true;
   bool StatusBar = true;
   std::string Title;

@@ -12,9 +12,9 @@ namespace pitchcraft {
 namespace {
 
 constexpr int kTextMargin = 2;
-constexpr int kBesideText = 3;  // what the toolkit leaves beside the margin, with the line of the cursor
 constexpr double kClockSize = 10;
 constexpr double kClockMargin = 5;
+constexpr int kBesideText = 3;  // what the toolkit leaves beside the margin, with the line of the cursor
 
 }  // namespace
 

@@ -27,13 +27,13 @@ class EntryBox : public QLineEdit {
   /// Shows a text of the program; nothing is signalled.
   void ShowText(const std::string& text);
   std::string Entry() const { return text().toStdString(); }
-  /// Of a box in which all of the text can be read.
-  QSize SizeFor(const QString& text) const;
   /// A box that takes no entry is read and copied from.
   void SetTakesEntry(bool takes);
   /// Marks the box with a small clock: its entry waits for the next calculation.
   void ShowWaiting(bool waits);
   bool Waits() const { return waits_; }
+  /// Of a box in which all of the text can be read.
+  QSize SizeFor(const QString& text) const;
 
   /// Leaves the box that has the focus, without moving the focus: before a menu item, a tool button or a page
   /// acts, what was typed counts.

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "document/session_ends.h"
 #include "session/script.h"
 
 namespace pitchcraft {

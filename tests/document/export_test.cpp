@@ -5,6 +5,7 @@
 
 #include "paper_test.h"
 #include "support/golden.h"
+#include "support/number.h"
 
 namespace pitchcraft {
 namespace {
@@ -20,7 +21,7 @@ struct Entity {
     }
     return "";
   }
-  double Number(int code) const { return std::atof(Text(code).c_str()); }
+  double Number(int code) const { return testing::NumberIn(Text(code)); }
 };
 
 std::vector<Entity> EntitiesOf(const std::string& text) {

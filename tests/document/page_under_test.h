@@ -23,7 +23,7 @@ class PageUnderTest {
  public:
   explicit PageUnderTest(const std::filesystem::path& folder)
       : folder_(folder), document_({dialogs_, store_, folder, &printer_}) {
-    document_.Form_Load();
+    Start(document_);
   }
 
   /// One line of a script. False where it was refused.
@@ -40,9 +40,9 @@ class PageUnderTest {
     if (verb == "spin") return Taken(actions_.Spin(name, line == "up"));
     if (verb == "page") return Taken(actions_.Page(name, Number(line)));
     if (verb == "size") {
-      document_.Window.Width = Number(name);
-      document_.Window.Height = Number(line);
-      document_.Form_Resize();
+      document_.window.Place.Width = Number(name);
+      document_.window.Place.Height = Number(line);
+      FollowSize(document_);
       return true;
     }
     ADD_FAILURE() << "no such action: " << verb;
@@ -50,13 +50,13 @@ class PageUnderTest {
   }
 
   testing::PageFacts Facts() const {
-    const IndexTab& tab = document_.sheet.Tabs[0];
-    return {document_.sheet.RoofList.Text(), tab.Pages(), static_cast<std::size_t>(tab.Page),
-            !document_.Imperial()};
+    const IndexTab& tab = document_.design.sheet.Tabs[0];
+    return {document_.design.sheet.RoofList.Text(), tab.Pages(), static_cast<std::size_t>(tab.Page),
+            document_.design.Metric};
   }
-  const Recording& Screen() const { return document_.board.Recorder.Operations(); }
+  const Recording& Screen() const { return document_.Board().Recorder.Operations(); }
   /// Drawing units for an inch or a millimetre.
-  double DrawScale() const { return document_.DrawScale(); }
+  double DrawScale() const { return pitchcraft::DrawScale(document_.design); }
 
   /// The sheet of the page shown, or nothing.
   std::optional<PrintedPage> Print() {

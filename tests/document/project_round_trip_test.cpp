@@ -52,7 +52,7 @@ std::string WithoutIgnoredKey(const std::string& text, Roof roofCode) {
 /// What a person reads in the fields.
 void ExpectSameFields(Sheet& one, Sheet& other) {
   for (std::size_t i = 0; i < one.Controls().size(); ++i) {
-    const AnyControl& any = one.Controls()[i];
+    const AnyControl any = one.Controls()[i];
     const Control& control = ControlOf(any);
     EXPECT_EQ(control.Visible, ControlOf(other.Controls()[i]).Visible) << control.Name;
     if (!control.Visible || (control.Host == Host::kBayStrip && !one.DimensionStrip.Visible)) continue;

@@ -14,6 +14,7 @@
 #include "legibility.h"
 #include "output/dxf_figures.h"
 #include "output/dxf_reading.h"
+#include "support/number.h"
 
 namespace pitchcraft {
 namespace {
@@ -27,7 +28,7 @@ using testing::HipOutputs;
 
 using Ends = std::array<double, 4>;
 
-double Number(const DxfRecord& record, int code) { return std::stod(record(code)); }
+double Number(const DxfRecord& record, int code) { return testing::NumberIn(record(code)); }
 
 std::vector<Ends> LinesOn(const DxfContent& file, const std::string& layer) {
   std::vector<Ends> lines;

@@ -6,6 +6,7 @@
 
 #include <limits>
 
+#include "../support/number.h"
 #include "core/run_time_error.h"
 #include "dxf_reading.h"
 #include "output/dxf_writer.h"
@@ -84,7 +85,7 @@ TEST(DimensionList, IsWrittenAsLinesAndTexts) {
   ASSERT_EQ(texts.size(), 1U);
   EXPECT_EQ(texts[0](1) + " " + texts[0](40) + " " + texts[0](72), "10' 3.0 1");
   EXPECT_EQ(texts[0].Place(11), "5.0, 6.0");
-  EXPECT_NEAR(std::stod(texts[0](50)), 26.565051, 1e-5);
+  EXPECT_NEAR(NumberIn(texts[0](50)), 26.565051, 1e-5);
   EXPECT_EQ(content.Entry("LAYER", "DIMENSIONS")(62), "12");
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "../support/number.h"
 #include "dxf_reading.h"
 #include "output/dxf_writer.h"
 #include "sample_dxf.h"
@@ -76,9 +77,9 @@ TEST(DxfDimension, AlignedLiesThroughTheThirdPoint) {
   writer.DimAligned(0, 0, 80, 60, -30, 40);
   const Found found(writer);
   EXPECT_EQ(found.Entity(70) + " " + found.Entity(1), "1 100");
-  EXPECT_NEAR(std::stod(found.Entity(50)), 36.869898, 1e-5) << "readers measure along it";
+  EXPECT_NEAR(NumberIn(found.Entity(50)), 36.869898, 1e-5) << "readers measure along it";
   EXPECT_EQ(found.Entity.Place(10), "50.0, 100.0");
-  EXPECT_NEAR(std::stod(found.Texts[0](50)), 36.869898, 1e-5);
+  EXPECT_NEAR(NumberIn(found.Texts[0](50)), 36.869898, 1e-5);
 }
 
 TEST(DxfDimension, AnAlignedTextIsNeverUpsideDown) {
@@ -89,7 +90,7 @@ TEST(DxfDimension, AnAlignedTextIsNeverUpsideDown) {
     DxfWriter writer = Writer();
     writer.DimAligned(0, 0, to.X, to.Y, to.X + 10, to.Y + 30);
     const std::string written = Found(writer).Texts[0](50);
-    EXPECT_NEAR(written == "-" ? 0 : std::stod(written), angle, 1e-4) << to.X << ", " << to.Y;
+    EXPECT_NEAR(written == "-" ? 0 : NumberIn(written), angle, 1e-4) << to.X << ", " << to.Y;
   }
 }
 
@@ -100,7 +101,7 @@ TEST(DxfDimension, AShortOneHasArrowsOutsideAndItsTextBeside) {
   EXPECT_TRUE(found.HasLine("-8.0, 10.0", "11.0, 10.0"));
   EXPECT_EQ(found.Arrows[0](11) + " " + found.Arrows[1](11), "-4.0 7.0");
   EXPECT_EQ(found.Entity(70), "128") << "the text has a place of its own";
-  EXPECT_GT(std::stod(found.Entity(11)), 5);
+  EXPECT_GT(NumberIn(found.Entity(11)), 5);
 }
 
 TEST(DxfDimension, TheTextGoesWhereItIsTold) {

@@ -8,6 +8,7 @@
 #include <limits>
 #include <locale>
 
+#include "../support/number.h"
 #include "core/run_time_error.h"
 #include "dxf_reading.h"
 #include "sample_dxf.h"
@@ -94,7 +95,7 @@ TEST(DxfWriter, ExtentsHoldLinesTextsAndDimensions) {
   writer.Text("turned", 50, 0, 6, 90);
   EXPECT_EQ(Read(writer).Variable("$EXTMAX"), "50.0") << "its letters stand left of its base line";
   writer.Text("farther", 60, 50, 6, -45);
-  EXPECT_GT(std::stod(Read(writer).Variable("$EXTMAX")), 60 + 7 * 4 * 0.7) << "both ends count";
+  EXPECT_GT(NumberIn(Read(writer).Variable("$EXTMAX")), 60 + 7 * 4 * 0.7) << "both ends count";
   EXPECT_EQ(Read(SampleWriter()).Variable("$EXTMIN") + Read(SampleWriter()).Variable("$EXTMAX"), "0.00.0");
 }
 
@@ -143,11 +144,11 @@ TEST(DxfWriter, ATextHasHeightRotationAndAlignment) {
   EXPECT_EQ(texts[0](1) + " " + texts[0](40) + " " + texts[0].Place(10), "left 4.0 10.0, 20.0");
   EXPECT_EQ(texts[0](72) + texts[0](11) + texts[0](50), "---");
   EXPECT_EQ(texts[1](72) + " " + texts[1](40) + " " + texts[1].Place(11), "1 8.0 10.0, 20.0");
-  EXPECT_LT(std::stod(texts[1](10)), -3) << "six letters, about 30 wide, begin left of their middle";
+  EXPECT_LT(NumberIn(texts[1](10)), -3) << "six letters, about 30 wide, begin left of their middle";
   EXPECT_EQ(texts[1](20), "20.0");
   EXPECT_EQ(texts[2](72) + " " + texts[2](50) + " " + texts[2].Place(11), "2 -45.0 10.0, 20.0");
-  EXPECT_LT(std::stod(texts[2](10)), 7);
-  EXPECT_GT(std::stod(texts[2](20)), 23) << "it runs downward, so it begins above";
+  EXPECT_LT(NumberIn(texts[2](10)), 7);
+  EXPECT_GT(NumberIn(texts[2](20)), 23) << "it runs downward, so it begins above";
   EXPECT_EQ(texts[3](72), "-");
 }
 

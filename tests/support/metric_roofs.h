@@ -22,7 +22,7 @@ struct MetricEntry {
 struct MetricRoof {
   const char* name;
   const char* button;
-  int code;
+  Roof code;
   bool twoRafters;  ///< the roof is made of both
   std::vector<MetricEntry> entries;
 };
@@ -148,8 +148,7 @@ inline std::vector<std::string> EntryLines(const MetricRoof& roof, bool metric) 
 }
 
 inline int PageCount(const MetricRoof& roof) {
-  const std::string_view pages = RoofTypeByCode(roof.code)->Pages;
-  return 1 + static_cast<int>(std::count(pages.begin(), pages.end(), '|'));
+  return static_cast<int>(RoofTypeByCode(roof.code)->About().Pages.size());
 }
 
 inline std::string PageLine(int page) { return "page VSTab(0) " + std::to_string(page); }
