@@ -1,9 +1,23 @@
 #include "roofs/roof_type.h"
 
+#include <cmath>
+
+#include "core/angles.h"
+
 #include "design/questions.h"
 #include "roofs/results.h"
 
 namespace pitchcraft {
+namespace {
+
+// An angle is shown as it was entered, to the decimals that it has; where the slope has changed without it, the slope's own is.
+void SettleAngle(Single& degrees, double slope, double base) {
+  constexpr double kTwoDecimals = 0.0051;
+  const double own = kDegreesPerRadian * std::atan(slope / base);
+  if (std::abs(own - degrees) > kTwoDecimals) degrees = own;
+}
+
+}  // namespace
 
 PageFigure RoofType::FigureOn(const Design& design, int page) const {
   const std::span<const RoofPage> pages = Pages(design);
@@ -15,6 +29,8 @@ Rafter RoofType::RecordOn(const Design& design, int page) const {
   const PageFigure figure = FigureOn(design, page);
   Rafter record = figure.Record == 2 ? design.Calculated2 : design.Calculated1;
   record.RafterType = figure.As;
+  SettleAngle(record.degrees, record.Slope, record.SlopeBase);
+  SettleAngle(record.HipEndDegrees, record.HipEndSlope, record.SlopeBase);
   return record;
 }
 

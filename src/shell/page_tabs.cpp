@@ -41,14 +41,14 @@ void PageTabs::Sync() {
   if (currentIndex() != tab.Page) setCurrentIndex(tab.Page);
 }
 
-int PageTabs::WidthFor(std::string_view captions) const {
-  const QStringList texts = QString::fromUtf8(captions.data(), qsizetype(captions.size())).split('|');
+int PageTabs::WidthFor(const std::vector<std::string>& captions) const {
   const QFontMetrics words = fontMetrics();
   QStyleOptionTab tab;
   tab.initFrom(this);
   const int beside = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, &tab, this);
   int width = 0;
-  for (const QString& text : texts) {
+  for (const std::string& caption : captions) {
+    const QString text = QString::fromStdString(caption);
     const QSize inside(words.size(Qt::TextShowMnemonic, text).width() + beside, words.height());
     width += style()->sizeFromContents(QStyle::CT_TabBarTab, &tab, inside, this).width();
   }

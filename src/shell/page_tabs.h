@@ -3,7 +3,8 @@
 
 #include <QTabBar>
 
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include "shell/session.h"
 
@@ -16,8 +17,8 @@ class PageTabs : public QTabBar {
   /// `index` 0: the pages of the roof type; 1: front and rear roof.
   PageTabs(Session& session, int index, QWidget* host);
   void Sync();
-  /// Of the captions, joined by the bar, with none of them cut off or pushed aside.
-  int WidthFor(std::string_view captions) const;
+  /// Of pages with those captions, with none of them cut off or pushed aside.
+  int WidthFor(const std::vector<std::string>& captions) const;
 
  protected:
   QSize tabSizeHint(int tab) const override;

@@ -1,11 +1,10 @@
 #include "shell/sheet_panel.h"
 
 #include <algorithm>
-#include <set>
 #include <tuple>
 #include <utility>
 
-#include "roofs/roof_types.h"
+#include "document/roof_words.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
@@ -24,19 +23,6 @@ QSize UsualSize(const ControlView& view) {
   // A caption stands lower than its field, and is as much less high: their middles are level.
   const bool isCaption = dynamic_cast<const LabelView*>(&view) != nullptr;
   return isCaption ? size - QSize(0, 2 * ToPixels(kCaptionDrop)) : size;
-}
-
-std::set<std::string> CaptionsOfAllRoofs() {
-  std::set<std::string> captions;
-  const auto design = std::make_unique<Design>();
-  for (const RoofType* type : RoofTypes()) {
-    for (const GambrelSupport support : {GambrelSupport::kPurlins, GambrelSupport::kWall}) {
-      design->Support = support;
-      type->LayOut(*design);
-      for (const LabelControl& label : design->sheet.Label) captions.insert(label.Caption);
-    }
-  }
-  return captions;
 }
 
 }  // namespace
@@ -72,7 +58,7 @@ WordRoom SheetPanel::Words() const {
   };
   for (const auto& view : views_) hold(view->SizeForWords(), UsualSize(*view));
   const LabelView& caption = *captions_.front();
-  for (const std::string& text : CaptionsOfAllRoofs()) {
+  for (const std::string& text : WordsOfAllRoofs().RowCaptions) {
     hold(caption.SizeFor(QString::fromStdString(text)), UsualSize(caption));
   }
   return words;

@@ -3,22 +3,11 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "roofs/roof_types.h"
+#include "document/roof_words.h"
 #include "shell/twips.h"
 
 namespace pitchcraft {
 namespace {
-
-/// A hip whose pages are those of two slopes.
-const Design& UnequalHip() {
-  static const Design design = [] {
-    Design hip;
-    hip.RoofType = Roof::kHip;
-    hip.Rafter1.HipEndSlope = 1;
-    return hip;
-  }();
-  return design;
-}
 
 constexpr int kMargin = 8;
 constexpr int kGap = 6;
@@ -94,9 +83,8 @@ TabStrip::TabStrip(Session& session, QWidget* window)
 
 // A field has its caption before it.
 int TabStrip::LeastWidth() const {
-  int pages = pages_->WidthFor(CaptionsOf(HipRoof().Pages(UnequalHip())));
-  for (const RoofType* type : RoofTypes())
-    pages = std::max(pages, pages_->WidthFor(CaptionsOf(type->About().Pages)));
+  int pages = 0;
+  for (const auto& captions : WordsOfAllRoofs().Pages) pages = std::max(pages, pages_->WidthFor(captions));
   int field = 0;
   for (std::size_t i = 1; i < views_.size(); i += 2) {
     field = std::max(field, SizeOf(*views_[i - 1]).width() + kGap + SizeOf(*views_[i]).width());

@@ -30,6 +30,7 @@ class PageUnderTest {
   bool Do(std::string_view line) {
     const std::string_view verb = TakeWord(line);
     if (verb == "click") return Taken(actions_.Click(line));
+    if (verb == "calculate") return Taken(actions_.Calculate());
     if (verb == "press") return Taken(actions_.Press(line));
     const std::string_view name = TakeWord(line);
     if (verb == "type") return Taken(actions_.Type(name, line));

@@ -90,8 +90,10 @@ TEST_P(LegibleDialogs, TipsAndWhatThereIsToSayAboutTheProgram) {
 TEST_P(LegibleDialogs, QuestionsAndMessages) {
   LookAtItem("mnuFilePageSetup");
   LookAtItem("mnuFileProjectName");
-  Look("increment",
-       [this] { program_.Document().ClickMenu(*program_.Document().menus.Find("mnuSpinIncrement")); });
+  Look("increment", [this] {
+    IncrementForm form;
+    program_.dialogs.ShowForm(&form);
+  });
   Look("message", [this] { program_.dialogs.MsgBox("A title", "A message of some words."); });
 }
 

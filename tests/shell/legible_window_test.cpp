@@ -70,23 +70,23 @@ class LegibleWindow : public ::testing::WithParamInterface<Case>, WithFace, publ
           << where << ": " << text;
     };
     for (const QWidget* part : ShownParts()) {
-      Document().Hint(part->objectName().toStdString());
-      fits(Document().StatusText);
+      ShowHint(Document(), part->objectName().toStdString());
+      fits(Document().window.Status);
     }
-    for (const MenuItem* item : Document().menus.Items()) fits(item->StatusText);
+    for (const MenuItem* item : Document().design.menus.Items()) fits(item->StatusText);
   }
 };
 
 TEST_P(LegibleWindow, OnEveryPageOfEveryRoof) {
   for (const RoofType* type : RoofTypes()) {
-    const RoofType::Facts& row = type->About();
-    Press(std::string(row.ToolButton));
+    const std::string roof(type->About().Item);
+    Press(std::string(type->About().ToolButton));
     for (int page = 0; page < Document().design.sheet.Tabs[0].PageCount(); ++page) {
       Find<PageTabs>("VSTab(0)").setCurrentIndex(page);
-      ExpectLegible(std::string(row.Item) + ", page " + std::to_string(page));
+      ExpectLegible(roof + ", page " + std::to_string(page));
     }
     Find<PageTabs>("VSTab(0)").setCurrentIndex(0);
-    ExpectLegibleStatus(std::string(row.Item));
+    ExpectLegibleStatus(roof);
   }
 }
 
@@ -139,7 +139,7 @@ class WindowFont : public WindowTest {
   ~WindowFont() override { QApplication::setFont(UsualFont()); }
 };
 
-TEST_F(WindowFont, UsualLettersNeedNoMoreThanTheDriverHas) { EXPECT_EQ(Document().Words, WordRoom()); }
+TEST_F(WindowFont, UsualLettersNeedNoMoreThanTheDriverHas) { EXPECT_EQ(Document().window.Words, WordRoom()); }
 
 TEST_F(WindowFont, AChangeOfTheDesktopsLettersIsFollowedAndTakenBack) {
   const QSize least = window_.minimumSize();
@@ -148,7 +148,7 @@ TEST_F(WindowFont, AChangeOfTheDesktopsLettersIsFollowedAndTakenBack) {
   EXPECT_GT(window_.minimumWidth(), least.width());
   EXPECT_GT(window_.minimumHeight(), least.height());
   EXPECT_GT(Find("Sheet").width(), sheet.width());
-  EXPECT_EQ(Find("Picture1").width() * 15, Document().Picture1.Place.Width) << "drawn for the place it has";
+  EXPECT_EQ(Find("Picture1").width() * 15, Document().FigureArea().Width) << "drawn for the place it has";
   ExpectWordsFit(window_, "larger letters");
   UseFont(UsualFont());
   EXPECT_EQ(window_.minimumSize(), least);
