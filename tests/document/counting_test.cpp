@@ -67,7 +67,7 @@ TEST_F(CountingTest, ACommitCalculatesEachRafterOnce) {
 }
 
 TEST_F(CountingTest, AProjectIsOpenedWithOneFigure) {
-  ScratchFolder folder;
+  testing::ScratchFolder folder;
   long most = 0;
   for (const RoofType* type : RoofTypes()) {
     const std::string item(type->About().Item);

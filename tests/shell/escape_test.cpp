@@ -139,7 +139,7 @@ TEST_P(EscapeTest, LeavesAllAsItWas) {
   const Dialog& row = GetParam();
   if (std::string(row.name) == "Disclaimer")
     program_.store.Set("pitchcraft", "Options", "Show Tips at Startup", "0");
-  if (std::string(row.name) == "Message") program_.Document().ProjectFile = program_.PathOf("nowhere.pcf");
+  if (std::string(row.name) == "Message") program_.Document().project.File = program_.PathOf("nowhere.pcf");
   const auto before = Everything(program_);
   EXPECT_TRUE(before.contains("store") && before.contains("file TIPOFDAY.TXT"));
   {
@@ -192,7 +192,7 @@ class EscapeTwice : public ::testing::Test {
 TEST_F(EscapeTwice, FromSavingEndsInAMessage) {
   const auto seen = EscapeFrom([&] { program_.Trigger("mnuFileSave"); });
   EXPECT_EQ(seen, (std::vector<std::string>{"QFileDialog", "QMessageBox"}));
-  EXPECT_EQ(program_.Document().ProjectFile, "");
+  EXPECT_EQ(program_.Document().project.File, "");
   for (const auto& file : std::filesystem::directory_iterator(program_.folder.Path())) {
     EXPECT_EQ(file.path().filename(), "Degrees.dat");
   }

@@ -44,7 +44,7 @@ class FormWindow : public ::testing::Test, protected WindowHand {
   /// An item of the bar, or of a popup, which has no action as long as it does not show.
   void Click(const std::string& item) {
     if (auto* action = window_.findChild<QAction*>(QString::fromStdString(item))) return action->trigger();
-    Document().ClickMenu(*Document().design.menus.Find(item));
+    ClickMenu(Document(), *Document().design.menus.Find(item));
   }
 
   struct Folder : QTemporaryDir {

@@ -1,3 +1,4 @@
+#include "../support/document_api.h"
 #include "script_hand.h"
 
 #include <QAbstractItemView>
@@ -127,8 +128,8 @@ void ScriptHand::Resize(std::string_view size) {
 HandAndDriver::HandAndDriver() {
   OpenForTest(window);
   Start(driven);
-  driven.Window.Width = window.width() * kTwipsPerPixel;
-  driven.Window.Height = window.height() * kTwipsPerPixel;
+  driven.window.Place.Width = window.width() * kTwipsPerPixel;
+  driven.window.Place.Height = window.height() * kTwipsPerPixel;
   FollowSize(driven);
   Compare("start");
 }
