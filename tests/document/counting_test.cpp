@@ -1,4 +1,5 @@
-// How often an action calculates and draws. The linker hands every call of a calculation to the counters below.
+// How often an action calculates and draws. The linker hands every call of a calculation to the counters
+// below.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -14,12 +15,12 @@ int depth = 0;
 
 }  // namespace
 
-#define COUNTED(symbol)                                 \
-  extern "C" void __real_##symbol(pitchcraft::Rafter*); \
+#define COUNTED(symbol)                                         \
+  extern "C" void __real_##symbol(pitchcraft::Rafter*);         \
   extern "C" void __wrap_##symbol(pitchcraft::Rafter* rafter) { \
-    if (depth++ == 0) ++calculations;                   \
-    __real_##symbol(rafter);                            \
-    --depth;                                            \
+    if (depth++ == 0) ++calculations;                           \
+    __real_##symbol(rafter);                                    \
+    --depth;                                                    \
   }
 COUNTED(_ZN10pitchcraft6Rafter9CalculateEv)
 COUNTED(_ZN10pitchcraft6Rafter19CalculateBastardHipEv)
@@ -55,8 +56,9 @@ TEST_F(CountingTest, ACommitCalculatesEachRafterOnce) {
     const char* roof;
     long calculations;
   };
-  for (const Row& row : {Row{"Common Gable", 1}, Row{"Hip", 1}, Row{"Dual Slope", 2}, Row{"Unequal Span Valley", 2},
-                         Row{"Dutch Hip", 2}, Row{"Octagon", 1}, Row{"Gambrel Roof", 2}, Row{"Blind Valley", 1}}) {
+  for (const Row& row :
+       {Row{"Common Gable", 1}, Row{"Hip", 1}, Row{"Dual Slope", 2}, Row{"Unequal Span Valley", 2},
+        Row{"Dutch Hip", 2}, Row{"Octagon", 1}, Row{"Gambrel Roof", 2}, Row{"Blind Valley", 1}}) {
     Pick("cboType", row.roof);
     const long before = calculations;
     const long figures = document.FigureCount();

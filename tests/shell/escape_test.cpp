@@ -100,16 +100,21 @@ std::map<std::string, std::string> Everything(WholeProgram& program) {
   std::map<std::string, std::string> all;
   Document& document = program.Document();
   all["document"] = StateOf(document);
-  for (const double value : {double{document.preferences.Increment}, double{document.preferences.MetricIncrement},
-                             double{document.preferences.DxfTextSize}, double{document.preferences.DxfMetricTextSize}}) {
+  for (const double value :
+       {double{document.preferences.Increment}, double{document.preferences.MetricIncrement},
+        double{document.preferences.DxfTextSize}, double{document.preferences.DxfMetricTextSize}}) {
     all["lengths"] += std::to_string(value) + " ";
   }
   for (const std::uint32_t value :
-       {document.preferences.BackColor, document.preferences.LineColor, document.preferences.DimColor, document.preferences.TextColor, document.preferences.CtlBackColor,
-        document.preferences.CtlForeColor, document.preferences.CtlCalcColor, document.preferences.DxfBackColor,
-        static_cast<std::uint32_t>(document.preferences.LineWidth), static_cast<std::uint32_t>(document.preferences.DxfTextColor),
-        static_cast<std::uint32_t>(document.preferences.DxfLineColor), static_cast<std::uint32_t>(document.preferences.DxfDimColor),
-        static_cast<std::uint32_t>(document.PrintAllBlack), static_cast<std::uint32_t>(document.preferences.RotateFonts),
+       {document.preferences.BackColor, document.preferences.LineColor, document.preferences.DimColor,
+        document.preferences.TextColor, document.preferences.CtlBackColor, document.preferences.CtlForeColor,
+        document.preferences.CtlCalcColor, document.preferences.DxfBackColor,
+        static_cast<std::uint32_t>(document.preferences.LineWidth),
+        static_cast<std::uint32_t>(document.preferences.DxfTextColor),
+        static_cast<std::uint32_t>(document.preferences.DxfLineColor),
+        static_cast<std::uint32_t>(document.preferences.DxfDimColor),
+        static_cast<std::uint32_t>(document.PrintAllBlack),
+        static_cast<std::uint32_t>(document.preferences.RotateFonts),
         static_cast<std::uint32_t>(document.preferences.UseSystemColors)}) {
     all["numbers"] += std::to_string(value) + " ";
   }

@@ -122,7 +122,8 @@ TEST_F(Fields, ListOpensByKeyboardAndIsPickedFrom) {
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(Document().design.sheet.Common[0].ListIndex(), row);
-    EXPECT_EQ(double(Document().design.Rafter1.Depth), Document().design.sheet.Common[0].List()[std::size_t(row)].Right);
+    EXPECT_EQ(double(Document().design.Rafter1.Depth),
+              Document().design.sheet.Common[0].List()[std::size_t(row)].Right);
   }
 }
 

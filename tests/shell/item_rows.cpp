@@ -161,7 +161,8 @@ Deed Locks(const char* box, const char* item) {
     EXPECT_EQ(heel, std::string(box) == "chkHeel(0)");
     pick();
     EXPECT_FALSE(program.Find<QCheckBox>(box).isChecked());
-    EXPECT_FALSE(program.Document().design.Rafter1.HeelLocked || program.Document().design.Rafter1.SeatLocked);
+    EXPECT_FALSE(program.Document().design.Rafter1.HeelLocked ||
+                 program.Document().design.Rafter1.SeatLocked);
   };
 }
 

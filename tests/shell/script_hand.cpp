@@ -1,10 +1,10 @@
-#include "../support/document_api.h"
 #include "script_hand.h"
+#include "../support/document_api.h"
 
 #include <QAbstractItemView>
 
-#include "session/script_line.h"
 #include "core/number_text.h"
+#include "session/script_line.h"
 #include "shell/twips.h"
 
 namespace pitchcraft::testing {
