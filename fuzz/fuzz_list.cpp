@@ -10,7 +10,10 @@
 #include <string>
 
 #include "document/document.h"
+#include "document/fields.h"
 #include "document/null_surroundings.h"
+#include "document/session_ends.h"
+#include "document/slopes.h"
 
 namespace {
 
@@ -38,15 +41,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Start(document);
   for (int row = 0; row < static_cast<int>(document.design.sheet.Slope[0].List().size()); ++row) {
     document.design.sheet.Slope[0].SetListIndex(row);
-    document.LWSlope_Click(0);
+    document.Act("LWSlope_Click", &SlopePicked);
   }
   for (int row = 0; row < static_cast<int>(document.design.sheet.Common[0].List().size()); ++row) {
     document.design.sheet.Common[0].SetListIndex(row);
-    document.LWRafter_Commit(0);
+    document.Act("LWRafter_Commit", &CommonEntered);
   }
   for (int row = 0; row < static_cast<int>(document.design.sheet.Degrees[0].List().size()); ++row) {
     document.design.sheet.Degrees[0].SetListIndex(row);
-    document.cboDegrees_Click(0);
+    document.Act("cboDegrees_Click", &DegreesPicked);
   }
   Close(document);
   return 0;

@@ -11,7 +11,9 @@
 #include <string>
 
 #include "document/document.h"
+#include "document/files.h"
 #include "document/null_surroundings.h"
+#include "document/session_ends.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "document/session_ends.h"
 #include "session/script.h"
 
 namespace {

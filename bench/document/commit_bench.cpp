@@ -10,11 +10,13 @@
 #include <string>
 #include <vector>
 
-#include "session/script.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 #include "platform/font_setup.h"
 #include "platform/painter_canvas.h"
 #include "roofs/roof_types.h"
+#include "session/script.h"
 
 namespace pitchcraft {
 namespace {
@@ -43,7 +45,7 @@ struct Bench {
 
   Bench() {
     document.window.Place = {0, 0, static_cast<int>(kImageWidth * kTwipsPerPixel),
-                       static_cast<int>(kImageHeight * kTwipsPerPixel)};
+                             static_cast<int>(kImageHeight * kTwipsPerPixel)};
     Start(document);
     actions.Enter("LWSlope(0)", "6 | 12");
   }
@@ -61,7 +63,7 @@ struct Bench {
     image.fill(Qt::black);
     QPainter painter(&image);
     PainterCanvas canvas(painter, {kImageWidth * kTwipsPerPixel, kImageHeight * kTwipsPerPixel, false},
-                         document.meter, 1 / kTwipsPerPixel);
+                         document.Meter(), 1 / kTwipsPerPixel);
     document.Board().Recorder.Play(canvas);
     painter.end();
     return Seconds(std::chrono::steady_clock::now() - start);

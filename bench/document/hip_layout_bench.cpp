@@ -9,6 +9,8 @@
 #include "document/actions.h"
 #include "document/document.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 
 namespace pitchcraft {
 namespace {

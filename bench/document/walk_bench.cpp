@@ -10,6 +10,8 @@
 
 #include "../../tests/support/random_walk.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 
 namespace {
 

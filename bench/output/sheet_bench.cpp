@@ -14,6 +14,8 @@
 #include "document/actions.h"
 #include "document/document.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 #include "platform/font_setup.h"
 #include "platform/pdf_pages.h"
 

@@ -11,6 +11,8 @@
 
 #include "../../tests/support/random_walk.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
 #include "shell/main_window.h"
 #include "shell/program.h"
 #include "shell/program_style.h"

@@ -13,8 +13,10 @@
 #include <string>
 #include <vector>
 
-#include "session/script.h"
 #include "document/null_surroundings.h"
+#include "document/print.h"
+#include "document/session_ends.h"
+#include "session/script.h"
 #include "shell/main_window.h"
 #include "shell/program.h"
 #include "shell/program_style.h"

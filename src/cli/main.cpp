@@ -7,10 +7,6 @@
 #include <memory>
 #include <string>
 
-#include "session/dump.h"
-#include "session/file_store.h"
-#include "session/script.h"
-#include "session/script_printer.h"
 #include "document/files.h"
 #include "document/output_files.h"
 #include "document/print.h"
@@ -21,6 +17,10 @@
 #include "platform/picture_files.h"
 #include "platform/program_folder.h"
 #include "platform/qt_store.h"
+#include "session/dump.h"
+#include "session/file_store.h"
+#include "session/script.h"
+#include "session/script_printer.h"
 
 namespace pitchcraft {
 namespace {

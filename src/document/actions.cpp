@@ -177,6 +177,7 @@ Refusal Actions::PutIn(std::string_view name, std::string_view text, Way way) {
                                                     : events->leave;
   // A slope reads a percentage from the text as it was typed, so its own step brings it into form.
   const bool slope = cut.base == "LWSlope";
+  if (way == Way::kStay && events->edit.step == nullptr) return std::nullopt;
   const auto step = [&](Design& design, Reply& reply) {
     if (events->edit.step != nullptr) events->edit.step(design, reply, cut.index);
     if (way == Way::kStay) return;

@@ -5,7 +5,7 @@
 namespace pitchcraft {
 namespace {
 
-std::vector<std::string> CaptionsOf(std::span<const RoofPage> pages) {
+std::vector<std::string> CaptionsOn(std::span<const RoofPage> pages) {
   std::vector<std::string> captions;
   for (const RoofPage& page : pages) captions.emplace_back(page.Caption);
   return captions;
@@ -28,7 +28,7 @@ RoofWords WordsOfAllRoofs() {
     for (const double endSlope : {1, 2}) {
       design.Rafter1.Slope = 1;
       design.Rafter1.HipEndSlope = endSlope;
-      words.Pages.push_back(CaptionsOf(type->Pages(design)));
+      words.Pages.push_back(CaptionsOn(type->Pages(design)));
     }
   }
   return words;

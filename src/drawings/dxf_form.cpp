@@ -75,6 +75,7 @@ void DxfForm::CenterLine(int from, int to) { CenterLine(Real(from), Real(to)); }
 void DxfForm::Dimensions() {
   writer_.DimFirstTier();
   for (const DrawnDimension& dimension : board_.Dimensions) {
+    writer_.DimText = dimension.Text;
     switch (dimension.Kind) {
       case kAligned: Aligned(dimension); break;
       case kHorizontal: Horizontal(dimension); break;

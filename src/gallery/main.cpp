@@ -107,7 +107,8 @@ class Photographer {
 
   void Roofs() {
     gallery_.Heading("Roofs");
-    for (const RoofTypeRow& row : RoofTypes()) {
+    for (const RoofType* type : RoofTypes()) {
+      const RoofType::Facts& row = type->About();
       Do(actions_.Press(row.ToolButton));
       SlopeOfSixInTwelve();
       Pages(Text(row.Item));

@@ -81,7 +81,9 @@ void Drafter::DrawArrow(DxfPoint tip, DxfPoint back) {
 void Drafter::PlaceText() {
   look_.Angle = ReadingAngle(along_);
   const DxfPoint reading = DirectionAt(look_.Angle);
-  const std::string text = style_.TextHeight > 0 ? style_.LengthText(MeasureOf(dim_)) : std::string();
+  const std::string text = style_.TextHeight <= 0 ? std::string()
+                           : dim_.Text.empty()    ? style_.LengthText(MeasureOf(dim_))
+                                                  : dim_.Text;
   const double width = DxfTextWidth(text, style_.TextHeight);
   const DxfPoint up = LeftOf(reading);
   DxfPoint middle = 0.5 * (end1_ + end2_) + (style_.TextGap + style_.TextHeight / 2) * up;

@@ -65,6 +65,7 @@ struct DxfDimension {
   DxfDimensionKind Kind = DxfDimensionKind::kAligned;
   DxfPoint P1, P2, OnLine;
   std::optional<double> TextX, TextY;
+  std::string Text = {};  ///< empty for the text of its own measure
 };
 
 /// The smallest box around everything put into it.

@@ -87,6 +87,7 @@ void DxfWriter::Text(const std::string& text, Single x, Single y, std::optional<
 }
 
 void DxfWriter::Add(DxfDimension dimension, std::optional<Single> textX, std::optional<Single> textY) {
+  dimension.Text = std::exchange(DimText, {});
   RequireFinite(dimension.P1.X, dimension.P1.Y, dimension.P2.X, dimension.P2.Y, dimension.OnLine.X,
                 dimension.OnLine.Y, textX.value_or(0), textY.value_or(0));
   if (textX) dimension.TextX = *textX;

@@ -63,6 +63,9 @@ class DxfWriter {
   DxfUnits Units = DxfUnits::kInch;
   /// Writes the measured length of a dimension; without it, a plain number with up to four decimals.
   std::function<std::string(double)> LengthText;
+  /// Text of the next dimension, where it is known; it is used up. A measure that lies on the edge of two
+  /// sixteenths reads as it does in the figure then.
+  std::string DimText;
 
   // All dimensions of a file look alike: these values apply when it is saved. A negative one counts as 0.
   Single DimOffset = 2;     ///< from the object to the first tier

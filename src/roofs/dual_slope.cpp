@@ -32,7 +32,8 @@ class DualSlope final : public RoofType {
       CopyLumber(design);
       design.Rafter2.Overhang = design.Rafter1.Overhang;
       CopyLocks(design);
-      // Once before the front rafter and once after it: a locked heel of 0 takes the overhang away only for the second.
+      // Once before the front rafter and once after it: a locked heel of 0 takes the overhang away only for
+      // the second.
       design.Rafter2.Calculate();
     }
     Recalculate(design, reply);

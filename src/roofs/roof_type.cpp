@@ -10,7 +10,8 @@
 namespace pitchcraft {
 namespace {
 
-// An angle is shown as it was entered, to the decimals that it has; where the slope has changed without it, the slope's own is.
+// An angle is shown as it was entered, to the decimals that it has; where the slope has changed without it,
+// the slope's own is.
 void SettleAngle(Single& degrees, double slope, double base) {
   constexpr double kTwoDecimals = 0.0051;
   const double own = kDegreesPerRadian * std::atan(slope / base);

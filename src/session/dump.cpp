@@ -76,7 +76,7 @@ Json DumpTabs(const Sheet& sheet) {
   Json dump = Json::object();
   for (std::size_t i = 0; i < sheet.Tabs.size(); ++i) {
     dump["VSTab(" + PlainText(static_cast<double>(i)) + ")"] = {{"Caption", sheet.Tabs[i].Caption()},
-                                                {"Page", sheet.Tabs[i].Page}};
+                                                                {"Page", sheet.Tabs[i].Page}};
   }
   return dump;
 }

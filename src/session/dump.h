@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "session/json_number.h"
 #include "document/document.h"
+#include "session/json_number.h"
 
 namespace pitchcraft {
 

@@ -2,8 +2,8 @@
 
 #include <fstream>
 
-#include "session/json_number.h"
 #include "files/whole_file.h"
+#include "session/json_number.h"
 
 namespace pitchcraft {
 

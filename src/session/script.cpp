@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "session/dump.h"
-#include "session/script_line.h"
 #include "core/number_text.h"
 #include "design/questions.h"
 #include "document/forms.h"
 #include "document/pages.h"
 #include "document/session_ends.h"
+#include "session/dump.h"
+#include "session/script_line.h"
 
 namespace pitchcraft {
 namespace {

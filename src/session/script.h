@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "session/json_number.h"
 #include "document/actions.h"
 #include "document/document.h"
+#include "session/json_number.h"
 
 namespace pitchcraft {
 

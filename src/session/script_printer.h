@@ -7,8 +7,8 @@
 #include <ostream>
 #include <string>
 
-#include "session/script.h"
 #include "document/surroundings.h"
+#include "session/script.h"
 
 namespace pitchcraft {
 

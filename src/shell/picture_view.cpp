@@ -179,9 +179,7 @@ void PictureView::PressAt(int button, QPointF place, const QPoint& onScreen) {
   // The document knows the whole drawing, whatever part of it shows.
   const QPointF at = zoom_.ToDrawing(place) * kTwipsPerPixel;
   const MenuItem* popup = nullptr;
-  session_.Do([&](Actions&) {
-    popup = PressOnFigure(session_.Document(), button, qRound(at.x()));
-  });
+  session_.Do([&](Actions&) { popup = PressOnFigure(session_.Document(), button, qRound(at.x())); });
   if (popup != nullptr) ShowPopup(session_, *popup, onScreen, actions());
 }
 

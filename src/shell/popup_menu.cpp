@@ -53,7 +53,8 @@ void SyncMenuAction(QAction& action, const MenuItem& item) {
   action.setVisible(item.Visible);
 }
 
-std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu) {
+std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder,
+                                                           QMenu& menu) {
   std::vector<std::pair<const MenuItem*, QAction*>> rows;
   for (MenuItem* item : session.Document().design.menus.ItemsUnder(holder)) {
     rows.emplace_back(item, MakeMenuAction(session, *item, &menu));

@@ -12,7 +12,8 @@ QAction* MakeMenuAction(Session& session, const MenuItem& item, QObject* parent)
 /// Takes caption, check, visible and enabled from the item.
 void SyncMenuAction(QAction& action, const MenuItem& item);
 /// Fills the menu with the items under the holder, each in step with its action.
-std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder, QMenu& menu);
+std::vector<std::pair<const MenuItem*, QAction*>> FillMenu(Session& session, const MenuItem& holder,
+                                                           QMenu& menu);
 
 /// Shows the popup that hangs on `holder`, with `more` below it, at a place of the screen. It goes when it
 /// was used.

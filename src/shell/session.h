@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "document/actions.h"
-#include "document/pages.h"
 #include "document/document.h"
+#include "document/pages.h"
 
 namespace pitchcraft {
 

@@ -234,8 +234,8 @@ TEST_P(OtherMembers, KeepLengthsBevelsHeelAndSeatOfTheHip) {
   EXPECT_EQ(rafter.BottomBevelAngle, 45);
 }
 INSTANTIATE_TEST_SUITE_P(Calculate, OtherMembers,
-                         testing::Values(Member::kHipEndCommon, Member::kOctagonJack,
-                                         Member::kOctagonHip, Member::kBayCommon));
+                         testing::Values(Member::kHipEndCommon, Member::kOctagonJack, Member::kOctagonHip,
+                                         Member::kBayCommon));
 
 TEST(Calculate, ResetsTheKindsOfBevel) {
   Rafter rafter;

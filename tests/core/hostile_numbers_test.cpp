@@ -2,8 +2,8 @@
 // next sensible numbers.
 #include <limits>
 
-#include "random_roof.h"
 #include "core/rafter_members.h"
+#include "random_roof.h"
 
 namespace pitchcraft {
 namespace {

@@ -23,7 +23,8 @@ class FileMenuTest : public ProjectTest {
 TEST_F(FileMenuTest, SaveAsksForANameOnce) {
   Click("mnuFileSave", PathOf("house.pcf"));
   EXPECT_EQ(document.project.File, PathOf("house.pcf"));
-  EXPECT_EQ(document.window.Title, "Pitchcraft - [" + RecentFileList::ShortenedPath(PathOf("house.pcf"), 60) + "]");
+  EXPECT_EQ(document.window.Title,
+            "Pitchcraft - [" + RecentFileList::ShortenedPath(PathOf("house.pcf"), 60) + "]");
   const std::string first = Read("house.pcf");
   EXPECT_FALSE(actions.Type("FtSpan(0)", "200"));
   Click("mnuFileSave");

@@ -54,7 +54,8 @@ TEST_F(OptionsTest, CancelLeavesEverything) {
     form.LumberList.DeleteRow(0);
   });
   EXPECT_EQ(document.preferences.BackColor, 0U);
-  EXPECT_FALSE(document.PrintAllBlack || document.preferences.UseSystemColors || document.preferences.RotateFonts);
+  EXPECT_FALSE(document.PrintAllBlack || document.preferences.UseSystemColors ||
+               document.preferences.RotateFonts);
   EXPECT_EQ(document.preferences.LineWidth, 1);
   EXPECT_EQ(double{document.preferences.DxfTextSize}, 2);
   EXPECT_FALSE(Exists("Lumber.dat"));

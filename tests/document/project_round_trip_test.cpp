@@ -136,7 +136,8 @@ TEST_F(LossTest, TextsComeBackAsShown) {
   EXPECT_DOUBLE_EQ(before.document.design.sheet.Slope[2].LeftValue(), 8.12345);
   EXPECT_NEAR(after.document.design.sheet.Slope[2].LeftValue(), 8.12345, 0.0001);
   EXPECT_NE(after.document.design.sheet.Slope[2].LeftValue(), 8.12345);
-  EXPECT_EQ(after.document.design.sheet.Slope[2].LeftText(), before.document.design.sheet.Slope[2].LeftText());
+  EXPECT_EQ(after.document.design.sheet.Slope[2].LeftText(),
+            before.document.design.sheet.Slope[2].LeftText());
 }
 
 TEST_F(LossTest, HipOpensWithThePlainLayout) {
@@ -148,7 +149,8 @@ TEST_F(LossTest, HipOpensWithThePlainLayout) {
             std::string::npos);
   EXPECT_NE(double{before.document.design.Rafter1.HipShift}, 0) << "the overhangs were made equal";
   EXPECT_EQ(double{after.document.design.Rafter1.HipShift}, 0);
-  EXPECT_LT(double{after.document.design.Rafter1.HipEndOverhang}, double{after.document.design.Rafter1.Overhang});
+  EXPECT_LT(double{after.document.design.Rafter1.HipEndOverhang},
+            double{after.document.design.Rafter1.Overhang});
   const Menus& menus = after.document.design.menus;
   for (const MenuItem* item :
        {&menus.HipLayoutCorners, &menus.PopUp1LayoutCorner, &menus.HipLayoutCornersFlush,

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "../support/golden.h"
-#include "support/document_api.h"
 #include "document/null_surroundings.h"
 #include "project_case.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 

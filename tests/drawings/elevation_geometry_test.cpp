@@ -69,8 +69,8 @@ void ExpectOutlineOfWood(const ElevationCase& c) {
 }
 
 constexpr std::pair<Member, int> kMembers[] = {{Member::kCommon, 0}, {Member::kShed, 3},
-                                                   {Member::kHip, 1},    {Member::kValley, 2},
-                                                   {Member::kCommon, 1}, {Member::kCommon, 4}};
+                                               {Member::kHip, 1},    {Member::kValley, 2},
+                                               {Member::kCommon, 1}, {Member::kCommon, 4}};
 
 TEST(ElevationOutline, IsTheWoodAtEverySlopeAndOverhang) {
   for (const auto& [type, roof] : kMembers) {

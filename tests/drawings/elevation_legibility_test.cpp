@@ -29,9 +29,9 @@ void ExpectReadable(ElevationCase c) {
 
 template <typename Vary>
 void ForEveryMember(const Vary& vary) {
-  constexpr std::pair<Member, int> kMembers[] = {
-      {Member::kCommon, 0}, {Member::kShed, 3},   {Member::kHip, 1},
-      {Member::kValley, 2}, {Member::kCommon, 1}, {Member::kShortValley, 10}};
+  constexpr std::pair<Member, int> kMembers[] = {{Member::kCommon, 0}, {Member::kShed, 3},
+                                                 {Member::kHip, 1},    {Member::kValley, 2},
+                                                 {Member::kCommon, 1}, {Member::kShortValley, 10}};
   for (const auto& [type, roof] : kMembers) {
     for (const bool square : {false, true}) {
       for (const int tab : {0, 1}) {

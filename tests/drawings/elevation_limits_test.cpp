@@ -59,8 +59,7 @@ TEST_F(Hostile, EndsBlankWithOneOverflow) {
 TEST_F(Hostile, EveryMixtureEndsSoon) {
   const double values[] = {0, 1e-30, 1, -6, 144, 1e7, 1e9, 1e20, kInfinity, std::nan("")};
   const auto start = std::chrono::steady_clock::now();
-  for (const Member type :
-       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
+  for (const Member type : {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const double slope : values) {
       for (const double run : values) {
         for (const double overhang : {0.0, 10.5, -3.0, 1e8}) {
@@ -90,8 +89,7 @@ TEST_F(Hostile, EveryMixtureEndsSoon) {
 }
 
 TEST_F(Hostile, DrawsALevelRafter) {
-  for (const Member type :
-       {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
+  for (const Member type : {Member::kCommon, Member::kShed, Member::kHip, Member::kValley}) {
     for (const bool square : {false, true}) {
       ElevationCase c;
       c.Type = type;

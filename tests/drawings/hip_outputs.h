@@ -15,8 +15,7 @@ namespace pitchcraft::testing {
 class HipOutputs {
  public:
   explicit HipOutputs(const HipCase& c, DrawnHip::Procedure draw = &DrawHipLayout)
-      : drawn(c, draw),
-        metric_(c.Metric) {
+      : drawn(c, draw), metric_(c.Metric) {
     context.Drawing = drawn.context;
     context.Spacing = c.Metric ? "400" : "16\"";
     context.ProjectName = "Barn";

@@ -12,10 +12,10 @@
 #include <QTemporaryDir>
 
 #include "core/run_time_error.h"
-#include "support/document_api.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"
+#include "support/document_api.h"
 
 namespace pitchcraft {
 namespace {

@@ -163,7 +163,7 @@ const CaptionRow kCaptions[] = {
 TEST(RowLayouts, CaptionsFollowTheRoofType) {
   for (const CaptionRow& row : kCaptions) {
     Design design;
-  Sheet& sheet = design.sheet;
+    Sheet& sheet = design.sheet;
     LayOutFor(design, row.roof);
     EXPECT_EQ(sheet.Label[row.label].Caption, row.caption) << static_cast<int>(row.roof);
     EXPECT_TRUE(sheet.Label[row.label].Visible) << static_cast<int>(row.roof) << " " << row.caption;

@@ -75,7 +75,8 @@ class Colors : public ::testing::TestWithParam<const char*> {
 TEST_P(Colors, OfTheDrawingStandOut) {
   const pitchcraft::Document& document = Document();
   EXPECT_GE(Of(document.preferences.LineColor, document.preferences.BackColor), kLeastForLines);
-  EXPECT_GE(Of(document.preferences.DimColor, document.preferences.BackColor), kLeastForText);  // of its figures, too
+  EXPECT_GE(Of(document.preferences.DimColor, document.preferences.BackColor),
+            kLeastForText);  // of its figures, too
   EXPECT_GE(Of(document.preferences.TextColor, document.preferences.BackColor), kLeastForText);
   // The rules of the product give these; the figures stand in docs/options.md.
   EXPECT_NEAR(Of(document.preferences.LineColor, document.preferences.BackColor), 21, 0.01);

@@ -100,16 +100,21 @@ std::map<std::string, std::string> Everything(WholeProgram& program) {
   std::map<std::string, std::string> all;
   Document& document = program.Document();
   all["document"] = StateOf(document);
-  for (const double value : {double{document.preferences.Increment}, double{document.preferences.MetricIncrement},
-                             double{document.preferences.DxfTextSize}, double{document.preferences.DxfMetricTextSize}}) {
+  for (const double value :
+       {double{document.preferences.Increment}, double{document.preferences.MetricIncrement},
+        double{document.preferences.DxfTextSize}, double{document.preferences.DxfMetricTextSize}}) {
     all["lengths"] += std::to_string(value) + " ";
   }
   for (const std::uint32_t value :
-       {document.preferences.BackColor, document.preferences.LineColor, document.preferences.DimColor, document.preferences.TextColor, document.preferences.CtlBackColor,
-        document.preferences.CtlForeColor, document.preferences.CtlCalcColor, document.preferences.DxfBackColor,
-        static_cast<std::uint32_t>(document.preferences.LineWidth), static_cast<std::uint32_t>(document.preferences.DxfTextColor),
-        static_cast<std::uint32_t>(document.preferences.DxfLineColor), static_cast<std::uint32_t>(document.preferences.DxfDimColor),
-        static_cast<std::uint32_t>(document.PrintAllBlack), static_cast<std::uint32_t>(document.preferences.RotateFonts),
+       {document.preferences.BackColor, document.preferences.LineColor, document.preferences.DimColor,
+        document.preferences.TextColor, document.preferences.CtlBackColor, document.preferences.CtlForeColor,
+        document.preferences.CtlCalcColor, document.preferences.DxfBackColor,
+        static_cast<std::uint32_t>(document.preferences.LineWidth),
+        static_cast<std::uint32_t>(document.preferences.DxfTextColor),
+        static_cast<std::uint32_t>(document.preferences.DxfLineColor),
+        static_cast<std::uint32_t>(document.preferences.DxfDimColor),
+        static_cast<std::uint32_t>(document.PrintAllBlack),
+        static_cast<std::uint32_t>(document.preferences.RotateFonts),
         static_cast<std::uint32_t>(document.preferences.UseSystemColors)}) {
     all["numbers"] += std::to_string(value) + " ";
   }
@@ -139,7 +144,7 @@ TEST_P(EscapeTest, LeavesAllAsItWas) {
   const Dialog& row = GetParam();
   if (std::string(row.name) == "Disclaimer")
     program_.store.Set("pitchcraft", "Options", "Show Tips at Startup", "0");
-  if (std::string(row.name) == "Message") program_.Document().ProjectFile = program_.PathOf("nowhere.pcf");
+  if (std::string(row.name) == "Message") program_.Document().project.File = program_.PathOf("nowhere.pcf");
   const auto before = Everything(program_);
   EXPECT_TRUE(before.contains("store") && before.contains("file TIPOFDAY.TXT"));
   {
@@ -192,7 +197,7 @@ class EscapeTwice : public ::testing::Test {
 TEST_F(EscapeTwice, FromSavingEndsInAMessage) {
   const auto seen = EscapeFrom([&] { program_.Trigger("mnuFileSave"); });
   EXPECT_EQ(seen, (std::vector<std::string>{"QFileDialog", "QMessageBox"}));
-  EXPECT_EQ(program_.Document().ProjectFile, "");
+  EXPECT_EQ(program_.Document().project.File, "");
   for (const auto& file : std::filesystem::directory_iterator(program_.folder.Path())) {
     EXPECT_EQ(file.path().filename(), "Degrees.dat");
   }

@@ -25,13 +25,13 @@ TEST_F(Fields, LeavingCommits) {
 }
 
 TEST_F(Fields, LeavingWithoutTypingCommitsNothing) {
-  CountCalculations();
+  CountActions();
   Box("LWSlope(0).Left").setFocus();
   for (int i = 0; i < 20; ++i) Key(Qt::Key_Tab);
-  EXPECT_EQ(calculations_, 0);
+  EXPECT_EQ(ActionsTaken(), 0);
   Type("FtOverhang(0)", "12");
   Key(Qt::Key_Tab);
-  EXPECT_EQ(calculations_, 1);
+  EXPECT_EQ(ActionsTaken(), 1);
 }
 
 TEST_F(Fields, TypingIsKnownBeforeItIsFinished) {
@@ -57,9 +57,9 @@ TEST_F(Fields, EscapeBringsBackTheNumberAndNotItsRoundedText) {
   Key(Qt::Key_Escape);
   EXPECT_EQ(Box("FtSpan(0)").Entry(), shown);
   EXPECT_EQ(Document().design.sheet.Span[0].Value(), 19.2);
-  CountCalculations();
+  CountActions();
   Key(Qt::Key_Tab);
-  EXPECT_EQ(calculations_, 0);
+  EXPECT_EQ(ActionsTaken(), 0);
 }
 
 TEST_F(Fields, EscapeInAPairBringsBackBoth) {
@@ -72,13 +72,13 @@ TEST_F(Fields, EscapeInAPairBringsBackBoth) {
 }
 
 TEST_F(Fields, GoingBetweenTheBoxesOfAPairLeavesNothing) {
-  CountCalculations();
+  CountActions();
   Type("LWRafter(0).Left", "3");
   Key(Qt::Key_Tab);
   EXPECT_EQ(FocusName(), "LWRafter(0).Right");
-  EXPECT_EQ(calculations_, 0);
+  EXPECT_EQ(ActionsTaken(), 0);
   Key(Qt::Key_Tab);
-  EXPECT_EQ(calculations_, 1);
+  EXPECT_EQ(ActionsTaken(), 1);
   EXPECT_EQ(double(Document().design.Rafter1.Thickness), 3);
   EXPECT_EQ(double(Document().design.Rafter1.Depth), 7.25);
 }
@@ -122,7 +122,8 @@ TEST_F(Fields, ListOpensByKeyboardAndIsPickedFrom) {
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(Document().design.sheet.Common[0].ListIndex(), row);
-    EXPECT_EQ(double(Document().design.Rafter1.Depth), Document().design.sheet.Common[0].List()[std::size_t(row)].Right);
+    EXPECT_EQ(double(Document().design.Rafter1.Depth),
+              Document().design.sheet.Common[0].List()[std::size_t(row)].Right);
   }
 }
 

@@ -44,7 +44,7 @@ class FormWindow : public ::testing::Test, protected WindowHand {
   /// An item of the bar, or of a popup, which has no action as long as it does not show.
   void Click(const std::string& item) {
     if (auto* action = window_.findChild<QAction*>(QString::fromStdString(item))) return action->trigger();
-    Document().ClickMenu(*Document().design.menus.Find(item));
+    ClickMenu(Document(), *Document().design.menus.Find(item));
   }
 
   struct Folder : QTemporaryDir {
@@ -72,7 +72,8 @@ TEST_F(FormWindow, IncrementTakesItsFieldWithEnter) {
   EXPECT_EQ(double{Document().preferences.Increment}, 1);
   Document().preferences.Increment = 0.3;
   With("mnuSpinIncrement", [](QDialog& dialog) { ClickIn(dialog, "Command1(0)"); });
-  EXPECT_EQ(double{Document().preferences.Increment}, double{Single(0.3)}) << "shown as a sixteenth, not rounded to one";
+  EXPECT_EQ(double{Document().preferences.Increment}, double{Single(0.3)})
+      << "shown as a sixteenth, not rounded to one";
 }
 
 TEST_F(FormWindow, TipsGoRoundAndTheBoxIsStored) {
@@ -204,10 +205,12 @@ TEST_F(FormWindow, BoxesAndTheSliderCountWithOkAndNotWithCancel) {
     });
   };
   change("cmdCancel");
-  EXPECT_FALSE(Document().PrintAllBlack || Document().preferences.RotateFonts || Document().preferences.UseSystemColors);
+  EXPECT_FALSE(Document().PrintAllBlack || Document().preferences.RotateFonts ||
+               Document().preferences.UseSystemColors);
   EXPECT_EQ(Document().preferences.LineWidth, 1);
   change("cmdOK");
-  EXPECT_TRUE(Document().PrintAllBlack && Document().preferences.RotateFonts && Document().preferences.UseSystemColors);
+  EXPECT_TRUE(Document().PrintAllBlack && Document().preferences.RotateFonts &&
+              Document().preferences.UseSystemColors);
   EXPECT_EQ(Document().preferences.LineWidth, 6);
 }
 

@@ -67,7 +67,7 @@ Deed ShowsHelp(const char* page) {
 // --------------------------------------------------------------------------------------------------------
 
 void SavesAsAnotherProject(WholeProgram& program, const Pick& pick) {
-  program.Document().ProjectFile = program.PathOf("old.pcf");
+  program.Document().project.File = program.PathOf("old.pcf");
   const Hand<QFileDialog> hand([&](QFileDialog& box) { Name(box, program.PathOf("barn")); });
   pick();
   EXPECT_TRUE(std::filesystem::exists(program.PathOf("barn.pcf")));
@@ -81,7 +81,7 @@ void NamesTheProject(WholeProgram& program, const Pick& pick) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   pick();
-  EXPECT_EQ(program.Document().ProjectName, "Barn");
+  EXPECT_EQ(program.Document().project.Name, "Barn");
   EXPECT_EQ(program.window.windowTitle(), "Pitchcraft - [Barn]");
 }
 
@@ -101,7 +101,7 @@ void ExportsDxf(WholeProgram& program, const Pick& pick) {
 /// A page without a drawing has nothing to print or to export.
 Deed Tells(const char* text) {
   return [text](WholeProgram& program, const Pick& pick) {
-    EXPECT_FALSE(program.Document().DrawingExists);
+    EXPECT_FALSE(program.Document().HasFigure());
     const Hand<QMessageBox> hand([&](QMessageBox& box) {
       EXPECT_EQ(box.text(), text);
       QTest::keyClick(&box, Qt::Key_Return);
@@ -126,12 +126,12 @@ Deed OpensRecent(int place) {
     for (const int feet : {14, 13, 12, 11}) {
       program.Enter("FtSpan(0)", QString("%1'").arg(feet));
       const std::string file = program.PathOf("run" + std::to_string(feet) + ".pcf");
-      EXPECT_TRUE(program.Document().SaveRafter(file));
+      EXPECT_TRUE(SaveProject(program.Document(), file));
     }
     program.Enter("FtSpan(0)", "8'");
     pick();
     EXPECT_EQ(program.Box("FtSpan(0)").Entry(), std::to_string(11 + place) + "' 0\"");
-    EXPECT_EQ(program.Document().ProjectName, "run" + std::to_string(11 + place));
+    EXPECT_EQ(program.Document().project.Name, "run" + std::to_string(11 + place));
   };
 }
 
@@ -155,13 +155,14 @@ Deed Locks(const char* box, const char* item) {
     pick();
     EXPECT_TRUE(program.Find<QCheckBox>(box).isChecked());
     EXPECT_TRUE(Ticked(program, item));
-    const bool heel = program.Document().Rafter1.HeelLocked;
-    const bool seat = program.Document().Rafter1.SeatLocked;
+    const bool heel = program.Document().design.Rafter1.HeelLocked;
+    const bool seat = program.Document().design.Rafter1.SeatLocked;
     EXPECT_NE(heel, seat);
     EXPECT_EQ(heel, std::string(box) == "chkHeel(0)");
     pick();
     EXPECT_FALSE(program.Find<QCheckBox>(box).isChecked());
-    EXPECT_FALSE(program.Document().Rafter1.HeelLocked || program.Document().Rafter1.SeatLocked);
+    EXPECT_FALSE(program.Document().design.Rafter1.HeelLocked ||
+                 program.Document().design.Rafter1.SeatLocked);
   };
 }
 
@@ -177,7 +178,7 @@ Deed Cuts(const char* key) {
       EXPECT_EQ(Ticked(program, ("mnuSettings" + std::string(other) + "Cut").c_str()), on) << other;
     }
     EXPECT_EQ(program.Find("LWFascia(0)").isEnabled(), std::string(key) == "Plumb");
-    if (program.Document().RoofType != Roof::kGambrel) {
+    if (program.Document().design.RoofType != Roof::kGambrel) {
       EXPECT_NE(program.Shown(), before);
     }
   };
@@ -198,7 +199,7 @@ Deed TakesUnits(bool metric) {
   return [metric](WholeProgram& program, const Pick& pick) {
     if (!metric) program.Trigger("mnuMetric");
     pick();
-    EXPECT_EQ(program.Document().Imperial(), !metric);
+    EXPECT_EQ(!program.Document().design.Metric, !metric);
     EXPECT_EQ(program.Box("FtSpan(0)").Entry(), metric ? "3600 mm" : "12' 0\"");
     EXPECT_EQ(Ticked(program, "mnuMetric"), metric);
     EXPECT_EQ(Ticked(program, "mnuImperial"), !metric);
@@ -230,9 +231,9 @@ Deed HasLedger(bool with) {
   return [with](WholeProgram& program, const Pick& pick) {
     program.Trigger(with ? "mnuDutchLedger(1)" : "mnuDutchLedger(0)");
     pick();
-    const double ridge = program.Document().Rafter1.RidgeThickness;
+    const double ridge = program.Document().design.Rafter1.RidgeThickness;
     EXPECT_GT(ridge, 0);
-    EXPECT_EQ(double(program.Document().Rafter2.RidgeThickness), with ? ridge : 0);
+    EXPECT_EQ(double(program.Document().design.Rafter2.RidgeThickness), with ? ridge : 0);
     EXPECT_EQ(program.Find<QComboBox>("cboLedger").currentIndex(), with ? 0 : 1);
     EXPECT_EQ(Ticked(program, "mnuDutchLedger(0)"), with);
     EXPECT_EQ(Ticked(program, "mnuDutchLedger(1)"), !with);
@@ -295,7 +296,7 @@ Deed Supports(int which) {
     program.Trigger(kSupports[(which + 1) % 3]);
     pick();
     for (int i = 0; i < 3; ++i) EXPECT_EQ(Ticked(program, kSupports[i]), i == which) << kSupports[i];
-    EXPECT_EQ(program.Document().Rafter1.Purlins, which == 0);
+    EXPECT_EQ(program.Document().design.Rafter1.Purlins, which == 0);
     EXPECT_EQ(program.Find("FTUpperFascia").isVisible(), which == 2);
   };
 }
@@ -310,11 +311,11 @@ void TakesAStep(WholeProgram& program, const Pick& pick) {
     ClickIn(dialog, "Command1(0)");
   });
   pick();
-  EXPECT_EQ(double{program.Document().Increment}, 1.5);
+  EXPECT_EQ(double{program.Document().preferences.Increment}, 1.5);
   program.ComeBack();
   program.Box("FtSpan(0)").setFocus();
   program.Key(Qt::Key_Up);
-  EXPECT_EQ(double(program.Document().Rafter1.Span), 145.5);
+  EXPECT_EQ(double(program.Document().design.Rafter1.Span), 145.5);
 }
 
 void ChangesNothing(WholeProgram& program, const Pick& pick) {
@@ -357,7 +358,7 @@ void StartsAProject(WholeProgram& program, const Pick& pick) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   pick();
-  EXPECT_EQ(program.Document().RoofType, Roof::kGable);
+  EXPECT_EQ(program.Document().design.RoofType, Roof::kGable);
   EXPECT_EQ(program.window.windowTitle(), "Pitchcraft - [Barn]");
 }
 
@@ -365,7 +366,7 @@ void OpensAProject(WholeProgram& program, const Pick& pick) {
   WriteWhole(program.PathOf("shed.pcf"), "[Settings]\r\nRafterType=3\r\nSlope=5\r\nSpan=150\r\n");
   const Hand<QFileDialog> hand([&](QFileDialog& box) { Name(box, program.PathOf("shed.pcf")); });
   pick();
-  EXPECT_EQ(program.Document().RoofType, Roof::kShed);
+  EXPECT_EQ(program.Document().design.RoofType, Roof::kShed);
   EXPECT_EQ(program.Box("FtSpan(0)").Entry(), "12' 6\"");
   EXPECT_TRUE(program.Find<QToolButton>("Shed").isChecked());
 }

@@ -16,7 +16,7 @@ class MenuHand {
 
   void Take(const ItemRow& row, Way way) {
     program_.ComeBack();
-    const Menus& menus = program_.Document().menus;
+    const Menus& menus = program_.Document().design.menus;
     ASSERT_NE(menus.Find(row.item), nullptr);
     const MenuItem& item = *menus.Find(row.item);
     const MenuItem* holder = menus.HolderOf(item);

@@ -11,7 +11,7 @@ class MetricWindow : public ::testing::TestWithParam<MetricRoof>, protected Hand
  protected:
   /// Every box shows what its control holds, and lengths in millimetres.
   void ExpectMillimetres() {
-    const Json sheet = DumpSheet(hand.Document().sheet);
+    const Json sheet = DumpSheet(hand.Document().design.sheet);
     int lengths = 0;
     for (const EntryBox* box : window.findChildren<EntryBox*>()) {
       if (!box->isVisible()) continue;
@@ -25,7 +25,7 @@ class MetricWindow : public ::testing::TestWithParam<MetricRoof>, protected Hand
       EXPECT_TRUE(box->text().endsWith(" mm")) << name << " " << box->Entry();
       ++lengths;
     }
-    EXPECT_GT(lengths, hand.Document().CurrentTab == 0 ? 6 : -1);
+    EXPECT_GT(lengths, PageShown(hand.Document().design) == 0 ? 6 : -1);
   }
 };
 
@@ -38,13 +38,13 @@ TEST_P(MetricWindow, HandAndDriverEndInTheSameState) {
   ExpectMillimetres();
   for (int page = PageCount(roof) - 1; page >= 0; --page) {
     Both(PageLine(page));
-    if (hand.Document().sheet.Spacing.Visible) Both("pick cboSpacing 600 mm");
+    if (hand.Document().design.sheet.Spacing.Visible) Both("pick cboSpacing 600 mm");
     ExpectMillimetres();
   }
   Both({"answer " + file, "click mnufileSaveAs", "answer Shed", "click mnuFileNew"});
-  EXPECT_EQ(hand.Document().RoofType, Roof::kGable);
+  EXPECT_EQ(hand.Document().design.RoofType, Roof::kGable);
   Both({"answer " + file, "click mnuFileOpen"});
-  EXPECT_EQ(hand.Document().RoofType, roof.code);
+  EXPECT_EQ(hand.Document().design.RoofType, roof.code);
   EXPECT_EQ(window.windowTitle().toStdString(),
             "Pitchcraft - [" + RecentFileList::ShortenedPath(file, 60) + "]");
   ExpectMillimetres();

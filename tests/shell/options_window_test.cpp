@@ -51,7 +51,7 @@ class OptionsWindow : public ::testing::Test {
   }
   std::string File(const char* name) const { return ReadWhole(program_.PathOf(name)); }
   bool Has(const char* name) const { return std::filesystem::exists(program_.PathOf(name)); }
-  std::string FirstLumber() { return program_.Document().sheet.Common[0].List()[0].Caption; }
+  std::string FirstLumber() { return program_.Document().design.sheet.Common[0].List()[0].Caption; }
 
   WholeProgram program_;
 };
@@ -124,7 +124,7 @@ TEST_F(OptionsWindow, TheListBeforeTheLastChangeIsBackedUpAndComesBack) {
 }
 
 TEST_F(OptionsWindow, SlopesGainAndLoseARow) {
-  const std::size_t rows = program_.Document().sheet.Slope[0].List().size();
+  const std::size_t rows = program_.Document().design.sheet.Slope[0].List().size();
   With([&](QDialog& dialog) {
     QTableView& table = Table(dialog, kSlopes);
     Click(dialog, "Command1(0)");
@@ -138,12 +138,12 @@ TEST_F(OptionsWindow, SlopesGainAndLoseARow) {
     QApplication::processEvents();
     TypeInto(table, row, 1, "20");
     Click(dialog, "cmdApply");
-    EXPECT_EQ(program_.Document().sheet.Slope[0].List().size(), rows + 1);
+    EXPECT_EQ(program_.Document().design.sheet.Slope[0].List().size(), rows + 1);
     table.setCurrentIndex(table.model()->index(row, 0));
     Click(dialog, "Command1(1)");
     Click(dialog, "cmdOK");
   });
-  EXPECT_EQ(program_.Document().sheet.Slope[0].List().size(), rows);
+  EXPECT_EQ(program_.Document().design.sheet.Slope[0].List().size(), rows);
   EXPECT_NE(File("Slope.old").find("steep|20|12"), std::string::npos);
   EXPECT_EQ(File("Slope.dat").find("steep"), std::string::npos);
 }

@@ -77,7 +77,7 @@ TEST_P(DrawingPopup, HoldsWhatTheRoofKnows) {
     const QMenu* popup = program_.OpenDrawingPopup();
     ASSERT_NE(popup, nullptr);
     EXPECT_EQ(popup->objectName(), row.roof == std::string("Gambrel") ? "mnuPopUp2" : "mnuPopUp1");
-    EXPECT_EQ(EntriesOf(*popup, program_.Document().menus), expected) << "page " << page;
+    EXPECT_EQ(EntriesOf(*popup, program_.Document().design.menus), expected) << "page " << page;
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   }
@@ -96,7 +96,7 @@ TEST_F(FreshHipPopup, HasItsLayoutsAfterThePageWasTurned) {
   program_.Press("Hip");
   const auto holds = [this](const char* name) {
     const QMenu* popup = program_.OpenDrawingPopup();
-    const auto entries = EntriesOf(*popup, program_.Document().menus);
+    const auto entries = EntriesOf(*popup, program_.Document().design.menus);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     return std::find(entries.begin(), entries.end(), name) != entries.end();
   };

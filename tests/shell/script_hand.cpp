@@ -1,9 +1,10 @@
 #include "script_hand.h"
+#include "../support/document_api.h"
 
 #include <QAbstractItemView>
 
-#include "session/script_line.h"
 #include "core/number_text.h"
+#include "session/script_line.h"
 #include "shell/twips.h"
 
 namespace pitchcraft::testing {
@@ -127,8 +128,8 @@ void ScriptHand::Resize(std::string_view size) {
 HandAndDriver::HandAndDriver() {
   OpenForTest(window);
   Start(driven);
-  driven.Window.Width = window.width() * kTwipsPerPixel;
-  driven.Window.Height = window.height() * kTwipsPerPixel;
+  driven.window.Place.Width = window.width() * kTwipsPerPixel;
+  driven.window.Place.Height = window.height() * kTwipsPerPixel;
   FollowSize(driven);
   Compare("start");
 }

@@ -111,7 +111,7 @@ TEST_F(SessionTest, WindowOfALargerScreenFitsThisOne) {
   }
   const auto second = Start();
   EXPECT_EQ(second->window.size(), QSize(screen.width(), screen.height() - 100));
-  EXPECT_EQ(second->Document().Window.Width, screen.width() * kTwipsPerPixel);
+  EXPECT_EQ(second->Document().window.Place.Width, screen.width() * kTwipsPerPixel);
   EXPECT_EQ(second->Find("StatusBar").width(), screen.width());
 }
 
@@ -176,16 +176,16 @@ TEST_F(SessionTest, ColorsAndIncrementsAreKept) {
   EXPECT_EQ(palette.color(QPalette::Active, QPalette::Text), QColor(Qt::green));
   const QImage picture = second->Find("Picture1").grab().toImage();
   EXPECT_EQ(picture.pixelColor(2, 2), QColor(0x40, 0x30, 0x20));
-  EXPECT_EQ(second->Document().LineColor, 0x00FF0000U);
-  EXPECT_EQ(second->Document().LineWidth, 3);
-  EXPECT_TRUE(second->Document().RotateFonts);
+  EXPECT_EQ(second->Document().preferences.LineColor, 0x00FF0000U);
+  EXPECT_EQ(second->Document().preferences.LineWidth, 3);
+  EXPECT_TRUE(second->Document().preferences.RotateFonts);
   second->Box("FtSpan(0)").setFocus();
   second->Key(Qt::Key_Up);
-  EXPECT_EQ(double(second->Document().Rafter1.Span), 146.5);
+  EXPECT_EQ(double(second->Document().design.Rafter1.Span), 146.5);
   second->Trigger("mnuMetric");
   second->Box("FtSpan(0)").setFocus();
   second->Key(Qt::Key_Up);
-  EXPECT_EQ(double(second->Document().Rafter1.Span), 3625);
+  EXPECT_EQ(double(second->Document().design.Rafter1.Span), 3625);
 }
 
 TEST_F(SessionTest, LayoutOptionsAreKept) {
@@ -194,7 +194,7 @@ TEST_F(SessionTest, LayoutOptionsAreKept) {
     first->Press("Hip");
     first->Trigger("mnuHipLayoutCornersFlush");
     first->Trigger("mnuHipLayoutJackMeasurement");
-    EXPECT_TRUE(first->Document().menus.HipLayoutOverhangsEqual.Checked);
+    EXPECT_TRUE(first->Document().design.menus.HipLayoutOverhangsEqual.Checked);
     first->Type("LWSlope(2).Left", "9");
     first->Key(Qt::Key_Return);
     first->Trigger("mnuHipLayoutOverhangsEqual");
@@ -218,9 +218,9 @@ TEST_F(SessionTest, RecentFilesAreKeptAndOpen) {
     EXPECT_FALSE(first->Find<QAction>("mnuFileMRU(0)").isVisible());
     first->Type("FtSpan(0)", "15'");
     first->Key(Qt::Key_Return);
-    EXPECT_TRUE(first->Document().SaveRafter(barn));
+    EXPECT_TRUE(SaveProject(first->Document(), barn));
     first->Press("Shed");
-    EXPECT_TRUE(first->Document().SaveRafter(shed));
+    EXPECT_TRUE(SaveProject(first->Document(), shed));
   }
   const auto second = Start();
   EXPECT_TRUE(second->Find<QAction>("mnuFileMRU(0)").text().endsWith("Shed.pcf"));
@@ -228,7 +228,7 @@ TEST_F(SessionTest, RecentFilesAreKeptAndOpen) {
   EXPECT_FALSE(second->Find<QAction>("mnuFileMRU(2)").isVisible());
   second->Trigger("mnuFileMRU(1)");
   EXPECT_EQ(second->Box("FtSpan(0)").Entry(), "15' 0\"");
-  EXPECT_EQ(second->Document().ProjectName, "barn");
+  EXPECT_EQ(second->Document().project.Name, "barn");
   EXPECT_TRUE(second->dialogs.messages.empty());
 }
 
@@ -274,22 +274,22 @@ TEST_P(RubbishTest, TheProgramStartsWorksAndLeavesSomethingBetter) {
     EXPECT_LE(window.width(), std::max(screen.width(), window.minimumWidth()));
     EXPECT_LE(window.height(), std::max(screen.height(), window.minimumHeight()));
     window.grab();
-    if (!hand.Document().menus.Imperial.Checked) hand.Trigger("mnuImperial");
+    if (!hand.Document().design.menus.Imperial.Checked) hand.Trigger("mnuImperial");
     hand.Trigger("mnuSettingsRiseOverRun");
     hand.Type("FtSpan(0)", "150");
     hand.Key(Qt::Key_Return);
-    EXPECT_EQ(double(hand.Document().Rafter1.Span), 150);
+    EXPECT_EQ(double(hand.Document().design.Rafter1.Span), 150);
     hand.Press("Hip");
-    EXPECT_EQ(hand.Document().RoofType, Roof::kHip);
-    for (int place = 0; place < 4; ++place) hand.Document().mnuFileMRU_Click(place);
+    EXPECT_EQ(hand.Document().design.RoofType, Roof::kHip);
+    for (int place = 0; place < 4; ++place) OpenRecentProject(hand.Document(), place);
     window.close();
   }
   MainWindow next({dialogs, store, {}});
   next.Open();
   QApplication::processEvents();
   EXPECT_TRUE(next.isVisible());
-  EXPECT_TRUE(next.Document().Imperial());
-  EXPECT_TRUE(next.Document().menus.SettingsRiseOverRun.Checked);
+  EXPECT_TRUE(!next.Document().design.Metric);
+  EXPECT_TRUE(next.Document().design.menus.SettingsRiseOverRun.Checked);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -15,14 +15,14 @@ struct ButtonRow {
 void PrintTo(const ButtonRow& row, std::ostream* stream) { *stream << row.key; }
 
 /// A roof's button, pressed on a page of another roof.
-Deed ShowsRoof(int code, const char* caption) {
+Deed ShowsRoof(Roof code, const char* caption) {
   return [=](WholeProgram& program, const Pick& press) {
     program.Press(code == Roof::kHip ? "Valley" : "Hip");
     program.TurnTo(1);
     EXPECT_FALSE(program.Find("Picture1").isVisible());
     press();
-    EXPECT_EQ(program.Document().RoofType, code);
-    EXPECT_EQ(program.Document().CurrentTab, 0);
+    EXPECT_EQ(program.Document().design.RoofType, code);
+    EXPECT_EQ(PageShown(program.Document().design), 0);
     EXPECT_TRUE(program.Find("Picture1").isVisible());
     EXPECT_EQ(program.Find<QTabBar>("VSTab(0)").currentIndex(), 0);
     EXPECT_EQ(program.Find<QComboBox>("cboType").currentText(), caption);
@@ -32,7 +32,7 @@ Deed ShowsRoof(int code, const char* caption) {
     EXPECT_EQ(program.Find("Level").isVisible(), code == Roof::kGambrel);
     EXPECT_EQ(program.Find("Toolbar1").isVisible(), code == Roof::kBay);
     EXPECT_EQ(program.Find("VSTab(1)").isVisible(), code == Roof::kDualSlope);
-    for (const ToolButton& button : program.Document().toolBar.Buttons()) {
+    for (const ToolButton& button : program.Document().design.toolBar.Buttons()) {
       if (button.RoofListIndex < 0) continue;
       const std::string key(button.Key);
       EXPECT_EQ(program.Find<QToolButton>(key).isChecked(),
@@ -114,9 +114,9 @@ using ToolBarWindow = WindowTest;
 TEST_F(ToolBarWindow, RoofButtonComesBackFromTheRearRoof) {
   Press("Dual");
   Find<QTabBar>("VSTab(1)").setCurrentIndex(1);
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 1);
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 1);
   Press("Dual");
-  EXPECT_EQ(Document().sheet.Tabs[1].Page, 0);
+  EXPECT_EQ(Document().design.sheet.Tabs[1].Page, 0);
   EXPECT_TRUE(Find("FtSpan(0)").isVisible());
 }
 

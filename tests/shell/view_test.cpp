@@ -232,7 +232,7 @@ TEST_F(View, KeysOfTheWindowWhereverTheFocusIs) {
 
 TEST_F(View, TheKeysServeThePageThatShows) {
   Press("Hip");
-  Document().VSTab_Switch(0, 0, 1);
+  ShowPage(Document(), 0, 1);
   window_.ShowState();
   ASSERT_TRUE(Picture(3).isVisible());
   Key(Qt::Key_Plus, Qt::ControlModifier);

@@ -32,7 +32,9 @@ struct WholeProgram : WindowHand {
   std::string PathOf(const std::string& name) const { return folder.PathOf(name); }
   std::string Status() { return Find<QLabel>("StatusBar").text().toStdString(); }
   /// The picture that shows, as it is painted.
-  QImage Shown() { return Find(PageShown(Document().design) == 0 ? "Picture1" : "Picture3").grab().toImage(); }
+  QImage Shown() {
+    return Find(PageShown(Document().design) == 0 ? "Picture1" : "Picture3").grab().toImage();
+  }
   void TurnTo(int page) {
     auto& tabs = Find<QTabBar>("VSTab(0)");
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(page).center());

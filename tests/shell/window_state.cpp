@@ -47,7 +47,8 @@ void Tell(std::ostringstream& out, const Rafter& rafter) {
 std::string StateOf(Document& document) {
   std::ostringstream out;
   out << document.window.Title << "\n"
-      << document.design.RoofType << " " << UnitRun(document.design) << " " << PageShown(document.design) << "\n";
+      << static_cast<int>(document.design.RoofType) << " " << UnitRun(document.design) << " "
+      << PageShown(document.design) << "\n";
   for (const AnyControl& any : document.design.sheet.Controls()) {
     const Control& control = ControlOf(any);
     out << control.Name << " " << control.Visible << control.Enabled << " " << control.Top << " ";

@@ -13,6 +13,7 @@
 #include <QToolButton>
 #include <set>
 
+#include "../support/document_api.h"
 #include "core/rafter_members.h"
 #include "document/null_surroundings.h"
 #include "shell/entry_box.h"
@@ -77,18 +78,13 @@ class WindowTest : public ::testing::Test, protected WindowHand {
  protected:
   WindowTest() : WindowHand(window_), window_(surroundings_.Get()) { OpenForTest(window_); }
 
-  /// Counts the calculations of the first rafter from here on.
-  void CountCalculations() {
-    auto calculated = Document().design.Rafter1.Calculated;
-    Document().design.Rafter1.Calculated = [this, calculated] {
-      ++calculations_;
-      calculated();
-    };
-  }
+  /// Counts the actions from here on: each makes one figure.
+  void CountActions() { figures_ = Document().FigureCount(); }
+  long ActionsTaken() { return Document().FigureCount() - figures_; }
 
   NullSurroundings surroundings_;
   MainWindow window_;
-  int calculations_ = 0;
+  long figures_ = 0;
 };
 
 }  // namespace pitchcraft::testing

@@ -17,8 +17,12 @@ class RandomWalk {
   std::string Step() {
     switch (Below(12)) {
       case 0: return Pick("cboType", Any(document_.design.sheet.RoofList.List()));
-      case 1: return Say("press", document_.design.toolBar.Buttons()[Below(document_.design.toolBar.Buttons().size())].Key);
-      case 2: return Say("click", document_.design.menus.Items()[Below(document_.design.menus.Items().size())]->Name);
+      case 1:
+        return Say("press",
+                   document_.design.toolBar.Buttons()[Below(document_.design.toolBar.Buttons().size())].Key);
+      case 2:
+        return Say("click",
+                   document_.design.menus.Items()[Below(document_.design.menus.Items().size())]->Name);
       case 3: return Page();
       case 4: return Size();
       case 5: return Mouse();
@@ -70,7 +74,8 @@ class RandomWalk {
     document_.window.Place.Width = static_cast<int>(Below(40000));
     document_.window.Place.Height = static_cast<int>(Below(25000));
     FollowSize(document_);
-    return "size " + std::to_string(document_.window.Place.Width) + " " + std::to_string(document_.window.Place.Height);
+    return "size " + std::to_string(document_.window.Place.Width) + " " +
+           std::to_string(document_.window.Place.Height);
   }
 
   std::string Mouse() {
