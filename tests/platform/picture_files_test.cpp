@@ -15,7 +15,7 @@
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"
-#include "support/document_api.h"
+#include "../support/document_api.h"
 
 namespace pitchcraft {
 namespace {
