@@ -11,11 +11,11 @@
 #include <QMimeData>
 #include <QTemporaryDir>
 
+#include "../support/document_api.h"
 #include "core/run_time_error.h"
 #include "document/null_surroundings.h"
 #include "drawing/arial_meter.h"
 #include "platform/clipboard.h"
-#include "../support/document_api.h"
 
 namespace pitchcraft {
 namespace {
