@@ -85,7 +85,8 @@ void CompareWithPainting() {
 
 void CommitsOfEachRoof() {
   std::printf("commit on each roof type\n");
-  for (const RoofTypeRow& row : RoofTypes()) {
+  for (const RoofType* type : RoofTypes()) {
+    const RoofType::Facts& row = type->About();
     Bench bench;
     bench.actions.Pick("cboType", row.Item);
     const bool bay = row.Code == Roof::kBay;

@@ -27,7 +27,7 @@ namespace {
 constexpr double kNoticed = 50;  // ms
 constexpr int kRounds = 5;
 
-struct Step {
+struct TimedStep {
   double milliseconds = 0;
   std::string what;
 };
@@ -39,7 +39,7 @@ void Show(MainWindow& window) {
   window.repaint();
 }
 
-void Play(const std::filesystem::path& example, std::vector<Step>& steps) {
+void Play(const std::filesystem::path& example, std::vector<TimedStep>& steps) {
   std::ostringstream output;
   ScriptDialogs dialogs(output);
   MemoryStore store;
@@ -79,7 +79,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir scratch;
   if (!QDir::setCurrent(scratch.path())) return 1;
   SetUpApplication();
-  std::vector<Step> steps;
+  std::vector<TimedStep> steps;
   for (int round = 0; round < kRounds; ++round) {
     for (const auto& entry : std::filesystem::directory_iterator(PITCHCRAFT_SOURCE_DIR "/examples")) {
       if (entry.path().extension() == ".txt") Play(entry.path(), steps);
@@ -87,8 +87,8 @@ int main(int argc, char** argv) {
   }
   if (steps.size() < 100) return std::fputs("bench_window: there are too few examples\n", stderr), 1;
   std::sort(steps.begin(), steps.end(),
-            [](const Step& a, const Step& b) { return a.milliseconds < b.milliseconds; });
-  const Step& slowest = steps.back();
+            [](const TimedStep& a, const TimedStep& b) { return a.milliseconds < b.milliseconds; });
+  const TimedStep& slowest = steps.back();
   std::printf("%zu actions with paint: median %.2f ms, 99 %% below %.2f ms, slowest %.2f ms (%s)\n",
               steps.size(), steps[steps.size() / 2].milliseconds, steps[steps.size() * 99 / 100].milliseconds,
               slowest.milliseconds, slowest.what.c_str());
